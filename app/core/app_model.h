@@ -1,0 +1,146 @@
+#pragma once
+
+#include "hold_watcher.h"
+#include "overlay_controller.h"
+#include "settings.h"
+
+#include <quillon/menu/app_sheet.h>
+#include <quillon/ports/accessibility_access.h>
+#include <quillon/ports/background.h>
+#include <quillon/ports/clock.h>
+#include <quillon/ports/front_application.h>
+#include <quillon/ports/keyboard.h>
+#include <quillon/ports/menu_reader.h>
+#include <quillon/ports/timers.h>
+#include <quillon/records/annotations.h>
+#include <quillon/records/json_codec.h>
+#include <quillon/records/usage.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+/// What of the model changed.
+enum class ModelField {
+    trigger,
+    holdDelay,
+    nudgesOn,
+    countTyped,
+    onboarded,
+    trusted,
+    current,
+    reading,
+    usage,
+    annotations,
+    query,
+    overlaySticky,
+};
+
+/// The program's windows, opened on demand.
+enum class WindowName { welcome, library, practice, settings };
+
+/// What the model needs of the desktop. All of it outlives the model.
+struct AppServices {
+    FrontApplication& frontApplication;
+    MenuReader& menuReader;
+    AccessibilityAccess& accessibility;
+    Keyboard& keyboard;
+    const Clock& clock;
+    Timers& timers;
+    Background& background;
+    PanelHost& panels;
+    Settings& settings;
+    std::int64_t ownPid = 0; ///< this process, whose own menus are none of the model's business
+};
+
+/// The one long-lived object of the program: settings, the front application's sheet, the sheets read so far,
+/// what was learned, and the overlay. Lives on the main thread; views observe `changed` and act through its
+/// operations.
+class AppModel {
+  public:
+    explicit AppModel(AppServices services);
+    ~AppModel();
+    AppModel(const AppModel&) = delete;
+    AppModel& operator=(const AppModel&) = delete;
+
+    /// Emitted after a field got another value.
+    Event<ModelField> changed;
+    /// A view asks for one of the windows.
+    Event<WindowName> windowRequested;
+
+    TriggerKey trigger() const;
+    void setTrigger(TriggerKey trigger);
+    Seconds holdDelay() const;
+    void setHoldDelay(Seconds delay);
+
+    /// Whether other applications' menus may be read.
+    bool trusted() const { return m_trusted; }
+    /// The sheet of the front application; absent before the first one is known.
+    const std::optional<AppSheet>& current() const { return m_current; }
+    /// Every sheet read so far, by bundle identifier; none is empty.
+    const SheetMap& sheets() const { return m_sheets; }
+    /// Whether the menus of an application are being read.
+    bool reading() const { return m_readsUnderWay > 0; }
+    const UsageBook& usage() const { return m_usage; }
+    const AnnotationBook& annotations() const { return m_annotations; }
+    /// What is typed in the overlay's search field.
+    const std::string& query() const { return m_query; }
+    void setQuery(std::string query);
+    /// Whether the overlay stays open when the trigger key is let go.
+    bool overlaySticky() const { return m_overlaySticky; }
+
+    /// Begins to watch the desktop.
+    void start();
+    /// One look at the accessibility permission; what follows from a change is done at once.
+    void refreshTrust();
+    void frontAppChanged(const RunningApp& app);
+    /// Reads the application's menus in the background.
+    void read(const RunningApp& app);
+
+    void showOverlay(Stickiness stickiness);
+    /// Closes the overlay and clears the search.
+    void closeOverlay();
+    /// The user started to use a held overlay: it stays, and takes the keyboard.
+    void keepOverlayOpen();
+    bool overlayVisible() const { return m_overlay.isVisible(); }
+
+    /// Pins or unpins a command of an application.
+    void togglePin(const std::string& bundleID, const std::string& entryID);
+    void requestWindow(WindowName name) { windowRequested.emit(name); }
+
+    /// Takes over a sheet and what is known of its commands instead of reading any: for showing the program
+    /// with sample data.
+    void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations);
+
+    /// Whether the practice window has the keyboard; asked before a held overlay shows. Absent: never.
+    std::function<bool()> practiceHasKeyboard;
+
+  private:
+    void applyWatchers();
+    void setCurrent(std::optional<AppSheet> sheet);
+    void setSticky(bool sticky);
+    void readArrived(const RunningApp& app, AppSheet sheet, bool readAnything);
+
+    AppServices m_services;
+    OverlayController m_overlay;
+    HoldWatcher m_hold;
+    bool m_trusted = false;
+    std::optional<AppSheet> m_current;
+    SheetMap m_sheets;
+    int m_readsUnderWay = 0;
+    UsageBook m_usage;
+    AnnotationBook m_annotations;
+    std::string m_query;
+    bool m_overlaySticky = false;
+    Subscription m_activation;
+    Subscription m_trustChange;
+    Subscription m_trustTimer;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true); ///< expires with the model
+};
+
+} // namespace quillon

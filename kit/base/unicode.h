@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Text is UTF-8. These functions follow Unicode's own rules, independent of the locale (ICU). Bytes that are
+/// not UTF-8 never fail: each maximal broken sequence counts as one U+FFFD.
+namespace quillon::unicode {
+
+/// The full upper-case mapping ("ß" gives "SS").
+std::string toUpper(std::string_view text);
+
+/// The full lower-case mapping ("İ" gives "i̇").
+std::string toLower(std::string_view text);
+
+/// Whether `text` is exactly one character as a reader counts them: one extended grapheme cluster.
+bool isOneCharacter(std::string_view text);
+
+/// The only scalar value of `text`, absent when it holds none or several.
+std::optional<char32_t> onlyScalar(std::string_view text);
+
+/// The first scalar value of `text`, absent when it is empty.
+std::optional<char32_t> firstScalar(std::string_view text);
+
+/// Whether every scalar of `text` has the property White_Space; false for the empty text.
+bool isWhitespace(std::string_view text);
+
+/// Whether the scalar has the property White_Space.
+bool isWhitespace(char32_t scalar);
+
+/// Whether `text` is one character whose first scalar is alphabetic (general category L or Nl, or property
+/// Alphabetic).
+bool isLetter(std::string_view text);
+
+/// Whether the bytes are well-formed UTF-8.
+bool isValid(std::string_view bytes);
+
+/// `bytes` with every maximal broken sequence replaced by U+FFFD.
+std::string repaired(std::string_view bytes);
+
+/// `text` cut after at most `limit` bytes, never inside of a scalar.
+std::string_view truncated(std::string_view text, std::size_t limit);
+
+} // namespace quillon::unicode

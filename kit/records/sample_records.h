@@ -1,0 +1,15 @@
+#pragma once
+
+#include <quillon/records/annotations.h>
+#include <quillon/records/usage.h>
+
+/// What the user of the sample application (menu/sample_menus.h) has done and said so far.
+namespace quillon::SampleMenus {
+
+/// By entry id; no dates.
+const UsageRecords& usage();
+
+/// By entry id.
+const Annotations& annotations();
+
+} // namespace quillon::SampleMenus
