@@ -4,6 +4,8 @@
 
 #include <quillon/ports/accessibility_access.h>
 
+#include <utility>
+
 namespace quillon {
 
 /// A permission that is given and taken by hand; not given at first.
