@@ -22,7 +22,7 @@ class DateReader : public Reader {
 class PayloadReader : public ObjectReader {
   public:
     PayloadReader() { field("_0", m_text); }
-    const std::string& text() const { return m_text.value; }
+    const std::string& payload() const { return m_text.value; }
 
   private:
     TextReader m_text;
@@ -41,10 +41,10 @@ class KeyReader : public ObjectReader {
         if (seen("char") == seen("special"))
             return false;
         if (seen("char")) {
-            value = Key::character(m_character.text());
+            value = Key::character(m_character.payload());
             return true;
         }
-        const std::optional<SpecialKey> special = SpecialKeys::fromRawValue(m_special.text());
+        const std::optional<SpecialKey> special = SpecialKeys::fromRawValue(m_special.payload());
         if (special)
             value = Key::special(*special);
         return special.has_value();
