@@ -8,6 +8,7 @@
 #include <xcb/xcb.h>
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -46,9 +47,14 @@ struct X11Extensions {
 /// does nothing and no event comes.
 class X11Connection : public std::enable_shared_from_this<X11Connection> {
   public:
+    /// How long a reply is waited for. The main thread is never to be held up longer than 5 ms by another
+    /// process; this leaves a little for the rest of what it does.
+    static constexpr std::chrono::milliseconds mainThreadPatience{4};
+
     /// Connects to `display`, or to $DISPLAY when it is empty. Waits for the server; nullptr when there is
     /// none.
-    static std::shared_ptr<X11Connection> open(const std::string& display = {});
+    static std::shared_ptr<X11Connection>
+    open(const std::string& display = {}, std::chrono::milliseconds patience = mainThreadPatience);
     ~X11Connection();
     X11Connection(const X11Connection&) = delete;
     X11Connection& operator=(const X11Connection&) = delete;
@@ -63,8 +69,8 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     /// The part of a window's number that tells which client made it.
     std::uint32_t clientBase(xcb_window_t window) const { return window & ~m_resourceMask; }
 
-    /// The reply to a request. Waits for it, but not longer than the main thread may: a server that does not
-    /// answer in time (another client has grabbed it) makes the reply absent, and those of all requests
+    /// The reply to a request. Waits for it, but not longer than its patience: a server that does not answer
+    /// in time (another client has grabbed it) makes the reply absent, and those of all requests
     /// until it answers again. See `onCaughtUp`.
     template <class T, class Cookie>
     X11Reply<T> reply(Cookie cookie) {
@@ -100,7 +106,8 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     };
     using XcbPointer = std::unique_ptr<xcb_connection_t, Disconnect>;
 
-    X11Connection(XcbPointer xcb, int screenNumber, const xcb_screen_t& screen);
+    X11Connection(
+        XcbPointer xcb, int screenNumber, const xcb_screen_t& screen, std::chrono::milliseconds patience);
     void internAtoms();
     void startPump();
 
@@ -115,6 +122,7 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     XcbPointer m_xcb;
     int m_screenNumber;
     xcb_screen_t m_screen;
+    std::chrono::milliseconds m_patience;
     std::uint32_t m_resourceMask;
     std::array<xcb_atom_t, x11Names.size()> m_atoms{};
     X11Extensions m_extensions;
