@@ -1,6 +1,7 @@
 #include "text_styles.h"
 
 #include <QFontInfo>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>

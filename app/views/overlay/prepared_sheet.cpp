@@ -44,13 +44,15 @@ PreparedSheet::prepare(const AppSheet& sheet, const AnnotationBook& annotations,
 
     prepared.entries.reserve(sheet.entries.size());
     for (const MenuEntry& entry : sheet.entries) {
-        PreparedEntry made;
-        made.id = entry.id();
-        made.title = singleLine(entry.title());
-        made.submenu = singleLine(entry.submenuPath());
-        made.shortcut = entry.shortcut;
-        made.menu = menus.of(entry.menu());
-        made.enabled = entry.enabled;
+        PreparedEntry made{
+            .id = entry.id(),
+            .title = singleLine(entry.title()),
+            .submenu = singleLine(entry.submenuPath()),
+            .shortcut = entry.shortcut,
+            .menu = menus.of(entry.menu()),
+            .enabled = entry.enabled,
+            .note = {},
+        };
         if (const auto annotation = said.find(made.id); annotation != said.end()) {
             made.pinned = annotation->second.pinned;
             made.note = singleLine(annotation->second.note);

@@ -6,6 +6,7 @@
 #include <quillon/components/theme_source.h>
 
 #include <QAbstractScrollArea>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QPointer>
 
