@@ -6,8 +6,9 @@
 namespace quillon {
 
 Showcase::Showcase(
-    const Clock& clock, Timers& timers, Background& background, PanelHost& panels, Settings& settings)
-    : m_model({
+    const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
+    PanelWindows& windows, Settings& settings)
+    : m_panels(themes, icons, windows, OverlayMode::showcase), m_model({
           .frontApplication = m_none.front,
           .menuReader = m_none.menus,
           .accessibility = m_none.access,
@@ -15,7 +16,7 @@ Showcase::Showcase(
           .clock = clock,
           .timers = timers,
           .background = background,
-          .panels = panels,
+          .panels = m_panels,
           .settings = settings,
       }) {
     m_model.showSample(SampleMenus::sheet(), SampleMenus::usage(), SampleMenus::annotations());
