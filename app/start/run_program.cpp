@@ -70,8 +70,7 @@ int runProgram(int argc, char** argv, FirstShow firstShow) {
     case InstanceService::Claim::noSessionBus:
         std::cerr << "quillon: there is no session bus; menus cannot be read, see quillon doctor\n";
         break;
-    case InstanceService::Claim::alreadyTaken:
-        return askRunning(firstShow);
+    case InstanceService::Claim::alreadyTaken: return askRunning(firstShow);
     }
     program.start(firstShow);
     return QApplication::exec();

@@ -13,10 +13,6 @@ namespace quillon {
 
 namespace {
 
-/// The main thread is never held up longer than 5 ms by another process, of which this leaves a little for
-/// the rest of what it does.
-constexpr std::chrono::milliseconds patience{4};
-
 const xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
     for (auto it = xcb_setup_roots_iterator(xcb_get_setup(connection)); it.rem > 0; xcb_screen_next(&it)) {
         if (number-- == 0)
@@ -27,7 +23,8 @@ const xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
 
 } // namespace
 
-std::shared_ptr<X11Connection> X11Connection::open(const std::string& display) {
+std::shared_ptr<X11Connection>
+X11Connection::open(const std::string& display, std::chrono::milliseconds patience) {
     int screenNumber = 0;
     XcbPointer xcb(xcb_connect(display.empty() ? nullptr : display.c_str(), &screenNumber));
     if (xcb_connection_has_error(xcb.get()) != 0)
@@ -35,15 +32,17 @@ std::shared_ptr<X11Connection> X11Connection::open(const std::string& display) {
     const xcb_screen_t* screen = screenOf(xcb.get(), screenNumber);
     if (screen == nullptr)
         return nullptr;
-    const std::shared_ptr<X11Connection> connection(new X11Connection(std::move(xcb), screenNumber, *screen));
+    const std::shared_ptr<X11Connection> connection(
+        new X11Connection(std::move(xcb), screenNumber, *screen, patience));
     connection->m_extensions = queryExtensions(connection->xcb());
     connection->internAtoms();
     connection->startPump();
     return connection->isAlive() ? connection : nullptr;
 }
 
-X11Connection::X11Connection(XcbPointer xcb, int screenNumber, const xcb_screen_t& screen)
-    : m_xcb(std::move(xcb)), m_screenNumber(screenNumber), m_screen(screen),
+X11Connection::X11Connection(
+    XcbPointer xcb, int screenNumber, const xcb_screen_t& screen, std::chrono::milliseconds patience)
+    : m_xcb(std::move(xcb)), m_screenNumber(screenNumber), m_screen(screen), m_patience(patience),
       m_resourceMask(xcb_get_setup(m_xcb.get())->resource_id_mask) {}
 
 X11Connection::~X11Connection() = default;
@@ -116,7 +115,7 @@ std::optional<void*> X11Connection::poll(unsigned sequence) {
 
 void* X11Connection::waitForReply(unsigned sequence) {
     flush();
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + m_patience;
     std::optional<void*> answer = poll(sequence);
     while (!answer && !m_late && isAlive()) {
         const auto left =

@@ -8,6 +8,7 @@
 #include <xcb/xcb.h>
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -46,9 +47,14 @@ struct X11Extensions {
 /// does nothing and no event comes.
 class X11Connection : public std::enable_shared_from_this<X11Connection> {
   public:
-    /// Connects to `display`, or to $DISPLAY when it is empty. Waits for the server; nullptr when there is
-    /// none.
-    static std::shared_ptr<X11Connection> open(const std::string& display = {});
+    /// The main thread is never held up longer than 5 ms by another process, of which this leaves a little
+    /// for the rest of what it does.
+    static constexpr std::chrono::milliseconds mainThreadPatience{4};
+
+    /// Connects to `display`, or to $DISPLAY when it is empty. `patience` is how long a reply is waited for.
+    /// Waits for the server; nullptr when there is none.
+    static std::shared_ptr<X11Connection>
+    open(const std::string& display = {}, std::chrono::milliseconds patience = mainThreadPatience);
     ~X11Connection();
     X11Connection(const X11Connection&) = delete;
     X11Connection& operator=(const X11Connection&) = delete;
@@ -100,7 +106,8 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     };
     using XcbPointer = std::unique_ptr<xcb_connection_t, Disconnect>;
 
-    X11Connection(XcbPointer xcb, int screenNumber, const xcb_screen_t& screen);
+    X11Connection(
+        XcbPointer xcb, int screenNumber, const xcb_screen_t& screen, std::chrono::milliseconds patience);
     void internAtoms();
     void startPump();
 
@@ -115,6 +122,7 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     XcbPointer m_xcb;
     int m_screenNumber;
     xcb_screen_t m_screen;
+    std::chrono::milliseconds m_patience;
     std::uint32_t m_resourceMask;
     std::array<xcb_atom_t, x11Names.size()> m_atoms{};
     X11Extensions m_extensions;
