@@ -47,12 +47,12 @@ struct X11Extensions {
 /// does nothing and no event comes.
 class X11Connection : public std::enable_shared_from_this<X11Connection> {
   public:
-    /// How long a reply is waited for. The main thread is never to be held up longer than 5 ms by another
-    /// process; this leaves a little for the rest of what it does.
+    /// The main thread is never held up longer than 5 ms by another process, of which this leaves a little
+    /// for the rest of what it does.
     static constexpr std::chrono::milliseconds mainThreadPatience{4};
 
-    /// Connects to `display`, or to $DISPLAY when it is empty. Waits for the server; nullptr when there is
-    /// none.
+    /// Connects to `display`, or to $DISPLAY when it is empty. `patience` is how long a reply is waited for.
+    /// Waits for the server; nullptr when there is none.
     static std::shared_ptr<X11Connection>
     open(const std::string& display = {}, std::chrono::milliseconds patience = mainThreadPatience);
     ~X11Connection();
@@ -69,8 +69,8 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     /// The part of a window's number that tells which client made it.
     std::uint32_t clientBase(xcb_window_t window) const { return window & ~m_resourceMask; }
 
-    /// The reply to a request. Waits for it, but not longer than its patience: a server that does not answer
-    /// in time (another client has grabbed it) makes the reply absent, and those of all requests
+    /// The reply to a request. Waits for it, but not longer than the main thread may: a server that does not
+    /// answer in time (another client has grabbed it) makes the reply absent, and those of all requests
     /// until it answers again. See `onCaughtUp`.
     template <class T, class Cookie>
     X11Reply<T> reply(Cookie cookie) {
