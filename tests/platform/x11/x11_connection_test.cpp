@@ -54,6 +54,26 @@ TEST_F(X11ConnectionTest, SelectionsOfOneWindowDoNotDisturbEachOther) {
     EXPECT_TRUE(waitFor([&] { return told == 1; }));
 }
 
+struct X11LateConnectionTest : X11Fixture {
+    X11LateConnectionTest() { patience = X11Connection::mainThreadPatience; }
+};
+
+TEST_F(X11LateConnectionTest, CatchesUpWhateverIsAskedBeforeItsAnswersAreRead) {
+    client->grabServer();
+    while (!x11->isLate())
+        x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root()));
+    client->ungrabServer();
+    client->sync();
+    int caughtUp = 0;
+    const auto listener = x11->onCaughtUp([&] { ++caughtUp; });
+    EXPECT_EQ(x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root())), nullptr);
+    EXPECT_TRUE(waitFor([&] { return caughtUp == 1; }));
+    EXPECT_FALSE(x11->isLate());
+    EXPECT_TRUE(waitFor([&] {
+        return x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root())) != nullptr;
+    }));
+}
+
 TEST(X11ConnectionWithoutServerTest, IsAbsent) {
     EXPECT_EQ(X11Connection::open("/nonexistent/socket:0"), nullptr);
     EXPECT_EQ(X11Connection::open("no display at all"), nullptr);
