@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <poll.h>
 
 namespace quillon {
 namespace {
@@ -63,7 +64,8 @@ TEST_F(X11LateConnectionTest, CatchesUpWhateverIsAskedBeforeItsAnswersAreRead) {
     while (!x11->isLate())
         x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root()));
     client->ungrabServer();
-    client->sync();
+    pollfd socket{xcb_get_file_descriptor(x11->xcb()), POLLIN, 0};
+    ASSERT_EQ(::poll(&socket, 1, 10'000), 1);
     int caughtUp = 0;
     const auto listener = x11->onCaughtUp([&] { ++caughtUp; });
     EXPECT_EQ(x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root())), nullptr);
