@@ -22,6 +22,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quillon {
 
@@ -84,8 +85,8 @@ class AppModel {
     const std::optional<AppSheet>& current() const { return m_current; }
     /// Every sheet read so far, by bundle identifier; none is empty.
     const SheetMap& sheets() const { return m_sheets; }
-    /// Whether the menus of an application are being read.
-    bool reading() const { return m_readsUnderWay > 0; }
+    /// Whether the menus of the current application are being read (of any, while none is current).
+    bool reading() const;
     const UsageBook& usage() const { return m_usage; }
     const AnnotationBook& annotations() const { return m_annotations; }
     /// What is typed in the overlay's search field.
@@ -124,7 +125,7 @@ class AppModel {
     void applyWatchers();
     void setCurrent(std::optional<AppSheet> sheet);
     void setSticky(bool sticky);
-    void readArrived(const RunningApp& app, AppSheet sheet, bool readAnything);
+    void readArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
 
     AppServices m_services;
     OverlayController m_overlay;
@@ -132,7 +133,7 @@ class AppModel {
     bool m_trusted = false;
     std::optional<AppSheet> m_current;
     SheetMap m_sheets;
-    int m_readsUnderWay = 0;
+    std::vector<RunningApp> m_underWay; ///< applications whose menus are being read
     UsageBook m_usage;
     AnnotationBook m_annotations;
     std::string m_query;

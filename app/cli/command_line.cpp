@@ -1,0 +1,145 @@
+#include "command_line.h"
+
+#include <QCommandLineParser>
+
+#include <array>
+
+namespace quillon {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const char* const helpText =
+    R"(Usage: quillon [COMMAND]
+
+Teaches the keyboard shortcuts of the applications you already use. Hold the
+trigger key (Super) in any application to see its shortcuts.
+
+Commands:
+  (none)      start the program, or bring up the one that runs
+  show        open the overlay and keep it open
+                --sample          with a made-up drawing application
+  sheet       print an application's shortcuts
+                --app NAME        the application with this id or name
+                --pid N           the application of this process
+                --front           the front application (default)
+                --query Q         only the shortcuts that match Q
+                --format FORMAT   text (default) or json
+  apps        list the running applications that share their menus
+  doctor      say what works on this desktop and how to mend what does not
+  quit        end the running program
+
+Options:
+  --help      print this text
+  --version   print the version
+
+Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
+4 accessibility is absent or off, 5 the application shares no menu shortcuts.
+)";
+
+UsageError unexpected(const QString& what) {
+    return {u"quillon: %1; see quillon --help"_s.arg(what).toStdString()};
+}
+
+/// The options of one command: those that take a value and those that do not.
+std::optional<UsageError> readOptions(
+    QCommandLineParser& parser, const QStringList& arguments, const QList<QCommandLineOption>& options) {
+    parser.addOptions(options);
+    if (!parser.parse(QStringList{u"quillon"_s} + arguments))
+        return unexpected(parser.errorText());
+    if (!parser.positionalArguments().isEmpty())
+        return unexpected(u"unexpected argument '%1'"_s.arg(parser.positionalArguments().constFirst()));
+    return std::nullopt;
+}
+
+std::optional<UsageError> readNoOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    return readOptions(parser, arguments, {});
+}
+
+QCommandLineOption withValue(const QString& name) {
+    return {name, {}, name};
+}
+
+std::optional<std::int64_t> processNumber(const QString& text) {
+    bool isNumber = false;
+    const qlonglong number = text.toLongLong(&isNumber);
+    if (!isNumber || number <= 0)
+        return std::nullopt;
+    return number;
+}
+
+Command parseSheet(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const QCommandLineOption app = withValue(u"app"_s);
+    const QCommandLineOption pid = withValue(u"pid"_s);
+    const QCommandLineOption front(u"front"_s);
+    const QCommandLineOption query = withValue(u"query"_s);
+    const QCommandLineOption format = withValue(u"format"_s);
+    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format}))
+        return *error;
+    if (int(parser.isSet(app)) + int(parser.isSet(pid)) + int(parser.isSet(front)) > 1)
+        return unexpected(u"--app, --pid and --front exclude each other"_s);
+
+    SheetCommand command;
+    if (parser.isSet(app))
+        command.appName = parser.value(app).toStdString();
+    if (parser.isSet(pid)) {
+        command.pid = processNumber(parser.value(pid));
+        if (!command.pid)
+            return unexpected(u"--pid takes a process number, not '%1'"_s.arg(parser.value(pid)));
+    }
+    command.query = parser.value(query).toStdString();
+    const QString formatName = parser.isSet(format) ? parser.value(format) : u"text"_s;
+    if (formatName == "json"_L1)
+        command.format = SheetFormat::json;
+    else if (formatName != "text"_L1)
+        return unexpected(u"--format is text or json, not '%1'"_s.arg(formatName));
+    return command;
+}
+
+Command parseShow(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const QCommandLineOption sample(u"sample"_s);
+    if (auto error = readOptions(parser, arguments, {sample}))
+        return *error;
+    return ShowCommand{parser.isSet(sample)};
+}
+
+template <class T>
+Command parsePlain(const QStringList& arguments) {
+    if (auto error = readNoOptions(arguments))
+        return *error;
+    return T{};
+}
+
+struct Subcommand {
+    const char* name;
+    Command (*parse)(const QStringList& arguments);
+};
+
+constexpr std::array subcommands{
+    Subcommand{"apps", parsePlain<AppsCommand>},
+    Subcommand{"sheet", parseSheet},
+    Subcommand{"show", parseShow},
+    Subcommand{"doctor", parsePlain<DoctorCommand>},
+    Subcommand{"quit", parsePlain<QuitCommand>},
+};
+
+} // namespace
+
+Command parseCommandLine(const QStringList& arguments) {
+    if (arguments.isEmpty())
+        return RunCommand{};
+    if (arguments.contains("--help"_L1) || arguments.contains("-h"_L1))
+        return PrintCommand{helpText};
+    if (arguments.constFirst() == "--version"_L1)
+        return PrintCommand{"quillon " QUILLON_VERSION "\n"};
+    for (const Subcommand& subcommand : subcommands)
+        if (arguments.constFirst() == QLatin1StringView(subcommand.name))
+            return subcommand.parse(arguments.sliced(1));
+    return unexpected(u"unknown command '%1'"_s.arg(arguments.constFirst()));
+}
+
+} // namespace quillon

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QStringList>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace quillon {
+
+/// What the exit code of the program means.
+enum class ExitCode {
+    success = 0,
+    failure = 1,
+    usage = 2,
+    noSuchApp = 3,
+    noAccessibility = 4,
+    noShortcuts = 5,
+};
+
+enum class SheetFormat { text, json };
+
+/// `quillon` alone: be the program.
+struct RunCommand {
+    bool operator==(const RunCommand&) const = default;
+};
+/// `quillon apps`
+struct AppsCommand {
+    bool operator==(const AppsCommand&) const = default;
+};
+/// `quillon sheet`: of the application called `appName`, of process `pid`, or of the front application.
+struct SheetCommand {
+    std::optional<std::string> appName;
+    std::optional<std::int64_t> pid;
+    std::string query;
+    SheetFormat format = SheetFormat::text;
+
+    bool operator==(const SheetCommand&) const = default;
+};
+/// `quillon show`
+struct ShowCommand {
+    bool sample = false;
+
+    bool operator==(const ShowCommand&) const = default;
+};
+/// `quillon doctor`
+struct DoctorCommand {
+    bool operator==(const DoctorCommand&) const = default;
+};
+/// `quillon quit`
+struct QuitCommand {
+    bool operator==(const QuitCommand&) const = default;
+};
+/// `--help`, `--version`: a text to print.
+struct PrintCommand {
+    std::string text;
+
+    bool operator==(const PrintCommand&) const = default;
+};
+/// Not a command line of this program.
+struct UsageError {
+    std::string message; ///< one line
+
+    bool operator==(const UsageError&) const = default;
+};
+
+using Command = std::variant<
+    RunCommand, AppsCommand, SheetCommand, ShowCommand, DoctorCommand, QuitCommand, PrintCommand, UsageError>;
+
+/// Reads the arguments after the program's name.
+Command parseCommandLine(const QStringList& arguments);
+
+} // namespace quillon

@@ -1,0 +1,46 @@
+#include "panel_placement.h"
+
+#include <algorithm>
+
+namespace quillon::PanelPlacement {
+
+namespace {
+
+constexpr double toastWidth = 360;
+constexpr double toastHeight = 92;
+constexpr double toastGapToPointer = 28;
+constexpr double toastMargin = 12;
+
+// The lower bound wins where the room is too small for both.
+double clamped(double value, double low, double high) {
+    return std::max(low, std::min(value, high));
+}
+
+} // namespace
+
+Rect visibleFrame(std::span<const Screen> screens, Point pointer) {
+    const auto under = std::ranges::find_if(
+        screens, [pointer](const Screen& screen) { return screen.frame.contains(pointer); });
+    if (under != screens.end())
+        return under->visibleFrame;
+    if (!screens.empty())
+        return screens.front().visibleFrame;
+    return {0, 0, 1440, 900};
+}
+
+Rect overlayFrame(Rect visible) {
+    const double width = std::min(visible.width * 0.86, 1180.0);
+    const double height = std::min(visible.height * 0.8, 760.0);
+    return {
+        visible.x + (visible.width - width) / 2, visible.y + (visible.height - height) / 2, width, height};
+}
+
+Rect toastFrame(Rect visible, Point pointer) {
+    const double x = clamped(
+        pointer.x - toastWidth / 2, visible.x + toastMargin, visible.right() - toastWidth - toastMargin);
+    const double y = clamped(
+        pointer.y + toastGapToPointer, visible.y + toastMargin, visible.bottom() - toastHeight - toastMargin);
+    return {x, y, toastWidth, toastHeight};
+}
+
+} // namespace quillon::PanelPlacement

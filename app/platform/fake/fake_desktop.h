@@ -1,0 +1,30 @@
+#pragma once
+
+#include "fake_accessibility_access.h"
+#include "fake_app_icons.h"
+#include "fake_appearance.h"
+#include "fake_background.h"
+#include "fake_clock.h"
+#include "fake_front_application.h"
+#include "fake_keyboard.h"
+#include "fake_menu_reader.h"
+#include "fake_panel_windows.h"
+#include "fake_timers.h"
+
+namespace quillon {
+
+/// Every fake that there is, of one clock.
+struct FakeDesktop {
+    FakeClock clock;
+    FakeTimers timers{clock};
+    FakeBackground background;
+    FakeFrontApplication front;
+    FakeMenuReader menus;
+    FakeAccessibilityAccess access;
+    FakeKeyboard keyboard{clock};
+    FakeAppIcons icons;
+    FakeAppearance appearance;
+    FakePanelWindows panels;
+};
+
+} // namespace quillon

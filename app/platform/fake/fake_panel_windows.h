@@ -1,0 +1,54 @@
+#pragma once
+
+#include "counted_event.h"
+
+#include <quillon/ports/panel_windows.h>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace quillon {
+
+/// A desktop that notes what is done with panels. Blends translucent windows at first.
+class FakePanelWindows final : public PanelWindows {
+  public:
+    void prepare(std::uintptr_t window) override { m_prepared.push_back(window); }
+    void takeKeyboard(std::uintptr_t window) override { m_keyboardOwner = window; }
+    void returnKeyboard(std::uintptr_t window) override {
+        if (m_keyboardOwner == window)
+            m_keyboardOwner.reset();
+    }
+    bool isComposited() const override { return m_composited; }
+    Subscription onCompositedChanged(std::function<void()> callback) override {
+        return m_compositedChanged.subscribe(std::move(callback));
+    }
+    Subscription onPressElsewhere(std::function<void()> callback) override {
+        return m_pressElsewhere.subscribe(std::move(callback));
+    }
+
+    /// The windows that were prepared, in order.
+    const std::vector<std::uintptr_t>& prepared() const { return m_prepared; }
+    /// Which of this program's windows has the keyboard; absent while another application has it.
+    std::optional<std::uintptr_t> keyboardOwner() const { return m_keyboardOwner; }
+    /// Gives the keyboard to another application, as its user does by clicking into one.
+    void takeKeyboardAway() { m_keyboardOwner.reset(); }
+    /// Changes the blending, and tells when that changed it.
+    void setComposited(bool composited) {
+        if (std::exchange(m_composited, composited) != composited)
+            m_compositedChanged.emit();
+    }
+    /// A button goes down outside of this program's windows.
+    void pressElsewhere() { m_pressElsewhere.emit(); }
+    /// How many listen for presses elsewhere.
+    std::size_t pressListeners() const { return m_pressElsewhere.listeners(); }
+
+  private:
+    std::vector<std::uintptr_t> m_prepared;
+    std::optional<std::uintptr_t> m_keyboardOwner;
+    bool m_composited = true;
+    CountedEvent<> m_compositedChanged;
+    CountedEvent<> m_pressElsewhere;
+};
+
+} // namespace quillon

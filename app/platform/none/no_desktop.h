@@ -1,0 +1,24 @@
+#pragma once
+
+#include "no_accessibility_access.h"
+#include "no_app_icons.h"
+#include "no_appearance.h"
+#include "no_front_application.h"
+#include "no_keyboard.h"
+#include "no_menu_reader.h"
+#include "no_panel_windows.h"
+
+namespace quillon {
+
+/// Every port of a desktop that offers nothing. Time and background work do not depend on a desktop.
+struct NoDesktop {
+    NoFrontApplication front;
+    NoMenuReader menus;
+    NoAccessibilityAccess access;
+    NoKeyboard keyboard;
+    NoAppIcons icons;
+    NoAppearance appearance;
+    NoPanelWindows panels;
+};
+
+} // namespace quillon

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <quillon/ports/clock.h>
+
+namespace quillon {
+
+/// The machine's clocks.
+class SystemClock final : public Clock {
+  public:
+    Instant now() const override;
+    Instant steadyNow() const override;
+};
+
+} // namespace quillon

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <quillon/ports/background.h>
+
+#include <QObject>
+#include <QThreadPool>
+
+#include <memory>
+#include <stop_token>
+
+namespace quillon {
+
+/// Jobs on a few threads of their own; continuations on the thread that made this object, which runs a Qt
+/// event loop.
+class ThreadBackground final : public Background {
+  public:
+    ThreadBackground();
+    ~ThreadBackground() override;
+
+    void run(Job job) override;
+
+  private:
+    std::stop_source m_stop;
+    std::unique_ptr<QObject> m_mainThread;
+    QThreadPool m_threads;
+};
+
+} // namespace quillon
