@@ -35,7 +35,7 @@ test_packages() {
 # The private desktop and the applications that the tests use in it.
 desktop_packages() {
     echo xvfb x11-utils xdotool openbox picom dbus at-spi2-core \
-        python3 python3-gi gir1.2-atspi-2.0 imagemagick \
+        python3 python3-gi imagemagick \
         fonts-dejavu-core libqt6svg6 hicolor-icon-theme adwaita-icon-theme \
         geany mousepad featherpad designer-qt6
 }
