@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -12,7 +13,8 @@ namespace quillon::unicode {
 /// The full upper-case mapping ("ß" gives "SS").
 std::string toUpper(std::string_view text);
 
-/// The full lower-case mapping ("İ" gives "i̇").
+/// The full lower-case mapping of each scalar on its own ("İ" gives "i̇", "Σ" gives "σ" wherever it stands),
+/// so that a part of a text is still a part of it when both are lower-cased: what a search needs.
 std::string toLower(std::string_view text);
 
 /// Whether `text` is exactly one character as a reader counts them: one extended grapheme cluster.
@@ -24,11 +26,27 @@ std::optional<char32_t> onlyScalar(std::string_view text);
 /// The first scalar value of `text`, absent when it is empty.
 std::optional<char32_t> firstScalar(std::string_view text);
 
+/// How many bytes the first scalar of `text` takes (or the broken sequence that it starts with); 0 when it is
+/// empty.
+std::size_t firstScalarLength(std::string_view text);
+
 /// Whether every scalar of `text` has the property White_Space; false for the empty text.
 bool isWhitespace(std::string_view text);
 
 /// Whether the scalar has the property White_Space.
 bool isWhitespace(char32_t scalar);
+
+/// Whether the scalar ends a line: U+000A to U+000D, U+0085, U+2028, U+2029.
+bool isLineBreak(char32_t scalar);
+
+/// What `trimmed` takes away.
+enum class Trim {
+    blanks,     ///< white space other than line breaks
+    whitespace, ///< line breaks as well
+};
+
+/// `text` without the white space at its ends.
+std::string_view trimmed(std::string_view text, Trim what);
 
 /// Whether `text` is one character whose first scalar is alphabetic (general category L or Nl, or property
 /// Alphabetic).

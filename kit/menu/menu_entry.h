@@ -21,6 +21,8 @@ struct MenuEntry {
     /// `path` joined with `pathSeparator`: the key of everything kept per command. Not the shortcut, so a
     /// changed key equivalent keeps the command's records.
     std::string id() const;
+    /// Whether `id` is this entry's, without building it.
+    bool hasId(std::string_view id) const;
     /// The top-level menu; "" for an empty path.
     std::string_view menu() const;
     /// The item's own title; "" for an empty path.

@@ -11,7 +11,7 @@ namespace quillon {
 /// What the user has said of one command of one application.
 struct Annotation {
     bool pinned = false; ///< shown first on sheets, weighted up in practice
-    std::string note;
+    std::string note = {};
     bool muted = false; ///< no nudges for it
 
     /// Nothing was said. A note of blanks is something.

@@ -18,8 +18,8 @@ struct UsageRecord {
     Count typed = 0;         ///< its shortcut was typed
     Count practiceRight = 0; ///< practice answers that were right
     Count practiceWrong = 0; ///< practice answers that were wrong or revealed
-    std::optional<Instant> lastClicked;
-    std::optional<Instant> lastNudged;
+    std::optional<Instant> lastClicked = {};
+    std::optional<Instant> lastNudged = {};
 
     bool operator==(const UsageRecord&) const = default;
 };

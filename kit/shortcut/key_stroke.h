@@ -10,9 +10,9 @@ namespace quillon {
 
 /// One key press as it was observed.
 struct KeyStroke {
-    std::string characters;   ///< what the press produced; may be empty
-    std::int64_t keyCode = 0; ///< macOS virtual key code
-    Modifiers modifiers;      ///< what was held
+    std::string characters = {}; ///< what the press produced; may be empty
+    std::int64_t keyCode = 0;    ///< macOS virtual key code
+    Modifiers modifiers = {};    ///< what was held
 
     /// Whether this press is the use of `shortcut`. Letters compare case-blind but must agree on ⇧; a shifted
     /// symbol counts by what it produced or, where both have ⇧, by the unshifted key of an ANSI keyboard.

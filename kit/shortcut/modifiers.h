@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,9 @@ class Modifiers {
     constexpr bool insert(Modifiers other);
     /// Takes `other` out; true when any of it was there.
     constexpr bool remove(Modifiers other);
+
+    /// Puts `other` in; what of it was there already, absent when nothing was.
+    constexpr std::optional<Modifiers> update(Modifiers other);
 
     /// The glyphs of the members, always in the order ⌃⌥⇧⌘; "" for none.
     std::string glyphs() const;
@@ -87,6 +91,12 @@ constexpr bool Modifiers::remove(Modifiers other) {
     const bool held = !isDisjoint(other);
     m_raw &= ~other.m_raw;
     return held;
+}
+
+constexpr std::optional<Modifiers> Modifiers::update(Modifiers other) {
+    const Modifiers held = intersected(other);
+    m_raw |= other.m_raw;
+    return held.isEmpty() ? std::nullopt : std::optional(held);
 }
 
 } // namespace quillon

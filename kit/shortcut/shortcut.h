@@ -12,10 +12,10 @@ namespace quillon {
 
 /// The four attributes in which a menu item tells its key equivalent; each absent when the item lacks it.
 struct AxKeyEquivalent {
-    std::optional<std::string> character;
-    std::optional<std::int64_t> modifiers;  ///< accessibility mask, see `Modifiers::fromAxMask`
-    std::optional<std::int64_t> glyph;      ///< menu glyph number; 0 means none
-    std::optional<std::int64_t> virtualKey; ///< virtual key code; names special keys only
+    std::optional<std::string> character = {};
+    std::optional<std::int64_t> modifiers = {};  ///< accessibility mask, see `Modifiers::fromAxMask`
+    std::optional<std::int64_t> glyph = {};      ///< menu glyph number; 0 means none
+    std::optional<std::int64_t> virtualKey = {}; ///< virtual key code; names special keys only
 
     bool operator==(const AxKeyEquivalent&) const = default;
 };

@@ -1,30 +1,43 @@
 #include "stall_meter.h"
 
-#include <QAbstractEventDispatcher>
+#include <QMetaObject>
 
 #include <algorithm>
 
 namespace quillon {
 
+namespace {
+
+constexpr std::chrono::milliseconds pingInterval{1};
+
+} // namespace
+
+StallMeter::~StallMeter() {
+    m_sender = {};
+}
+
 void StallMeter::start() {
     m_longest = {};
-    m_awakeSince.reset();
-    if (m_connected)
+    if (m_sender.joinable())
         return;
-    const auto* dispatcher = QAbstractEventDispatcher::instance();
-    connect(dispatcher, &QAbstractEventDispatcher::awake, this, &StallMeter::woke);
-    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &StallMeter::goesToSleep);
-    m_connected = true;
+    m_sender = std::jthread([this](const std::stop_token& stop) {
+        while (!stop.stop_requested()) {
+            if (m_answered.exchange(false))
+                ping();
+            std::this_thread::sleep_for(pingInterval);
+        }
+    });
 }
 
-void StallMeter::woke() {
-    m_awakeSince = std::chrono::steady_clock::now();
-}
-
-void StallMeter::goesToSleep() {
-    if (m_awakeSince)
-        m_longest = std::max(m_longest, std::chrono::steady_clock::now() - *m_awakeSince);
-    m_awakeSince.reset();
+void StallMeter::ping() {
+    const auto sent = std::chrono::steady_clock::now();
+    QMetaObject::invokeMethod(
+        this,
+        [this, sent] {
+            m_longest = std::max(m_longest, std::chrono::steady_clock::now() - sent);
+            m_answered = true;
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace quillon

@@ -2,29 +2,31 @@
 
 #include <QObject>
 
+#include <atomic>
 #include <chrono>
-#include <optional>
+#include <thread>
 
 namespace quillon {
 
-/// Measures how long the main thread is ever busy without returning to its event loop, which is how long a
-/// key or a click may have to wait.
+/// Measures how long a key or a click may have to wait for the main thread: a thread of its own sends it a
+/// message every millisecond and sees when it arrives. Only for measuring; costs wake-ups.
 class StallMeter final : public QObject {
   public:
     using Duration = std::chrono::steady_clock::duration;
 
+    ~StallMeter() override;
+
     /// Begins to measure, from zero.
     void start();
-    /// The longest time so far.
+    /// The longest wait so far, to about a millisecond.
     Duration longest() const { return m_longest; }
 
   private:
-    void woke();
-    void goesToSleep();
+    void ping();
 
-    std::optional<std::chrono::steady_clock::time_point> m_awakeSince;
+    std::atomic<bool> m_answered = true;
     Duration m_longest{};
-    bool m_connected = false;
+    std::jthread m_sender;
 };
 
 } // namespace quillon

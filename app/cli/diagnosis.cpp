@@ -1,0 +1,132 @@
+#include "diagnosis.h"
+
+namespace quillon {
+
+namespace {
+
+using Result = Check::Result;
+
+Check sessionBus(const DesktopFacts& facts) {
+    if (facts.sessionBus)
+        return {"Session bus", Result::good, "answers", ""};
+    return {
+        "Session bus", Result::missing, "cannot be reached",
+        "Start Quillon from a desktop session, or with dbus-run-session."};
+}
+
+Check accessibilityBus(const DesktopFacts& facts) {
+    if (facts.accessibilityBus)
+        return {"Accessibility bus", Result::good, "answers", ""};
+    return {
+        "Accessibility bus", Result::missing, "cannot be reached",
+        "Install the package at-spi2-core and log in again."};
+}
+
+Check accessibilitySwitch(const DesktopFacts& facts) {
+    if (!facts.accessibilityBus)
+        return {"Accessibility", Result::missing, "unknown without its bus", ""};
+    if (!facts.accessibilityOn)
+        return {"Accessibility", Result::good, "has no switch on this desktop", ""};
+    if (*facts.accessibilityOn)
+        return {"Accessibility", Result::good, "is on", ""};
+    return {
+        "Accessibility", Result::missing, "is off",
+        "Choose “Allow Accessibility…” in Quillon’s menu, or turn it on in the desktop’s settings; "
+        "applications already running may have to be restarted."};
+}
+
+Check display(const DesktopFacts& facts) {
+    if (facts.display && facts.waylandSession)
+        return {
+            "Display", Result::limited, "Wayland, with an X server for older applications",
+            "Holding a key works over X applications only; `quillon show` works everywhere. Log in to an X11 "
+            "session for the rest."};
+    if (facts.display)
+        return {"Display", Result::good, "X11", ""};
+    if (facts.waylandSession)
+        return {
+            "Display", Result::limited, "Wayland without an X server",
+            "Holding a key cannot be noticed; use `quillon show` and `quillon sheet`."};
+    return {
+        "Display", Result::missing, "cannot be reached",
+        "Start Quillon in a graphical session, or set DISPLAY."};
+}
+
+Check inputExtension(const DesktopFacts& facts) {
+    if (facts.inputExtension)
+        return {"XInput", Result::good, "version " + *facts.inputExtension, ""};
+    return {
+        "XInput", Result::missing, "is older than version 2.2 or absent",
+        "Use an X server that offers XInput 2.2; without it a click or a key does not spoil a hold."};
+}
+
+Check keyboardExtension(const DesktopFacts& facts) {
+    if (facts.keyboardExtension)
+        return {"XKB", Result::good, "is there", ""};
+    return {
+        "XKB", Result::missing, "is absent",
+        "Use an X server that offers XKB; without it a held key cannot be noticed."};
+}
+
+Check shapeExtension(const DesktopFacts& facts) {
+    if (facts.shapeExtension)
+        return {"SHAPE", Result::good, "is there", ""};
+    return {"SHAPE", Result::limited, "is absent", "Panels have square corners without a compositor."};
+}
+
+Check windowManager(const DesktopFacts& facts) {
+    if (facts.windowManager)
+        return {"Window manager", Result::good, *facts.windowManager, ""};
+    return {
+        "Window manager", Result::limited, "none that tells the active window",
+        "Quillon takes the application that has the keyboard; start a window manager for more."};
+}
+
+Check compositor(const DesktopFacts& facts) {
+    if (facts.compositor)
+        return {"Compositor", Result::good, "runs", ""};
+    return {
+        "Compositor", Result::limited, "none runs", "Panels are cut out without shadows; nothing is lost."};
+}
+
+Check trayHost(const DesktopFacts& facts) {
+    if (facts.trayHost)
+        return {"Tray", Result::good, "shows icons", ""};
+    return {
+        "Tray", Result::limited, "there is none",
+        "Start quillon again to reach its menu, or use `quillon show` and `quillon quit`."};
+}
+
+Check frontApplication(const DesktopFacts& facts) {
+    if (!facts.front)
+        return {"Front application", Result::limited, "none", "Bring an application's window to the front."};
+    const RunningApp& app = *facts.front;
+    return {
+        "Front application", Result::good,
+        app.name + " (" + app.bundleID + ", process " + std::to_string(app.pid) + ")", ""};
+}
+
+Check instance(const DesktopFacts& facts) {
+    if (facts.instanceRunning)
+        return {"Quillon", Result::good, "runs", ""};
+    return {"Quillon", Result::limited, "does not run", "Start it with `quillon`."};
+}
+
+} // namespace
+
+std::vector<Check> diagnose(const DesktopFacts& facts) {
+    std::vector<Check> checks{
+        sessionBus(facts), accessibilityBus(facts), accessibilitySwitch(facts), display(facts)};
+    if (facts.display) {
+        for (const auto& check :
+             {inputExtension, keyboardExtension, shapeExtension, windowManager, compositor})
+            checks.push_back(check(facts));
+    }
+    checks.push_back(trayHost(facts));
+    if (facts.display)
+        checks.push_back(frontApplication(facts));
+    checks.push_back(instance(facts));
+    return checks;
+}
+
+} // namespace quillon

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "checkup.h"
+
+#include <quillon/ports/running_app.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+/// What was found of the desktop.
+struct DesktopFacts {
+    bool sessionBus = false;
+    bool accessibilityBus = false;
+    std::optional<bool> accessibilityOn; ///< the desktop's switch; absent when it has none
+    bool waylandSession = false;
+    bool display = false;                      ///< an X server can be reached
+    std::optional<std::string> inputExtension; ///< XInput's version, "2.2" or later; absent below that
+    bool keyboardExtension = false;            ///< XKB
+    bool shapeExtension = false;
+    std::optional<std::string> windowManager; ///< its name; absent when none tells the active window
+    bool compositor = false;
+    bool trayHost = false;
+    std::optional<RunningApp> front;
+    bool instanceRunning = false;
+};
+
+/// What these facts mean for the program, with a remedy for whatever is not well.
+std::vector<Check> diagnose(const DesktopFacts& facts);
+
+} // namespace quillon

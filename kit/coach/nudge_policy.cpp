@@ -1,0 +1,15 @@
+#include "nudge_policy.h"
+
+namespace quillon {
+
+bool NudgePolicy::shouldNudge(
+    const std::optional<UsageRecord>& record, const Annotation& annotation, Instant now) const {
+    if (annotation.muted)
+        return false;
+    const UsageRecord known = record.value_or(UsageRecord{});
+    if (known.lastNudged && secondsBetween(*known.lastNudged, now) < repeatWindow)
+        return false;
+    return checkedSubtract(known.typed, known.clicked) < graduateAfter;
+}
+
+} // namespace quillon

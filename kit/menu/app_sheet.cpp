@@ -1,0 +1,19 @@
+#include "app_sheet.h"
+
+#include <quillon/base/hash.h>
+
+#include <algorithm>
+
+namespace quillon {
+
+const MenuEntry* AppSheet::entry(std::string_view id) const {
+    const auto found = std::find_if(
+        entries.begin(), entries.end(), [id](const MenuEntry& candidate) { return candidate.hasId(id); });
+    return found == entries.end() ? nullptr : &*found;
+}
+
+} // namespace quillon
+
+std::size_t std::hash<quillon::AppSheet>::operator()(const quillon::AppSheet& sheet) const noexcept {
+    return quillon::hashOf(sheet.bundleID, sheet.appName, sheet.entries, sheet.readAt);
+}

@@ -1,0 +1,246 @@
+#include "app_model_fixture.h"
+
+namespace quillon {
+namespace {
+
+TEST_F(AppModelTest, ReadsTheFrontApplicationAtStart) {
+    answer(sketch, 3);
+    startWith(sketch);
+    ASSERT_TRUE(model.current());
+    EXPECT_EQ(model.current()->bundleID, "org.example.sketch");
+    EXPECT_EQ(model.current()->appName, "sketch");
+    EXPECT_EQ(model.current()->entries.size(), 3U);
+    EXPECT_EQ(model.current()->readAt, desktop.clock.now());
+    EXPECT_EQ(model.sheets().count("org.example.sketch"), 1U);
+}
+
+TEST_F(AppModelTest, ReadsNothingWithoutPermission) {
+    answer(sketch, 3);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.timers.advance(Seconds(10));
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+    EXPECT_FALSE(model.current());
+    EXPECT_EQ(desktop.keyboard.monitors(), 0U);
+}
+
+TEST_F(AppModelTest, NoticesThePermissionAtTheNextPoll) {
+    answer(sketch, 3);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.access.setTrustedSilently(true);
+    desktop.timers.advance(Seconds(2));
+    desktop.background.runAll();
+    EXPECT_TRUE(model.trusted());
+    EXPECT_EQ(entriesShown(), 3U);
+    EXPECT_EQ(desktop.keyboard.monitors(), 1U);
+}
+
+TEST_F(AppModelTest, NoticesThePermissionAtOnceWhereTheDesktopTells) {
+    answer(sketch, 3);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.access.setTrusted(true);
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 3U);
+}
+
+TEST_F(AppModelTest, KeepsWhatItKnowsWhenThePermissionIsTaken) {
+    answer(sketch, 3);
+    startWith(sketch);
+    desktop.access.setTrusted(false);
+    EXPECT_FALSE(model.trusted());
+    EXPECT_EQ(entriesShown(), 3U);
+    const std::size_t asked = desktop.menus.asked().size();
+    desktop.front.activate(writer);
+    desktop.background.runAll();
+    EXPECT_EQ(desktop.menus.asked().size(), asked);
+}
+
+TEST_F(AppModelTest, PollsAgainUntilTheFirstSheetIsThere) {
+    desktop.access.setTrusted(true);
+    model.start();
+    EXPECT_FALSE(model.current());
+    answer(sketch, 2);
+    desktop.front.setCurrent(sketch);
+    desktop.timers.advance(Seconds(2));
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 2U);
+    const std::size_t asked = desktop.menus.asked().size();
+    desktop.timers.advance(Seconds(20));
+    EXPECT_EQ(desktop.menus.asked().size(), asked);
+}
+
+TEST_F(AppModelTest, FollowsTheFrontApplication) {
+    answer(sketch, 3);
+    answer(writer, 5);
+    startWith(sketch);
+    desktop.front.activate(writer);
+    EXPECT_EQ(model.current()->bundleID, "org.example.writer");
+    EXPECT_EQ(entriesShown(), 0U);
+    EXPECT_TRUE(model.reading());
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 5U);
+    EXPECT_FALSE(model.reading());
+}
+
+TEST_F(AppModelTest, ShowsAKnownSheetAtOnceAndRefreshesIt) {
+    answer(sketch, 3);
+    answer(writer, 5);
+    startWith(sketch);
+    desktop.front.activate(writer);
+    desktop.background.runAll();
+    answer(sketch, 4);
+    desktop.front.activate(sketch);
+    EXPECT_EQ(entriesShown(), 3U);
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 4U);
+}
+
+TEST_F(AppModelTest, IgnoresItself) {
+    answer(sketch, 3);
+    startWith(sketch);
+    desktop.front.activate(appNamed("quillon", ownPid));
+    EXPECT_EQ(model.current()->bundleID, "org.example.sketch");
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+}
+
+TEST_F(AppModelTest, KeepsALateSheetWithoutShowingIt) {
+    answer(sketch, 3);
+    answer(writer, 5);
+    desktop.access.setTrusted(true);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.front.activate(writer);
+    desktop.background.runLast();
+    EXPECT_EQ(entriesShown(), 5U);
+    desktop.background.runAll();
+    EXPECT_EQ(model.current()->bundleID, "org.example.writer");
+    EXPECT_EQ(entriesShown(), 5U);
+    EXPECT_EQ(model.sheets().at("org.example.sketch").entries.size(), 3U);
+}
+
+TEST_F(AppModelTest, TellsTwoApplicationsOfOneProcessApart) {
+    RunningApp calc = appNamed("calc", sketch.pid);
+    answer(sketch, 3);
+    answer(calc, 5);
+    desktop.access.setTrusted(true);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.front.activate(calc);
+    desktop.background.runAll();
+    EXPECT_EQ(model.current()->bundleID, "org.example.calc");
+    EXPECT_EQ(entriesShown(), 5U);
+}
+
+TEST_F(AppModelTest, KeepsAGoodSheetWhenAnEmptyMenuBarIsRead) {
+    answer(sketch, 3);
+    startWith(sketch);
+    answer(sketch, 0);
+    desktop.front.activate(sketch);
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 3U);
+    EXPECT_EQ(model.sheets().at("org.example.sketch").entries.size(), 3U);
+}
+
+TEST_F(AppModelTest, KeepsAGoodSheetWhenTheApplicationStopsAnswering) {
+    answer(sketch, 3);
+    startWith(sketch);
+    answer(sketch, 1, ReadOutcome::partial);
+    desktop.front.activate(sketch);
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 3U);
+}
+
+TEST_F(AppModelTest, NeverKeepsAnEmptySheet) {
+    answer(sketch, 0);
+    startWith(sketch);
+    ASSERT_TRUE(model.current());
+    EXPECT_EQ(model.current()->bundleID, "org.example.sketch");
+    EXPECT_TRUE(model.sheets().empty());
+}
+
+TEST_F(AppModelTest, KeepsWhatItHadWhenTheBusIsGone) {
+    answer(sketch, 3);
+    startWith(sketch);
+    answer(sketch, 0, ReadOutcome::unavailable);
+    desktop.front.activate(sketch);
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 3U);
+    EXPECT_FALSE(model.reading());
+}
+
+TEST_F(AppModelTest, ReadsAnApplicationOnlyOnceAtATime) {
+    answer(sketch, 3);
+    desktop.access.setTrusted(true);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.front.activate(sketch);
+    model.showOverlay(Stickiness::sticky);
+    EXPECT_EQ(desktop.background.waiting(), 1U);
+}
+
+TEST_F(AppModelTest, IsReadingOnlyWhatIsShown) {
+    answer(writer, 5);
+    desktop.access.setTrusted(true);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.front.activate(writer);
+    desktop.background.runLast();
+    EXPECT_FALSE(model.reading());
+    desktop.front.activate(sketch);
+    EXPECT_TRUE(model.reading());
+}
+
+TEST_F(AppModelTest, TellsWhatChanged) {
+    answer(sketch, 3);
+    std::vector<ModelField> seen;
+    const auto subscription = model.changed.subscribe([&](ModelField field) { seen.push_back(field); });
+    startWith(sketch);
+    const std::vector expected{
+        ModelField::trusted, ModelField::current, ModelField::reading, ModelField::reading,
+        ModelField::current};
+    EXPECT_EQ(seen, expected);
+}
+
+TEST_F(AppModelTest, ReadsByAMaximumDepthOfFour) {
+    RawMenuItem deep{.title = "Six", .cmdChar = "x", .cmdModifiers = 0};
+    for (const char* title : {"Five", "Four", "Three", "Two", "One"})
+        deep = {.title = title, .children = {{.title = title, .cmdChar = "y", .cmdModifiers = 0}, deep}};
+    desktop.menus.answer(sketch.bundleID, {{deep}, ReadOutcome::complete});
+    startWith(sketch);
+    for (const MenuEntry& entry : model.current()->entries)
+        EXPECT_LE(entry.path.size(), 5U) << entry.id();
+    EXPECT_EQ(entriesShown(), 4U);
+}
+
+TEST(AppModelLifetime, EndsWhileAReadingIsUnderWay) {
+    QTemporaryDir folder;
+    Settings settings(folder.filePath(QStringLiteral("settings.ini")));
+    FakeDesktop desktop;
+    FakePanelHost panels;
+    desktop.access.setTrusted(true);
+    desktop.front.setCurrent(appNamed("sketch", 10));
+    {
+        AppModel model({
+            .frontApplication = desktop.front,
+            .menuReader = desktop.menus,
+            .accessibility = desktop.access,
+            .keyboard = desktop.keyboard,
+            .clock = desktop.clock,
+            .timers = desktop.timers,
+            .background = desktop.background,
+            .panels = panels,
+            .settings = settings,
+            .ownPid = 1,
+        });
+        model.start();
+        EXPECT_TRUE(desktop.background.workNext());
+    }
+    EXPECT_TRUE(desktop.background.deliverNext());
+    EXPECT_EQ(desktop.front.listeners(), 0U);
+    EXPECT_EQ(desktop.timers.running(), 0U);
+}
+
+} // namespace
+} // namespace quillon
