@@ -17,6 +17,23 @@ CallPipeline::Callback answerWith(std::function<void(std::optional<T>)> then, Re
     };
 }
 
+/// Sets one bit of a set that is spread over several words.
+template <std::size_t words>
+void setBit(std::array<std::int32_t, words>& set, std::uint32_t bit) {
+    constexpr std::uint32_t bitsOfWord = 32;
+    std::int32_t& word = set.at(bit / bitsOfWord);
+    word = static_cast<std::int32_t>(static_cast<std::uint32_t>(word) | (1U << (bit % bitsOfWord)));
+}
+
+Call::MatchRule matchRule(const Condition& condition) {
+    Call::MatchRule rule;
+    for (const State state : condition.states)
+        setBit(rule.states, static_cast<std::uint32_t>(state));
+    if (condition.role)
+        setBit(rule.roles, static_cast<std::uint32_t>(*condition.role));
+    return rule;
+}
+
 } // namespace
 
 void AccessibilityCalls::textProperty(
@@ -59,6 +76,20 @@ void AccessibilityCalls::children(const ObjectRef& object, Then<std::vector<Obje
         answerWith(std::move(then), [limit = m_limits.itemsAtMost + 1](sd_bus_message* message) {
             return readObjects(message, limit);
         }));
+}
+
+void AccessibilityCalls::descendants(
+    const ObjectRef& object, const Condition& condition, Then<std::vector<ObjectRef>> then) {
+    constexpr std::uint32_t canonicalOrder = 1;
+    constexpr bool atAnyDepth = true;
+    const std::size_t limit = m_limits.itemsAtMost + 1;
+    m_pipeline.ask(
+        {object,
+         "org.a11y.atspi.Collection",
+         "GetMatches",
+         {matchRule(condition), canonicalOrder, static_cast<std::int32_t>(limit), atAnyDepth}},
+        answerWith(
+            std::move(then), [limit](sd_bus_message* message) { return readObjects(message, limit); }));
 }
 
 void AccessibilityCalls::keyBinding(const ObjectRef& object, Then<std::string> then) {

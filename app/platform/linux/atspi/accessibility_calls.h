@@ -18,6 +18,12 @@ struct Toolkit {
     std::string version;
 };
 
+/// What `descendants` looks for; nothing set fits every object.
+struct Condition {
+    std::optional<Role> role;
+    std::vector<State> states; ///< all of them
+};
+
 /// The questions that are asked of accessible objects. None of them changes anything in the application, and
 /// none is `GetAll`, at which older Qt crashes. The answer is absent when there was none, an error, or one of
 /// another type. Texts are UTF-8 and no longer than the limits allow.
@@ -34,6 +40,9 @@ class AccessibilityCalls {
     void states(const ObjectRef& object, Then<StateSet> then);
     /// The children in order, without those that are no objects; at most one more than `itemsAtMost`.
     void children(const ObjectRef& object, Then<std::vector<ObjectRef>> then);
+    /// The objects at any depth below an object that fulfil a condition, in no order to be relied on; at most
+    /// one more than `itemsAtMost`. Many applications cannot tell.
+    void descendants(const ObjectRef& object, const Condition& condition, Then<std::vector<ObjectRef>> then);
     /// The key binding of the object's first action, asked for whatever number of actions it claims.
     void keyBinding(const ObjectRef& object, Then<std::string> then);
     /// `application` is an application's root object.

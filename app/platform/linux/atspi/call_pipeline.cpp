@@ -27,13 +27,33 @@ struct UnrefMessage {
 };
 using Message = std::unique_ptr<sd_bus_message, UnrefMessage>;
 
-bool appendArgument(sd_bus_message* message, const Call::Argument& argument) {
-    if (const auto* number = std::get_if<std::int32_t>(&argument))
-        return sd_bus_message_append_basic(message, 'i', number) >= 0;
-    if (const auto* text = std::get_if<std::string>(&argument))
-        return sd_bus_message_append_basic(message, 's', text->c_str()) >= 0;
-    return sd_bus_message_append_basic(message, 's', std::get<const char*>(argument)) >= 0;
-}
+/// Adds one argument to a message; each answers whether it could.
+struct ArgumentAppender {
+    sd_bus_message* message;
+
+    bool operator()(const char* text) const { return sd_bus_message_append_basic(message, 's', text) >= 0; }
+    bool operator()(const std::string& text) const { return (*this)(text.c_str()); }
+    bool operator()(std::int32_t number) const {
+        return sd_bus_message_append_basic(message, 'i', &number) >= 0;
+    }
+    bool operator()(std::uint32_t number) const {
+        return sd_bus_message_append_basic(message, 'u', &number) >= 0;
+    }
+    bool operator()(bool flag) const {
+        const int value = flag;
+        return sd_bus_message_append_basic(message, 'b', &value) >= 0;
+    }
+    bool operator()(const Call::MatchRule& rule) const {
+        constexpr std::int32_t matchAll = 1;
+        constexpr std::int32_t matchAny = 2;
+        return sd_bus_message_open_container(message, 'r', "aiia{ss}iaiiasib") >= 0
+               && sd_bus_message_append_array(message, 'i', rule.states.data(), sizeof rule.states) >= 0
+               && sd_bus_message_append(message, "ia{ss}i", matchAll, 0, matchAll) >= 0
+               && sd_bus_message_append_array(message, 'i', rule.roles.data(), sizeof rule.roles) >= 0
+               && sd_bus_message_append(message, "iasib", matchAny, 0, matchAll, 0) >= 0
+               && sd_bus_message_close_container(message) >= 0;
+    }
+};
 
 /// The message of a call; nullptr when the object's name or path cannot be any.
 Message messageOf(sd_bus* bus, const Call& call) {
@@ -44,7 +64,7 @@ Message messageOf(sd_bus* bus, const Call& call) {
     if (made < 0)
         return nullptr;
     for (const Call::Argument& argument : call.arguments)
-        if (!appendArgument(message.get(), argument))
+        if (!std::visit(ArgumentAppender{message.get()}, argument))
             return nullptr;
     return message;
 }

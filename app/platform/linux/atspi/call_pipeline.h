@@ -4,6 +4,7 @@
 #include "object_ref.h"
 #include "read_limits.h"
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <deque>
@@ -21,7 +22,13 @@ namespace quillon::atspi {
 
 /// A method call. The texts of interface and member must be literals.
 struct Call {
-    using Argument = std::variant<const char*, std::int32_t, std::string>;
+    /// Which objects a search is for, `(aiia{ss}iaiiasib)`: those that have all bits of `states` and, when
+    /// `roles` has any, one of its roles.
+    struct MatchRule {
+        std::array<std::int32_t, 2> states{};
+        std::array<std::int32_t, 4> roles{};
+    };
+    using Argument = std::variant<const char*, bool, std::int32_t, std::uint32_t, std::string, MatchRule>;
 
     ObjectRef object;
     const char* interface = nullptr;

@@ -2,7 +2,7 @@
 
 #include "accessibility_bus.h"
 #include "application_search.h"
-#include "cached_objects.h"
+#include "menu_outline.h"
 #include "menu_walk.h"
 #include "window_search.h"
 
@@ -16,33 +16,11 @@ using namespace atspi;
 
 namespace {
 
-constexpr std::size_t mostLargeCaches = 64;
-
-/// Whether asking for the cache cost more than it saved: an object in it costs about a sixth of what asking
-/// for an item's name and states does.
-bool wasWasteful(std::size_t toldOf, std::size_t items) {
-    return toldOf > 6 * items + 2000;
-}
-
-} // namespace
-
-bool AtspiMenuReader::LargeCaches::holds(const std::string& application) const {
-    const std::scoped_lock lock(m_mutex);
-    return std::ranges::find(m_applications, application) != m_applications.end();
-}
-
-void AtspiMenuReader::LargeCaches::add(std::string application) {
-    const std::scoped_lock lock(m_mutex);
-    m_applications.push_back(std::move(application));
-    if (m_applications.size() > mostLargeCaches)
-        m_applications.pop_front();
-}
-
 /// One reading, from the bus to the items.
-class AtspiMenuReader::Reading {
+class Reading {
   public:
-    Reading(CallPipeline& pipeline, const ReadLimits& limits, LargeCaches& largeCaches)
-        : m_pipeline(pipeline), m_calls(pipeline, limits), m_largeCaches(largeCaches) {}
+    Reading(CallPipeline& pipeline, const ReadLimits& limits)
+        : m_pipeline(pipeline), m_calls(pipeline, limits) {}
 
     MenuReading read(const RunningApp& app) {
         const auto applications = applicationsOnBus(m_calls);
@@ -53,7 +31,7 @@ class AtspiMenuReader::Reading {
             return {{}, ended(ReadOutcome::noSuchApp)};
         for (const BusWindow& window : windows)
             if (const auto menuBar = findMenuBar(m_calls, window.object))
-                return readItems(*menuBar, app.pid);
+                return readItems(*menuBar);
         return {{}, ended(ReadOutcome::noMenuBar)};
     }
 
@@ -92,22 +70,25 @@ class AtspiMenuReader::Reading {
         return windows;
     }
 
-    MenuReading readItems(const ObjectRef& menuBar, std::int64_t pid) {
+    MenuReading readItems(const ObjectRef& menuBar) {
         const ToolkitFamily family = familyOf(menuBar);
-        const std::string application = menuBar.busName + ' ' + std::to_string(pid);
-        std::optional<CachedObjects> cached;
-        if (family == ToolkitFamily::gtk && !m_largeCaches.holds(application)) {
-            CachedObjects::ask(
-                m_calls, menuBar.busName, [&cached](auto objects) { cached = std::move(objects); });
+        std::optional<MenuOutline> outline;
+        if (family != ToolkitFamily::qt)
+            outline = MenuOutline::ask(m_calls, menuBar);
+        if (outline) {
+            MenuWalk walk(m_calls, family, &*outline);
+            walk.start(menuBar);
             m_pipeline.run();
-            if (!cached)
-                m_largeCaches.add(application);
+            if (m_pipeline.hasEnded() || walk.isCut() || walk.agreesWithOutline())
+                return readingOf(walk);
         }
-        MenuWalk walk(m_calls, family, cached ? &*cached : nullptr);
+        MenuWalk walk(m_calls, family, nullptr);
         walk.start(menuBar);
         m_pipeline.run();
-        if (cached && wasWasteful(cached->toldOf(), walk.itemCount()))
-            m_largeCaches.add(application);
+        return readingOf(walk);
+    }
+
+    MenuReading readingOf(const MenuWalk& walk) const {
         return {walk.menuBar(), walk.isCut() ? ReadOutcome::partial : ended(ReadOutcome::complete)};
     }
 
@@ -125,9 +106,10 @@ class AtspiMenuReader::Reading {
 
     CallPipeline& m_pipeline;
     AccessibilityCalls m_calls;
-    LargeCaches& m_largeCaches;
     std::vector<ObjectRef> m_roots; ///< the application's, one for each of its connections
 };
+
+} // namespace
 
 MenuReading AtspiMenuReader::readMenus(const RunningApp& app, std::stop_token stop) {
     const auto deadline = CallPipeline::Clock::now() + m_limits.whole;
@@ -135,7 +117,7 @@ MenuReading AtspiMenuReader::readMenus(const RunningApp& app, std::stop_token st
     if (!address)
         return {};
     CallPipeline pipeline(BusConnection::at(*address), m_limits, deadline, stop);
-    return Reading(pipeline, m_limits, m_largeCaches).read(app);
+    return Reading(pipeline, m_limits).read(app);
 }
 
 } // namespace quillon

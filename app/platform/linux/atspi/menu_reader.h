@@ -4,10 +4,6 @@
 
 #include <quillon/ports/menu_reader.h>
 
-#include <deque>
-#include <mutex>
-#include <string>
-
 namespace quillon {
 
 /// Reads menus over the accessibility bus (AT-SPI2), each reading over a connection of its own. Asks and
@@ -22,21 +18,7 @@ class AtspiMenuReader : public MenuReader {
     MenuReading readMenus(const RunningApp& app, std::stop_token stop) override;
 
   private:
-    class Reading;
-
-    /// Applications whose cache holds so much besides their menus that asking item by item is quicker.
-    class LargeCaches {
-      public:
-        bool holds(const std::string& application) const;
-        void add(std::string application);
-
-      private:
-        mutable std::mutex m_mutex;
-        std::deque<std::string> m_applications;
-    };
-
     const atspi::ReadLimits m_limits;
-    LargeCaches m_largeCaches;
 };
 
 } // namespace quillon

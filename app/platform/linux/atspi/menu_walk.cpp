@@ -15,8 +15,8 @@ bool isLayerRole(Role role, bool isOnlyChild) {
 
 } // namespace
 
-MenuWalk::MenuWalk(AccessibilityCalls& calls, ToolkitFamily family, const CachedObjects* cached)
-    : m_calls(calls), m_limits(calls.limits()), m_family(family), m_cached(cached) {}
+MenuWalk::MenuWalk(AccessibilityCalls& calls, ToolkitFamily family, const MenuOutline* outline)
+    : m_calls(calls), m_limits(calls.limits()), m_family(family), m_outline(outline) {}
 
 void MenuWalk::start(const ObjectRef& menuBar) {
     Node& root = m_nodes.emplace_back();
@@ -55,38 +55,36 @@ void MenuWalk::addChildren(Node& node, const std::vector<ObjectRef>& objects) {
 }
 
 void MenuWalk::learn(Node& node) {
-    if (const CachedObject* known = m_cached ? m_cached->find(node.object) : nullptr)
-        learnFromCache(node, *known);
-    else
-        learnByAsking(node);
-}
-
-void MenuWalk::learnFromCache(Node& node, const CachedObject& known) {
-    node.name = known.name;
-    node.states = known.states;
-    if (known.name.empty() && node.depth > 0 && isLayerRole(known.role, node.isOnlyChild))
-        settleUnnamed(node, known.role);
-    else if (known.mayHaveChildren && mayOpen(node))
-        askChildren(node);
-    else
-        askBinding(node);
-}
-
-void MenuWalk::learnByAsking(Node& node) {
-    m_calls.name(node.object, [this, &node](std::optional<std::string> name) {
-        if (!name)
-            return;
-        node.name = std::move(name);
-        if (!node.name->empty())
-            m_calls.states(node.object, [&node](auto states) { node.states = states; });
-        settle(node);
-    });
-    if (mayOpen(node)) {
+    const bool isOutlined = m_outline && m_outline->all.contains(node.object);
+    if (isOutlined)
+        learnFromOutline(node);
+    askName(node);
+    const bool mayHaveChildren = !isOutlined || m_outline->menus.contains(node.object);
+    if (mayHaveChildren && mayOpen(node)) {
         askChildren(node);
     } else {
         node.unopened.emplace();
         settle(node);
     }
+}
+
+void MenuWalk::learnFromOutline(Node& node) {
+    node.states.emplace();
+    if (m_outline->usable.contains(node.object)) {
+        node.states->insert(State::enabled);
+        node.states->insert(State::sensitive);
+    }
+}
+
+void MenuWalk::askName(Node& node) {
+    m_calls.name(node.object, [this, &node](std::optional<std::string> name) {
+        if (!name)
+            return;
+        node.name = std::move(name);
+        if (!node.states && !node.name->empty())
+            m_calls.states(node.object, [&node](auto states) { node.states = states; });
+        settle(node);
+    });
 }
 
 /// Whether the item's children may be read: it is not too deep, and the budget has something left.
@@ -145,6 +143,15 @@ void MenuWalk::settleUnnamed(Node& node, std::optional<Role> role) {
                 addChildren(node, *objects);
         });
     }
+}
+
+bool MenuWalk::agreesWithOutline() const {
+    if (!m_outline)
+        return true;
+    std::unordered_set<ObjectRef> unmet = m_outline->all;
+    for (const Node& node : m_nodes)
+        unmet.erase(node.object);
+    return unmet.empty();
 }
 
 std::vector<RawMenuItem> MenuWalk::menuBar() const {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "accessibility_calls.h"
-#include "cached_objects.h"
+#include "menu_outline.h"
 
 #include <quillon/key_binding/toolkit.h>
 #include <quillon/menu/raw_menu_item.h>
@@ -18,17 +18,18 @@ namespace quillon::atspi {
 /// waiting for the rest. What an application leaves unanswered is missing from the result, nothing else.
 class MenuWalk {
   public:
-    /// `cached` may be nullptr. All referred objects must outlive the walk, and the walk must outlive the
+    /// `outline` may be nullptr. All referred objects must outlive the walk, and the walk must outlive the
     /// pipeline's run.
-    MenuWalk(AccessibilityCalls& calls, ToolkitFamily family, const CachedObjects* cached);
+    MenuWalk(AccessibilityCalls& calls, ToolkitFamily family, const MenuOutline* outline);
 
     /// Asks for the first items; running the calls' pipeline does the rest.
     void start(const ObjectRef& menuBar);
 
     /// The top-level menus, as far as they were read.
     std::vector<RawMenuItem> menuBar() const;
-    /// The items met so far.
-    std::size_t itemCount() const { return m_itemCount; }
+    /// Whether every object of the outline was met. When not, some object has children without being a menu.
+    /// True without an outline.
+    bool agreesWithOutline() const;
     /// Whether the limits left anything out.
     bool isCut() const { return m_isCut; }
 
@@ -50,8 +51,8 @@ class MenuWalk {
 
     void addChildren(Node& node, const std::vector<ObjectRef>& objects);
     void learn(Node& node);
-    void learnFromCache(Node& node, const CachedObject& known);
-    void learnByAsking(Node& node);
+    void learnFromOutline(Node& node);
+    void askName(Node& node);
     bool mayOpen(const Node& node);
     void askChildren(Node& node);
     void askBinding(Node& node);
@@ -63,7 +64,7 @@ class MenuWalk {
     AccessibilityCalls& m_calls;
     ReadLimits m_limits;
     ToolkitFamily m_family;
-    const CachedObjects* m_cached;
+    const MenuOutline* m_outline;
     std::deque<Node> m_nodes; ///< stable addresses; the menu bar first
     std::size_t m_itemCount = 0;
     bool m_isCut = false;

@@ -16,16 +16,12 @@ struct ObjectRef {
 
 /// The accessibility roles that matter here (`AtspiRole`).
 enum class Role : std::uint32_t {
-    checkMenuItem = 8,
     list = 31,
     menu = 33,
     menuBar = 34,
     menuItem = 35,
     popupMenu = 41,
-    radioMenuItem = 45,
-    separator = 50,
     table = 55,
-    tearOffMenuItem = 59,
     terminal = 60,
     text = 61,
     tree = 65,
@@ -47,6 +43,7 @@ struct StateSet {
     std::uint64_t bits = 0;
 
     bool has(State state) const { return (bits >> static_cast<unsigned>(state)) & 1; }
+    void insert(State state) { bits |= std::uint64_t{1} << static_cast<unsigned>(state); }
     /// Whether the user can use the object now.
     bool isUsable() const { return has(State::enabled) && has(State::sensitive); }
 };

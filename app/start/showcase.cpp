@@ -1,0 +1,28 @@
+#include "showcase.h"
+
+#include <quillon/menu/sample_menus.h>
+#include <quillon/records/sample_records.h>
+
+namespace quillon {
+
+Showcase::Showcase(
+    const Clock& clock, Timers& timers, Background& background, PanelHost& panels, Settings& settings)
+    : m_model({
+          .frontApplication = m_none.front,
+          .menuReader = m_none.menus,
+          .accessibility = m_none.access,
+          .keyboard = m_none.keyboard,
+          .clock = clock,
+          .timers = timers,
+          .background = background,
+          .panels = panels,
+          .settings = settings,
+      }) {
+    m_model.showSample(SampleMenus::sheet(), SampleMenus::usage(), SampleMenus::annotations());
+}
+
+void Showcase::show() {
+    m_model.showOverlay(Stickiness::sticky);
+}
+
+} // namespace quillon
