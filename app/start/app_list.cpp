@@ -31,9 +31,8 @@ std::vector<RunningApp> appsWithWindows() {
     for (const SurveyedWindow& window : openWindows(*x11)) {
         const std::int64_t pid = window.facts.pid;
         const AppIdentity identity = entries.identify(window.facts, readProcess(pid, "/proc"));
-        const auto known = std::ranges::find_if(apps, [&](const RunningApp& app) {
-            return app.pid == pid && app.bundleID == identity.bundleID;
-        });
+        const auto known = std::ranges::find_if(
+            apps, [&](const RunningApp& app) { return app.pid == pid && app.bundleID == identity.bundleID; });
         RunningApp& app = known != apps.end()
                               ? *known
                               : apps.emplace_back(RunningApp{pid, identity.bundleID, identity.name, {}});

@@ -10,7 +10,6 @@
 #include <quillon/ports/front_application.h>
 #include <quillon/ports/keyboard.h>
 #include <quillon/ports/panel_windows.h>
-#include <quillon/ports/timers.h>
 #include <quillon/xdg/app_identifier.h>
 
 #include <memory>
@@ -18,14 +17,13 @@
 namespace quillon {
 
 class X11Connection;
-class RawInput;
 class XdgAppIcons;
 
 /// The ports of a Linux desktop. Where it lacks something, that port is the one of a desktop that offers
 /// nothing.
 class LinuxDesktop {
   public:
-    LinuxDesktop(Background& background, const Clock& clock, Timers& timers);
+    LinuxDesktop(Background& background, const Clock& clock);
     ~LinuxDesktop();
 
     FrontApplication& frontApplication();

@@ -6,18 +6,19 @@
 namespace quillon {
 
 Showcase::Showcase(
-    const Clock& clock, Timers& timers, Background& background, PanelHost& panels, Settings& settings)
-    : m_model({
-          .frontApplication = m_none.front,
-          .menuReader = m_none.menus,
-          .accessibility = m_none.access,
-          .keyboard = m_none.keyboard,
-          .clock = clock,
-          .timers = timers,
-          .background = background,
-          .panels = panels,
-          .settings = settings,
-      }) {
+    const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
+    PanelWindows& windows, Settings& settings)
+    : m_panels(themes, icons, windows, OverlayMode::showcase), m_model({
+                                                                   .frontApplication = m_none.front,
+                                                                   .menuReader = m_none.menus,
+                                                                   .accessibility = m_none.access,
+                                                                   .keyboard = m_none.keyboard,
+                                                                   .clock = clock,
+                                                                   .timers = timers,
+                                                                   .background = background,
+                                                                   .panels = m_panels,
+                                                                   .settings = settings,
+                                                               }) {
     m_model.showSample(SampleMenus::sheet(), SampleMenus::usage(), SampleMenus::annotations());
 }
 

@@ -2,6 +2,7 @@
 
 #include <quillon/core/app_model.h>
 #include <quillon/none/no_desktop.h>
+#include <quillon/panels/qt_panel_host.h>
 
 namespace quillon {
 
@@ -9,13 +10,16 @@ namespace quillon {
 class Showcase {
   public:
     /// All of them outlive the showcase.
-    Showcase(const Clock& clock, Timers& timers, Background& background, PanelHost& panels, Settings& settings);
+    Showcase(
+        const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
+        PanelWindows& windows, Settings& settings);
 
     /// Opens the overlay and keeps it open.
     void show();
 
   private:
     NoDesktop m_none;
+    QtPanelHost m_panels;
     AppModel m_model;
 };
 
