@@ -22,6 +22,7 @@ void paintRounded(QPainter& painter, const QRectF& rect, double radius, const QC
 
 void AreaPainter::paint(QPainter& painter, const QRectF& visible, const RowHighlights& highlights) const {
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto); // each text by its own script
     paintCards(painter, visible);
     for (const DividerBox& divider : m_layout.dividers) {
         if (divider.rect.intersects(visible))
@@ -94,7 +95,8 @@ void AreaPainter::paintRow(QPainter& painter, const RowBox& row) const {
 void AreaPainter::paintRowParts(
     QPainter& painter, const PreparedEntry& entry, const RowArrangement& parts) const {
     const Palette& palette = m_theme.palette;
-    paintText(painter, parts.title, m_measure.title, entry.enabled ? palette.primary : palette.dimmed);
+    for (const PlacedText& line : parts.title)
+        paintText(painter, line, m_measure.title, entry.enabled ? palette.primary : palette.dimmed);
     if (parts.submenu)
         paintText(painter, *parts.submenu, m_measure.submenu, palette.secondary);
     if (parts.pin) {

@@ -1,10 +1,9 @@
 #include "panel_shadow.h"
 
-#include <qdrawutil.h>
-
 #include <QImage>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace quillon {
@@ -14,7 +13,7 @@ namespace {
 /// The shadow falls downwards by this.
 constexpr double drop = 8;
 /// Its darkest, beside the edge.
-constexpr double strength = 0.34;
+constexpr double strength = 0.30;
 /// Straight edge between two corners of the tile; what is stretched.
 constexpr double middle = 8;
 
@@ -29,7 +28,7 @@ double distanceFrom(const QRectF& rect, double radius, double x, double y) {
 /// From 1 on the edge to 0 at `reach`, like blurred light.
 double falloff(double distance, double reach) {
     const double t = std::clamp(1 - distance / reach, 0.0, 1.0);
-    return t * t * t;
+    return t * t;
 }
 
 QPixmap tile(double radius, const QColor& colour, double ratio) {
@@ -45,8 +44,8 @@ QPixmap tile(double radius, const QColor& colour, double ratio) {
             const double py = (y + 0.5) / ratio;
             const double wide =
                 falloff(distanceFrom(shape.translated(0, drop), radius, px, py), PanelShadow::reach - drop);
-            const double near = falloff(distanceFrom(shape, radius, px, py), 10);
-            const double alpha = std::min(1.0, strength * (0.8 * wide + 0.2 * near));
+            const double near = falloff(distanceFrom(shape, radius, px, py), 6);
+            const double alpha = std::min(1.0, strength * (0.82 * wide + 0.18 * near));
             line[x] = qPremultiply(qRgba(
                 colour.red(), colour.green(), colour.blue(), static_cast<int>(std::lround(alpha * 255))));
         }
@@ -54,6 +53,28 @@ QPixmap tile(double radius, const QColor& colour, double ratio) {
     QPixmap pixmap = QPixmap::fromImage(image);
     pixmap.setDevicePixelRatio(ratio);
     return pixmap;
+}
+
+/// The tile's corners as they are, its edges stretched between them, nothing in the middle. `edge` is the
+/// size of a corner in logical pixels.
+void paintStretched(QPainter& painter, const QRectF& target, const QPixmap& tile, double edge) {
+    const double ratio = tile.devicePixelRatio();
+    const double side = tile.width() / ratio;
+    const std::array targetX{target.left(), target.left() + edge, target.right() - edge, target.right()};
+    const std::array targetY{target.top(), target.top() + edge, target.bottom() - edge, target.bottom()};
+    const std::array source{0.0, edge, side - edge, side};
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            if (row == 1 && column == 1)
+                continue;
+            const QRectF to(
+                QPointF(targetX[column], targetY[row]), QPointF(targetX[column + 1], targetY[row + 1]));
+            const QRectF from(
+                QPointF(source[column], source[row]) * ratio,
+                QPointF(source[column + 1], source[row + 1]) * ratio);
+            painter.drawPixmap(to, tile, from);
+        }
+    }
 }
 
 } // namespace
@@ -66,12 +87,7 @@ void PanelShadow::paint(QPainter& painter, const QRectF& panel, double radius, c
         m_radius = radius;
         m_colour = colour;
     }
-    const int edge = static_cast<int>(reach + radius);
-    const QMargins margins(edge, edge, edge, edge);
-    const QRect target = panel.toRect().adjusted(-reach, -reach, reach, reach);
-    qDrawBorderPixmap(
-        &painter, target, margins, m_tile, QRect(QPoint(0, 0), m_tile.deviceIndependentSize().toSize()),
-        margins, QTileRules(Qt::StretchTile));
+    paintStretched(painter, panel.adjusted(-reach, -reach, reach, reach), m_tile, reach + radius);
 }
 
 } // namespace quillon
