@@ -20,8 +20,9 @@ Rect rectOf(const QRect& rect) {
 
 } // namespace
 
-QtPanelHost::QtPanelHost(ThemeSource& themes, AppIconCache& icons, PanelWindows& windows)
-    : m_themes(themes), m_icons(icons), m_windows(windows) {}
+QtPanelHost::QtPanelHost(
+    ThemeSource& themes, AppIconCache& icons, PanelWindows& windows, OverlayMode mode)
+    : m_themes(themes), m_icons(icons), m_windows(windows), m_mode(mode) {}
 
 std::vector<Screen> QtPanelHost::screens() const {
     std::vector<Screen> screens;
@@ -41,7 +42,7 @@ Point QtPanelHost::pointer() const {
 }
 
 std::unique_ptr<FloatingPanel> QtPanelHost::makeOverlayPanel(AppModel& model) {
-    auto* view = new OverlayView(model, m_themes, m_icons, OverlayView::Mode::live);
+    auto* view = new OverlayView(model, m_themes, m_icons, m_mode);
     return std::make_unique<FloatingPanelWindow>(view, OverlayView::cornerRadius, m_themes, m_windows);
 }
 

@@ -1,0 +1,131 @@
+#include "key_equivalents.h"
+
+#include <xkbcommon/xkbcommon.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace quillon::atspi {
+namespace {
+
+/// The third of the parts that ";" separates; "" when there are fewer. Keys are spelled by name, so a
+/// semicolon that is a key never looks like a separator.
+std::string_view acceleratorPart(std::string_view text) {
+    for (int part = 0; part < 2; ++part) {
+        const std::size_t separator = text.find(';');
+        if (separator == std::string_view::npos)
+            return {};
+        text.remove_prefix(separator + 1);
+    }
+    return text.substr(0, text.find(';'));
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return std::tolower(c); });
+    return lower;
+}
+
+/// The modifier behind a name in angle brackets, as gtk_accelerator_parse knows them. GTK matches `<Meta>`
+/// with the real modifier that carries the keysym Meta_L; in the keymaps of xkeyboard-config that is Mod1,
+/// the Alt key, unless the option altwin:meta_win is chosen. Mod4 is where they have Super.
+std::optional<Modifiers> modifierNamed(std::string_view name) {
+    static const std::array<std::pair<std::string_view, Modifiers>, 11> table{{
+        {"primary", Modifiers::control},
+        {"control", Modifiers::control},
+        {"ctrl", Modifiers::control},
+        {"ctl", Modifiers::control},
+        {"shift", Modifiers::shift},
+        {"shft", Modifiers::shift},
+        {"alt", Modifiers::option},
+        {"mod1", Modifiers::option},
+        {"meta", Modifiers::option},
+        {"super", Modifiers::command},
+        {"mod4", Modifiers::command},
+    }};
+    const std::string lower = lowerCase(name);
+    for (const auto& [known, modifier] : table)
+        if (known == lower)
+            return modifier;
+    return std::nullopt;
+}
+
+/// By what is printed on the key; the number pad's navigation keys are those of the same meaning.
+std::optional<SpecialKey> specialKeyOf(xkb_keysym_t keysym) {
+    if (keysym >= XKB_KEY_F1 && keysym <= XKB_KEY_F19)
+        return static_cast<SpecialKey>(static_cast<xkb_keysym_t>(SpecialKey::f1) + keysym - XKB_KEY_F1);
+    if (keysym >= XKB_KEY_KP_F1 && keysym <= XKB_KEY_KP_F4)
+        return static_cast<SpecialKey>(static_cast<xkb_keysym_t>(SpecialKey::f1) + keysym - XKB_KEY_KP_F1);
+    switch (keysym) {
+    case XKB_KEY_Return: return SpecialKey::returnKey;
+    case XKB_KEY_ISO_Enter: return SpecialKey::enter;
+    case XKB_KEY_KP_Enter: return SpecialKey::enter;
+    case XKB_KEY_Tab: return SpecialKey::tab;
+    case XKB_KEY_KP_Tab: return SpecialKey::tab;
+    case XKB_KEY_ISO_Left_Tab: return SpecialKey::backTab;
+    case XKB_KEY_space: return SpecialKey::space;
+    case XKB_KEY_KP_Space: return SpecialKey::space;
+    case XKB_KEY_BackSpace: return SpecialKey::delete_;
+    case XKB_KEY_Delete: return SpecialKey::forwardDelete;
+    case XKB_KEY_KP_Delete: return SpecialKey::forwardDelete;
+    case XKB_KEY_Escape: return SpecialKey::escape;
+    case XKB_KEY_Clear: return SpecialKey::clear;
+    case XKB_KEY_Left: return SpecialKey::left;
+    case XKB_KEY_KP_Left: return SpecialKey::left;
+    case XKB_KEY_Right: return SpecialKey::right;
+    case XKB_KEY_KP_Right: return SpecialKey::right;
+    case XKB_KEY_Up: return SpecialKey::up;
+    case XKB_KEY_KP_Up: return SpecialKey::up;
+    case XKB_KEY_Down: return SpecialKey::down;
+    case XKB_KEY_KP_Down: return SpecialKey::down;
+    case XKB_KEY_Page_Up: return SpecialKey::pageUp;
+    case XKB_KEY_KP_Page_Up: return SpecialKey::pageUp;
+    case XKB_KEY_Page_Down: return SpecialKey::pageDown;
+    case XKB_KEY_KP_Page_Down: return SpecialKey::pageDown;
+    case XKB_KEY_Home: return SpecialKey::home;
+    case XKB_KEY_KP_Home: return SpecialKey::home;
+    case XKB_KEY_End: return SpecialKey::end;
+    case XKB_KEY_KP_End: return SpecialKey::end;
+    case XKB_KEY_Help: return SpecialKey::help;
+    case XKB_KEY_XF86Eject: return SpecialKey::eject;
+    default: return std::nullopt;
+    }
+}
+
+/// GDK's names are xkbcommon's but for two spellings: "U+20AC" for "U20AC", and media keys without "XF86".
+xkb_keysym_t keysymNamed(std::string_view name) {
+    std::string spelled(name);
+    if (spelled.starts_with("U+"))
+        spelled.erase(1, 1);
+    const xkb_keysym_t keysym = xkb_keysym_from_name(spelled.c_str(), XKB_KEYSYM_NO_FLAGS);
+    if (keysym != XKB_KEY_NoSymbol)
+        return keysym;
+    return xkb_keysym_from_name(("XF86" + spelled).c_str(), XKB_KEYSYM_NO_FLAGS);
+}
+
+} // namespace
+
+AxKeyEquivalent gtkKeyEquivalent(std::string_view text) {
+    std::string_view rest = acceleratorPart(text);
+    Modifiers modifiers;
+    while (rest.starts_with('<')) {
+        const std::size_t end = rest.find('>');
+        if (end == std::string_view::npos)
+            return {};
+        const auto modifier = modifierNamed(rest.substr(1, end - 1));
+        if (!modifier)
+            return {};
+        modifiers.insert(*modifier);
+        rest.remove_prefix(end + 1);
+    }
+    const xkb_keysym_t keysym = keysymNamed(rest);
+    if (const auto special = specialKeyOf(keysym))
+        return specialKeyEquivalent(*special, modifiers);
+    return characterEquivalent(xkb_keysym_to_utf32(keysym), modifiers);
+}
+
+} // namespace quillon::atspi

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "accessibility_calls.h"
+#include "object_ref.h"
+
+#include <optional>
+#include <unordered_set>
+
+namespace quillon::atspi {
+
+/// What an application tells of all objects below one at once, as lists of those that fulfil a condition
+/// (`org.a11y.atspi.Collection`): three requests that replace two for every item. GTK 2 and 3 answer them,
+/// looking through the menus alone; Qt does not know them.
+struct MenuOutline {
+    std::unordered_set<ObjectRef> all;    ///< every object, at any depth
+    std::unordered_set<ObjectRef> menus;  ///< those with the role of a menu: only they have children
+    std::unordered_set<ObjectRef> usable; ///< those that are enabled and sensitive
+
+    /// Asks for the outline of what is below `menuBar` and waits; absent when the application has none to
+    /// give, or more objects than the limits allow.
+    static std::optional<MenuOutline> ask(AccessibilityCalls& calls, const ObjectRef& menuBar);
+};
+
+} // namespace quillon::atspi

@@ -1,0 +1,187 @@
+#include "menu_walk.h"
+
+#include <quillon/key_binding/key_binding.h>
+
+#include <utility>
+
+namespace quillon::atspi {
+namespace {
+
+/// Whether an untitled child of a menu item is no item but the menu that holds its items: Qt's popup menus,
+/// or the only child of its kind.
+bool isLayerRole(Role role, bool isOnlyChild) {
+    return role == Role::popupMenu || (role == Role::menu && isOnlyChild);
+}
+
+} // namespace
+
+MenuWalk::MenuWalk(AccessibilityCalls& calls, ToolkitFamily family, const MenuOutline* outline)
+    : m_calls(calls), m_limits(calls.limits()), m_family(family), m_outline(outline) {}
+
+void MenuWalk::start(const ObjectRef& menuBar) {
+    Node& root = m_nodes.emplace_back();
+    root.object = menuBar;
+    root.depth = -1;
+    m_calls.children(menuBar, [this, &root](auto objects) {
+        if (objects)
+            addChildren(root, *objects);
+    });
+}
+
+/// Makes nodes of a child list. An object that holds itself is left out, so cycles end.
+void MenuWalk::addChildren(Node& node, const std::vector<ObjectRef>& objects) {
+    const auto isAncestor = [&node](const ObjectRef& object) {
+        for (const Node* at = &node; at; at = at->parent)
+            if (at->object == object)
+                return true;
+        return false;
+    };
+    for (const ObjectRef& object : objects) {
+        if (m_nodes.size() > m_limits.itemsAtMost) {
+            m_isCut = true;
+            return;
+        }
+        if (isAncestor(object))
+            continue;
+        Node& child = m_nodes.emplace_back();
+        child.object = object;
+        child.parent = &node;
+        child.depth = node.isLayer ? node.depth : node.depth + 1;
+        child.isOnlyChild = objects.size() == 1;
+        node.children.push_back(&child);
+        ++m_itemCount;
+        learn(child);
+    }
+}
+
+void MenuWalk::learn(Node& node) {
+    const bool isOutlined = m_outline && m_outline->all.contains(node.object);
+    if (isOutlined)
+        learnFromOutline(node);
+    askName(node);
+    const bool mayHaveChildren = !isOutlined || m_outline->menus.contains(node.object);
+    if (mayHaveChildren && mayOpen(node)) {
+        askChildren(node);
+    } else {
+        node.unopened.emplace();
+        settle(node);
+    }
+}
+
+void MenuWalk::learnFromOutline(Node& node) {
+    node.states.emplace();
+    if (m_outline->usable.contains(node.object)) {
+        node.states->insert(State::enabled);
+        node.states->insert(State::sensitive);
+    }
+}
+
+void MenuWalk::askName(Node& node) {
+    m_calls.name(node.object, [this, &node](std::optional<std::string> name) {
+        if (!name)
+            return;
+        node.name = std::move(name);
+        if (!node.states && !node.name->empty())
+            m_calls.states(node.object, [&node](auto states) { node.states = states; });
+        settle(node);
+    });
+}
+
+/// Whether the item's children may be read: it is not too deep, and the budget has something left.
+bool MenuWalk::mayOpen(const Node& node) {
+    if (node.depth > m_limits.depth)
+        return false;
+    const bool hasBudget = m_itemCount < m_limits.items;
+    m_isCut = m_isCut || !hasBudget;
+    return hasBudget;
+}
+
+void MenuWalk::askChildren(Node& node) {
+    m_calls.children(node.object, [this, &node](std::optional<std::vector<ObjectRef>> objects) {
+        node.unopened = objects ? std::move(*objects) : std::vector<ObjectRef>();
+        settle(node);
+    });
+}
+
+void MenuWalk::askBinding(Node& node) {
+    if (node.name->empty())
+        return;
+    m_calls.keyBinding(node.object, [&node](std::optional<std::string> binding) {
+        if (binding)
+            node.binding = std::move(*binding);
+    });
+}
+
+/// Goes on with a node of which both the name and the children are known.
+void MenuWalk::settle(Node& node) {
+    if (!node.name || !node.unopened)
+        return;
+    const bool isTooDeep = node.depth > m_limits.depth;
+    if (node.name->empty() && node.depth > 0 && (isTooDeep || !node.unopened->empty())) {
+        m_calls.role(node.object, [this, &node](auto role) { settleUnnamed(node, role); });
+        return;
+    }
+    const std::vector<ObjectRef> children = *std::exchange(node.unopened, std::nullopt);
+    if (children.empty())
+        askBinding(node);
+    else
+        addChildren(node, children);
+}
+
+void MenuWalk::settleUnnamed(Node& node, std::optional<Role> role) {
+    const bool isLayer = role && isLayerRole(*role, node.isOnlyChild) && !node.parent->isLayer;
+    if (isLayer) {
+        node.isLayer = true;
+        --m_itemCount;
+    }
+    auto children = std::exchange(node.unopened, std::nullopt);
+    if (children && !children->empty()) {
+        addChildren(node, *children);
+    } else if (isLayer && m_itemCount < m_limits.items) {
+        m_calls.children(node.object, [this, &node](auto objects) {
+            if (objects)
+                addChildren(node, *objects);
+        });
+    }
+}
+
+bool MenuWalk::agreesWithOutline() const {
+    if (!m_outline)
+        return true;
+    std::unordered_set<ObjectRef> unmet = m_outline->all;
+    for (const Node& node : m_nodes)
+        unmet.erase(node.object);
+    return unmet.empty();
+}
+
+std::vector<RawMenuItem> MenuWalk::menuBar() const {
+    std::vector<RawMenuItem> items;
+    if (!m_nodes.empty())
+        appendItems(m_nodes.front(), items);
+    return items;
+}
+
+RawMenuItem MenuWalk::item(const Node& node) const {
+    RawMenuItem item;
+    item.title = *node.name;
+    const AxKeyEquivalent equivalent = keyEquivalent({node.binding, m_family, item.title});
+    item.cmdChar = equivalent.character;
+    item.cmdModifiers = equivalent.modifiers;
+    item.cmdGlyph = equivalent.glyph;
+    item.cmdVirtualKey = equivalent.virtualKey;
+    item.enabled = !node.states || node.states->isUsable();
+    appendItems(node, item.children);
+    return item;
+}
+
+/// The items of a menu, those of layers in place of the layer. What told no name is left out.
+void MenuWalk::appendItems(const Node& node, std::vector<RawMenuItem>& items) const {
+    for (const Node* child : node.children) {
+        if (child->isLayer)
+            appendItems(*child, items);
+        else if (child->name)
+            items.push_back(item(*child));
+    }
+}
+
+} // namespace quillon::atspi

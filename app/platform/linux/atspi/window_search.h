@@ -1,0 +1,36 @@
+#pragma once
+
+#include "accessibility_calls.h"
+#include "object_ref.h"
+
+#include <quillon/ports/running_app.h>
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace quillon::atspi {
+
+/// A top-level window as its application tells it.
+struct BusWindow {
+    ObjectRef object;
+    std::string title;
+    StateSet states;
+};
+
+/// The windows of the applications, each application's in its order. Waits; what is not answered is missing.
+std::vector<BusWindow> windowsOf(AccessibilityCalls& calls, std::span<const ObjectRef> applicationRoots);
+
+/// Sorts windows by whose menus the user means: those titled like `wanted`, in the order of `wanted`; then
+/// the active one; then those that show; then the rest. Equal ones keep their order.
+void sortBestFirst(std::vector<BusWindow>& windows, std::span<const AppWindow> wanted);
+
+/// Whether a window is titled like one of `wanted`. No untitled window is.
+bool isWanted(const BusWindow& window, std::span<const AppWindow> wanted);
+
+/// The menu bar in a window, the nearest to the window that shows, else the nearest one. Waits; absent when
+/// there is none within sane bounds.
+std::optional<ObjectRef> findMenuBar(AccessibilityCalls& calls, const ObjectRef& window);
+
+} // namespace quillon::atspi
