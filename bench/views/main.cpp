@@ -36,7 +36,7 @@ double milliseconds(const QElapsedTimer& timer) {
 
 /// One line of the report; false when the median is over the budget or a frame never came.
 bool report(const QString& what, std::vector<std::optional<double>> times) {
-    if (std::ranges::find(times, std::nullopt) != times.end()) {
+    if (std::ranges::any_of(times, [](const auto& time) { return !time; })) {
         out() << what << ": no frame" << Qt::endl;
         return false;
     }

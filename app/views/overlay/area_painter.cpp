@@ -44,11 +44,16 @@ void AreaPainter::paint(QPainter& painter, const QRectF& visible, const RowHighl
 }
 
 void AreaPainter::paintCards(QPainter& painter, const QRectF& visible) const {
-    const QPen border(m_theme.palette.cardBorder, 1);
     for (const CardBox& card : m_layout.cards) {
-        if (card.rect.intersects(visible))
-            paintRounded(painter, card.rect, cardRadius, m_theme.palette.card, border);
+        if (!card.rect.intersects(visible))
+            continue;
+        painter.fillRect(m_card.inside(card.rect), m_theme.palette.card);
+        m_card.paintFrame(painter, card.rect);
     }
+}
+
+NinePatch AreaPainter::cardPicture(const Palette& palette, double ratio) {
+    return roundedBox(cardRadius, ratio, palette.card, palette.cardBorder);
 }
 
 void AreaPainter::paintHighlights(QPainter& painter, const RowHighlights& highlights) const {

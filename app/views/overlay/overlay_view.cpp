@@ -242,13 +242,18 @@ void OverlayView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void OverlayView::themeChanged() {
+    m_background.reset();
+    ThemedWidget::themeChanged();
+}
+
 void OverlayView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const Palette& palette = theme().palette;
-    painter.setPen(QPen(palette.windowBorder, 1));
-    painter.setBrush(palette.window);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+    if (!m_background || m_background->ratio() != devicePixelRatioF())
+        m_background = roundedBox(cornerRadius, devicePixelRatioF(), palette.window, palette.windowBorder);
+    painter.fillRect(m_background->inside(rect()), palette.window);
+    m_background->paintFrame(painter, rect());
 }
 
 } // namespace quillon

@@ -3,7 +3,6 @@
 #include <QImage>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace quillon {
@@ -14,8 +13,8 @@ namespace {
 constexpr double drop = 8;
 /// Its darkest, beside the edge.
 constexpr double strength = 0.30;
-/// Straight edge between two corners of the tile; what is stretched.
-constexpr double middle = 8;
+/// How far the darker line beside the edge reaches.
+constexpr double nearReach = 6;
 
 /// The distance of a point from a rounded rectangle: 0 on its edge, negative inside.
 double distanceFrom(const QRectF& rect, double radius, double x, double y) {
@@ -31,12 +30,10 @@ double falloff(double distance, double reach) {
     return t * t;
 }
 
-QPixmap tile(double radius, const QColor& colour, double ratio) {
-    const double edge = PanelShadow::reach + radius;
-    const double size = 2 * edge + middle;
-    QImage image(
-        QSize(1, 1) * static_cast<int>(std::ceil(size * ratio)), QImage::Format_ARGB32_Premultiplied);
-    const QRectF shape(PanelShadow::reach, PanelShadow::reach, 2 * radius + middle, 2 * radius + middle);
+/// The shadow of a rounded `shape` on a picture of this size.
+QImage shadowImage(QSize size, double ratio, const QRectF& shape, double radius, const QColor& colour) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
@@ -44,50 +41,34 @@ QPixmap tile(double radius, const QColor& colour, double ratio) {
             const double py = (y + 0.5) / ratio;
             const double wide =
                 falloff(distanceFrom(shape.translated(0, drop), radius, px, py), PanelShadow::reach - drop);
-            const double near = falloff(distanceFrom(shape, radius, px, py), 6);
-            const double alpha = std::min(1.0, strength * (0.82 * wide + 0.18 * near));
+            const double near = falloff(distanceFrom(shape, radius, px, py), nearReach);
+            const double alpha = strength * (0.82 * wide + 0.18 * near);
             line[x] = qPremultiply(qRgba(
                 colour.red(), colour.green(), colour.blue(), static_cast<int>(std::lround(alpha * 255))));
         }
     }
-    QPixmap pixmap = QPixmap::fromImage(image);
-    pixmap.setDevicePixelRatio(ratio);
-    return pixmap;
+    return image;
 }
 
-/// The tile's corners as they are, its edges stretched between them, nothing in the middle. `edge` is the
-/// size of a corner in logical pixels.
-void paintStretched(QPainter& painter, const QRectF& target, const QPixmap& tile, double edge) {
-    const double ratio = tile.devicePixelRatio();
-    const double side = tile.width() / ratio;
-    const std::array targetX{target.left(), target.left() + edge, target.right() - edge, target.right()};
-    const std::array targetY{target.top(), target.top() + edge, target.bottom() - edge, target.bottom()};
-    const std::array source{0.0, edge, side - edge, side};
-    for (std::size_t row = 0; row < 3; ++row) {
-        for (std::size_t column = 0; column < 3; ++column) {
-            if (row == 1 && column == 1)
-                continue;
-            const QRectF to(
-                QPointF(targetX[column], targetY[row]), QPointF(targetX[column + 1], targetY[row + 1]));
-            const QRectF from(
-                QPointF(source[column], source[row]) * ratio,
-                QPointF(source[column + 1], source[row + 1]) * ratio);
-            painter.drawPixmap(to, tile, from);
-        }
-    }
+NinePatch shadowPatch(double radius, double ratio, const QColor& colour) {
+    constexpr int reach = PanelShadow::reach;
+    return NinePatch(reach + drop + radius, ratio, [&](QPainter& painter, const QRectF& box) {
+        const QRectF shape = box.adjusted(reach, reach, -reach, -reach);
+        painter.drawImage(
+            QPointF(0, 0), shadowImage((box.size() * ratio).toSize(), ratio, shape, radius, colour));
+    });
 }
 
 } // namespace
 
 void PanelShadow::paint(QPainter& painter, const QRectF& panel, double radius, const QColor& colour) {
     const double ratio = painter.device()->devicePixelRatioF();
-    if (m_tile.isNull() || ratio != m_ratio || radius != m_radius || colour != m_colour) {
-        m_tile = tile(radius, colour, ratio);
-        m_ratio = ratio;
+    if (!m_patch || ratio != m_patch->ratio() || radius != m_radius || colour != m_colour) {
+        m_patch = shadowPatch(radius, ratio, colour);
         m_radius = radius;
         m_colour = colour;
     }
-    paintStretched(painter, panel.adjusted(-reach, -reach, reach, reach), m_tile, reach + radius);
+    m_patch->paintFrame(painter, panel.adjusted(-reach, -reach, reach, reach));
 }
 
 } // namespace quillon
