@@ -62,7 +62,7 @@ TEST(X11ConnectionWithoutServerTest, IsAbsent) {
 TEST(X11ConnectionWithoutServerTest, AServerThatGoesAwayLeavesEverythingAbsent) {
     XServer server;
     ASSERT_FALSE(server.display().empty());
-    const auto x11 = X11Connection::open(server.display());
+    const auto x11 = X11Connection::open(server.display(), std::chrono::seconds(10));
     ASSERT_NE(x11, nullptr);
     X11Keyboard keyboard(x11, std::make_shared<RawInput>(x11));
     const auto ages = keyboard.observeInput();
@@ -81,7 +81,7 @@ TEST(X11ConnectionWithoutServerTest, AServerThatGoesAwayLeavesEverythingAbsent) 
 
 TEST(X11ConnectionWithoutServerTest, ALossThatIsNoticedByAskingIsToldToo) {
     XServer server;
-    const auto x11 = X11Connection::open(server.display());
+    const auto x11 = X11Connection::open(server.display(), std::chrono::seconds(10));
     ASSERT_NE(x11, nullptr);
     int lost = 0;
     const auto listener = x11->onLost([&] { ++lost; });
@@ -92,7 +92,7 @@ TEST(X11ConnectionWithoutServerTest, ALossThatIsNoticedByAskingIsToldToo) {
 
 TEST(X11ConnectionWithoutServerTest, AnExtensionThatTheServerLacksIsAbsent) {
     XServer server({QStringLiteral("-extension"), QStringLiteral("X-Resource")});
-    const auto x11 = X11Connection::open(server.display());
+    const auto x11 = X11Connection::open(server.display(), std::chrono::seconds(10));
     ASSERT_NE(x11, nullptr);
     EXPECT_FALSE(x11->extensions().clientPids);
     EXPECT_TRUE(x11->extensions().xkbFirstEvent);

@@ -347,7 +347,11 @@ TEST_F(X11FrontApplicationTest, OurOwnPanelIsNoFrontApplicationWithoutAWindowMan
     EXPECT_EQ(front->current()->windows.at(0).id, window);
 }
 
-TEST_F(X11FrontApplicationTest, AServerThatDoesNotAnswerDelaysTheNewsAndLosesNone) {
+struct X11LateFrontApplicationTest : X11FrontApplicationTest {
+    X11LateFrontApplicationTest() { patience = X11Connection::mainThreadPatience; }
+};
+
+TEST_F(X11LateFrontApplicationTest, AServerThatDoesNotAnswerDelaysTheNewsAndLosesNone) {
     startWithManager();
     const xcb_window_t first = writer("First");
     const xcb_window_t second = calc("Second");
@@ -363,7 +367,7 @@ TEST_F(X11FrontApplicationTest, AServerThatDoesNotAnswerDelaysTheNewsAndLosesNon
 
 TEST(X11FrontApplicationWithoutServerTest, WhenTheServerGoesAwayNothingIsInFront) {
     XServer server;
-    const auto x11 = X11Connection::open(server.display());
+    const auto x11 = X11Connection::open(server.display(), std::chrono::seconds(10));
     ASSERT_NE(x11, nullptr);
     TestClient client(server.display());
     client.becomeWindowManager();
@@ -381,7 +385,7 @@ TEST(X11FrontApplicationWithoutServerTest, WhenTheServerGoesAwayNothingIsInFront
 
 TEST(X11FrontApplicationWithoutServerTest, TheWindowsOwnWordForItsProcessCountsWhereTheServerHasNone) {
     XServer server({QStringLiteral("-extension"), QStringLiteral("X-Resource")});
-    const auto x11 = X11Connection::open(server.display());
+    const auto x11 = X11Connection::open(server.display(), std::chrono::seconds(10));
     ASSERT_NE(x11, nullptr);
     TestClient client(server.display());
     client.becomeWindowManager();

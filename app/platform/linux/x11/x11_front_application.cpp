@@ -111,6 +111,8 @@ std::optional<RunningApp> X11FrontApplication::describe() const {
         if (other.window.facts.pid == result.pid && other.app.bundleID == result.bundleID)
             add(other.window);
     }
+    if (m_x11->isLate())
+        return std::nullopt;
     return result;
 }
 

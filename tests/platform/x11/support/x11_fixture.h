@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -21,7 +22,7 @@ class X11Fixture : public testing::Test {
 
     void SetUp() override {
         ASSERT_FALSE(s_server->display().empty());
-        x11 = X11Connection::open(s_server->display());
+        x11 = X11Connection::open(s_server->display(), patience);
         ASSERT_NE(x11, nullptr);
         client = std::make_unique<TestClient>(s_server->display());
     }
@@ -35,6 +36,8 @@ class X11Fixture : public testing::Test {
 
     static const std::string& x11Display() { return s_server->display(); }
 
+    /// Answers are to be exact here even when the machine is busy.
+    std::chrono::milliseconds patience = std::chrono::seconds(10);
     std::shared_ptr<X11Connection> x11;
     std::unique_ptr<TestClient> client;
 
