@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace quillon {
+
+/// The names that this program uses with the X server.
+enum class X11Name {
+    gtkApplicationID,
+    netActiveWindow,
+    netClientListStacking,
+    netSupported,
+    netSupportingWmCheck,
+    netWmDesktop,
+    netWmIcon,
+    netWmName,
+    netWmPid,
+    netWmState,
+    netWmStateAbove,
+    netWmStateSkipPager,
+    netWmStateSkipTaskbar,
+    netWmStateSticky,
+    netWmUserTime,
+    netWmWindowType,
+    netWmWindowTypeNotification,
+    utf8String,
+};
+
+inline constexpr std::array<std::string_view, 18> x11Names{
+    "_GTK_APPLICATION_ID",
+    "_NET_ACTIVE_WINDOW",
+    "_NET_CLIENT_LIST_STACKING",
+    "_NET_SUPPORTED",
+    "_NET_SUPPORTING_WM_CHECK",
+    "_NET_WM_DESKTOP",
+    "_NET_WM_ICON",
+    "_NET_WM_NAME",
+    "_NET_WM_PID",
+    "_NET_WM_STATE",
+    "_NET_WM_STATE_ABOVE",
+    "_NET_WM_STATE_SKIP_PAGER",
+    "_NET_WM_STATE_SKIP_TASKBAR",
+    "_NET_WM_STATE_STICKY",
+    "_NET_WM_USER_TIME",
+    "_NET_WM_WINDOW_TYPE",
+    "_NET_WM_WINDOW_TYPE_NOTIFICATION",
+    "UTF8_STRING",
+};
+
+static_assert(x11Names.size() == static_cast<std::size_t>(X11Name::utf8String) + 1);
+
+} // namespace quillon

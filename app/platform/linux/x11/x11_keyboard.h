@@ -1,0 +1,50 @@
+#pragma once
+
+#include "keyboard_map.h"
+#include "raw_input.h"
+
+#include <quillon/ports/keyboard.h>
+
+#include <memory>
+
+namespace quillon {
+
+/// What a pointer button stands for: 1 is the left one, 3 the right one, 4 to 7 are the wheel (devices that
+/// scroll smoothly send them too).
+InputKind inputKindOfButton(std::uint32_t button);
+
+/// The keyboard as the X server's keyboard extension (XKB) tells it. Its events come under other clients'
+/// grabs and are not key events: typing does not wake this program, modifiers do.
+class X11Keyboard final : public Keyboard {
+  public:
+    X11Keyboard(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input);
+    ~X11Keyboard() override;
+
+    /// What is down or latched or locked, of the four. The last known answer when the server does not
+    /// answer in time, none when it is gone.
+    Modifiers modifiers() const override;
+    Subscription onModifiersChanged(std::function<void(Modifiers)> callback) override;
+    std::unique_ptr<InputAges> observeInput() override;
+
+  private:
+    class LastInputs;
+    class Ages;
+
+    void selectXkbEvents();
+    void handle(const xcb_generic_event_t& event);
+    void stateChanged(std::uint32_t mask);
+    const KeyboardMap& map() const;
+
+    std::shared_ptr<X11Connection> m_x11;
+    std::shared_ptr<RawInput> m_input;
+    Event<Modifiers> m_changed;
+    mutable KeyboardMap m_map;
+    mutable bool m_mapIsStale = true;
+    mutable std::uint32_t m_mask = 0;
+    Modifiers m_told;
+    std::weak_ptr<LastInputs> m_lastInputs;
+    Subscription m_events;
+    Subscription m_lost;
+};
+
+} // namespace quillon

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "raw_input.h"
+
+#include <quillon/ports/panel_windows.h>
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+
+namespace quillon {
+
+/// Panels on an X server. They are windows that the window manager does not know (override-redirect), so the
+/// keyboard is given to them and back directly.
+class X11PanelWindows final : public PanelWindows {
+  public:
+    X11PanelWindows(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input);
+    ~X11PanelWindows() override;
+
+    void prepare(std::uintptr_t window) override;
+    /// Never waits: a window that is not on the screen yet gets the keyboard as soon as it is.
+    void takeKeyboard(std::uintptr_t window) override;
+    void returnKeyboard(std::uintptr_t window) override;
+    bool isComposited() const override { return m_composited; }
+    Subscription onCompositedChanged(std::function<void()> callback) override;
+    /// The wheel is no press. A press whose place the server does not tell in time is not told.
+    Subscription onPressElsewhere(std::function<void()> callback) override;
+
+  private:
+    /// What is known of a window that took the keyboard.
+    struct Taking {
+        bool isWanted = true;                              ///< it has not got it yet
+        std::optional<xcb_get_input_focus_cookie_t> asked; ///< who had it, if not looked up yet
+        xcb_window_t before = XCB_NONE;                    ///< who had it
+        Subscription events;                               ///< of the window
+    };
+
+    void handle(const xcb_generic_event_t& event);
+    void followCompositor();
+    void setComposited(bool composited);
+    void focus(xcb_window_t window);
+    void learnWhoHadIt(xcb_window_t window, Taking& taking);
+    bool isOnScreen(xcb_window_t window);
+    void pressed();
+    std::optional<bool> isPointerOverOurs();
+    bool isOurs(xcb_window_t window);
+
+    std::shared_ptr<X11Connection> m_x11;
+    std::shared_ptr<RawInput> m_input;
+    xcb_atom_t m_compositorSelection = XCB_ATOM_NONE;
+    bool m_composited = false;
+    std::map<xcb_window_t, Taking> m_takings;
+    std::set<std::uint32_t> m_ourClients; ///< client parts of our windows' numbers
+    Event<> m_compositedChanged;
+    Event<> m_pressElsewhere;
+    std::shared_ptr<std::size_t> m_pressListeners = std::make_shared<std::size_t>(0);
+    Subscription m_presses;
+    Subscription m_events;
+    Subscription m_lost;
+};
+
+} // namespace quillon

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <quillon/ports/background.h>
+
+namespace quillon {
+
+/// For commands that have nothing else to do meanwhile: jobs and continuations run where they are asked for.
+class InlineBackground final : public Background {
+  public:
+    void run(Job job) override {
+        if (const Continuation continuation = job({}))
+            continuation();
+    }
+};
+
+} // namespace quillon

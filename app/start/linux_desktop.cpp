@@ -1,0 +1,52 @@
+#include "linux_desktop.h"
+
+#include <quillon/x11/raw_input.h>
+#include <quillon/x11/x11_connection.h>
+#include <quillon/x11/x11_front_application.h>
+#include <quillon/x11/x11_keyboard.h>
+#include <quillon/x11/x11_panel_windows.h>
+#include <quillon/xdg/a11y_bus_access.h>
+#include <quillon/xdg/xdg_app_icons.h>
+#include <quillon/xdg/xdg_appearance.h>
+
+namespace quillon {
+
+LinuxDesktop::LinuxDesktop(Background& background, const Clock& clock)
+    : m_identifier(background, clock), m_access(std::make_unique<A11yBusAccess>()),
+      m_appearance(std::make_unique<XdgAppearance>()), m_icons(std::make_unique<XdgAppIcons>(m_identifier)),
+      m_x11(X11Connection::open()) {
+    if (!m_x11)
+        return;
+    const auto input = std::make_shared<RawInput>(m_x11);
+    m_front = std::make_unique<X11FrontApplication>(
+        m_x11, m_identifier,
+        [this](const std::string& bundleID, IconPixels icon) { m_icons->note(bundleID, std::move(icon)); });
+    m_keyboard = std::make_unique<X11Keyboard>(m_x11, input);
+    m_panels = std::make_unique<X11PanelWindows>(m_x11, input);
+}
+
+LinuxDesktop::~LinuxDesktop() = default;
+
+FrontApplication& LinuxDesktop::frontApplication() {
+    if (m_front)
+        return *m_front;
+    return m_none.front;
+}
+
+Keyboard& LinuxDesktop::keyboard() {
+    if (m_keyboard)
+        return *m_keyboard;
+    return m_none.keyboard;
+}
+
+AppIcons& LinuxDesktop::icons() {
+    return *m_icons;
+}
+
+PanelWindows& LinuxDesktop::panelWindows() {
+    if (m_panels)
+        return *m_panels;
+    return m_none.panels;
+}
+
+} // namespace quillon

@@ -1,0 +1,75 @@
+#include "program.h"
+
+#include "showcase.h"
+
+#include <quillon/xdg/paths.h>
+
+#include <QApplication>
+#include <QCursor>
+
+#include <unistd.h>
+
+namespace quillon {
+
+Program::Program()
+    : m_desktop(m_background, m_clock), m_settings(QString::fromStdString(settingsFile())),
+      m_themes(m_desktop.appearance()), m_icons(m_desktop.icons()),
+      m_panels(m_themes, m_icons, m_desktop.panelWindows(), OverlayMode::live),
+      m_model({
+          .frontApplication = m_desktop.frontApplication(),
+          .menuReader = m_desktop.menuReader(),
+          .accessibility = m_desktop.accessibility(),
+          .keyboard = m_desktop.keyboard(),
+          .clock = m_clock,
+          .timers = m_timers,
+          .background = m_background,
+          .panels = m_panels,
+          .settings = m_settings,
+          .ownPid = getpid(),
+      }),
+      m_tray(m_model, m_themes, [] { QApplication::quit(); }) {
+    m_windowRequests = m_model.windowRequested.subscribe([this](WindowName name) { openWindow(name); });
+}
+
+Program::~Program() = default;
+
+InstanceRequests Program::requests() {
+    return {
+        .activate = [this] { activate(); },
+        .showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
+        .showSample = [this] { showSample(); },
+        .quit = [] { QApplication::quit(); },
+        .measureStalls = [this] { m_stalls.start(); },
+        .longestStall =
+            [this] { return std::chrono::duration<double, std::milli>(m_stalls.longest()).count(); },
+    };
+}
+
+void Program::start(FirstShow firstShow) {
+    m_model.start();
+    m_tray.show();
+    switch (firstShow) {
+    case FirstShow::nothing: break;
+    case FirstShow::overlay: m_model.showOverlay(Stickiness::sticky); break;
+    case FirstShow::sample: showSample(); break;
+    }
+}
+
+void Program::activate() {
+    m_tray.menu().popup(QCursor::pos());
+}
+
+void Program::showSample() {
+    if (!m_showcase)
+        m_showcase = std::make_unique<Showcase>(
+            m_clock, m_timers, m_background, m_themes, m_icons, m_desktop.panelWindows(), m_settings);
+    m_showcase->show();
+}
+
+// Turning accessibility on is what the one window that there is to open would offer.
+void Program::openWindow(WindowName name) {
+    if (name == WindowName::welcome)
+        m_desktop.accessibility().ask();
+}
+
+} // namespace quillon

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "commands.h"
+#include "linux_desktop.h"
+
+#include <quillon/components/app_icon_cache.h>
+#include <quillon/components/theme_source.h>
+#include <quillon/core/app_model.h>
+#include <quillon/panels/qt_panel_host.h>
+#include <quillon/qt/qt_timers.h>
+#include <quillon/qt/stall_meter.h>
+#include <quillon/qt/system_clock.h>
+#include <quillon/qt/thread_background.h>
+#include <quillon/session/instance.h>
+#include <quillon/tray/tray_menu.h>
+
+#include <memory>
+
+namespace quillon {
+
+class Showcase;
+
+/// The running program: everything that lives from its start to its end, in the order in which it needs one
+/// another.
+class Program {
+  public:
+    Program();
+    ~Program();
+
+    /// What other processes of the session may ask of this one.
+    InstanceRequests requests();
+    void start(FirstShow firstShow);
+
+  private:
+    void activate();
+    void showSample();
+    void openWindow(WindowName name);
+
+    SystemClock m_clock;
+    QtTimers m_timers;
+    ThreadBackground m_background;
+    LinuxDesktop m_desktop;
+    Settings m_settings;
+    ThemeSource m_themes;
+    AppIconCache m_icons;
+    QtPanelHost m_panels;
+    AppModel m_model;
+    TrayMenu m_tray;
+    StallMeter m_stalls;
+    std::unique_ptr<Showcase> m_showcase;
+    Subscription m_windowRequests;
+};
+
+} // namespace quillon

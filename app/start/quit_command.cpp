@@ -1,0 +1,16 @@
+#include "commands.h"
+
+#include <quillon/session/instance.h>
+
+#include <iostream>
+
+namespace quillon {
+
+ExitCode runQuit(const QuitCommand&) {
+    if (askRunningInstance(QStringLiteral("Quit")))
+        return ExitCode::success;
+    std::cerr << "quillon: no running instance answers\n";
+    return ExitCode::failure;
+}
+
+} // namespace quillon

@@ -1,0 +1,29 @@
+#include "showcase.h"
+
+#include <quillon/menu/sample_menus.h>
+#include <quillon/records/sample_records.h>
+
+namespace quillon {
+
+Showcase::Showcase(
+    const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
+    PanelWindows& windows, Settings& settings)
+    : m_panels(themes, icons, windows, OverlayMode::showcase), m_model({
+                                                                   .frontApplication = m_none.front,
+                                                                   .menuReader = m_none.menus,
+                                                                   .accessibility = m_none.access,
+                                                                   .keyboard = m_none.keyboard,
+                                                                   .clock = clock,
+                                                                   .timers = timers,
+                                                                   .background = background,
+                                                                   .panels = m_panels,
+                                                                   .settings = settings,
+                                                               }) {
+    m_model.showSample(SampleMenus::sheet(), SampleMenus::usage(), SampleMenus::annotations());
+}
+
+void Showcase::show() {
+    m_model.showOverlay(Stickiness::sticky);
+}
+
+} // namespace quillon

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <quillon/core/app_model.h>
+#include <quillon/none/no_desktop.h>
+#include <quillon/panels/qt_panel_host.h>
+
+namespace quillon {
+
+/// The overlay with a made-up application, of a model that reads nothing and keeps nothing.
+class Showcase {
+  public:
+    /// All of them outlive the showcase.
+    Showcase(
+        const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
+        PanelWindows& windows, Settings& settings);
+
+    /// Opens the overlay and keeps it open.
+    void show();
+
+  private:
+    NoDesktop m_none;
+    QtPanelHost m_panels;
+    AppModel m_model;
+};
+
+} // namespace quillon

@@ -1,0 +1,46 @@
+#include "app_icon_view.h"
+
+#include "accessible_roles.h"
+
+#include <QPainter>
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr double placeholderRadiusPerSize = 0.22;
+
+} // namespace
+
+AppIconView::AppIconView(ThemeSource& themes, AppIconCache& icons, int size, QWidget* parent)
+    : ThemedWidget(themes, parent), m_icons(icons), m_size(size) {
+    installAccessibleRoles();
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void AppIconView::setBundleID(std::string bundleID) {
+    if (bundleID == m_bundleID)
+        return;
+    m_bundleID = std::move(bundleID);
+    update();
+}
+
+void AppIconView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRectF square((width() - m_size) / 2, (height() - m_size) / 2, m_size, m_size);
+    const QPixmap& icon = m_icons.pixmap(m_bundleID, m_size, devicePixelRatioF());
+    if (!icon.isNull()) {
+        const QSizeF size = icon.deviceIndependentSize();
+        painter.drawPixmap(square.center() - QPointF(size.width() / 2, size.height() / 2), icon);
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme().palette.primaryAt(0.06));
+    const double radius = m_size * placeholderRadiusPerSize;
+    painter.drawRoundedRect(square, radius, radius);
+}
+
+} // namespace quillon

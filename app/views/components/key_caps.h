@@ -1,0 +1,58 @@
+#pragma once
+
+#include "theme.h"
+
+#include <quillon/shortcut/shortcut.h>
+
+#include <QFontMetricsF>
+#include <QHash>
+#include <QPainter>
+#include <QPixmap>
+#include <QStringList>
+
+#include <unordered_map>
+
+namespace quillon {
+
+/// What each cap of a shortcut shows: one per modifier in the order ⌃⌥⇧⌘, then the key.
+QStringList capTexts(const Shortcut& shortcut);
+
+enum class CapEmphasis {
+    plain,
+    prominent ///< stronger fill, for the shortcut that is being taught
+};
+
+/// Measures and draws shortcuts as rows of key caps, in one size and theme. Remembers what it has measured
+/// and drawn.
+class KeyCaps {
+  public:
+    /// `size` is the caps' font size in logical pixels; every other measure scales from it.
+    KeyCaps(const Theme& theme, double size, CapEmphasis emphasis = CapEmphasis::plain);
+
+    /// In logical pixels; whole numbers.
+    double width(const Shortcut& shortcut) const;
+    double height() const { return m_height; }
+    /// From the top of a cap down to the line that its text stands on.
+    double baseline() const { return m_baseline; }
+
+    void paint(QPainter& painter, QPointF topLeft, const Shortcut& shortcut) const;
+
+  private:
+    double capWidth(const QString& cap) const;
+    const QPixmap& capPixmap(const QString& cap, double ratio) const;
+    QPixmap drawCap(const QString& cap, double ratio) const;
+
+    Palette m_palette;
+    QFont m_font;
+    QFontMetricsF m_metrics;
+    double m_size;
+    CapEmphasis m_emphasis;
+    double m_height;
+    double m_baseline;
+    double m_widestDigit;
+    mutable std::unordered_map<Shortcut, double> m_widths;
+    mutable QHash<QString, QPixmap> m_pixmaps;
+    mutable double m_pixmapRatio = 1;
+};
+
+} // namespace quillon

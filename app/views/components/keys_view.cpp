@@ -1,0 +1,46 @@
+#include "keys_view.h"
+
+#include "accessible_roles.h"
+#include "text.h"
+
+#include <cmath>
+#include <utility>
+
+namespace quillon {
+
+KeysView::KeysView(
+    ThemeSource& themeSource, Shortcut shortcut, double size, CapEmphasis emphasis, QWidget* parent)
+    : ThemedWidget(themeSource, parent), m_shortcut(std::move(shortcut)), m_size(size), m_emphasis(emphasis),
+      m_caps(theme(), size, emphasis) {
+    installAccessibleRoles();
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccessibleName(text(m_shortcut.display()));
+}
+
+void KeysView::setShortcut(Shortcut shortcut) {
+    m_shortcut = std::move(shortcut);
+    setAccessibleName(text(m_shortcut.display()));
+    updateGeometry();
+    update();
+}
+
+void KeysView::setSize(double size) {
+    m_size = size;
+    KeysView::themeChanged();
+}
+
+QSize KeysView::sizeHint() const {
+    return QSizeF(m_caps.width(m_shortcut), m_caps.height()).toSize();
+}
+
+void KeysView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    m_caps.paint(painter, QPointF(0, std::floor((height() - m_caps.height()) / 2)), m_shortcut);
+}
+
+void KeysView::themeChanged() {
+    m_caps = KeyCaps(theme(), m_size, m_emphasis);
+    ThemedWidget::themeChanged();
+}
+
+} // namespace quillon

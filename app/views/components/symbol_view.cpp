@@ -1,0 +1,28 @@
+#include "symbol_view.h"
+
+#include "accessible_roles.h"
+
+#include <QPainter>
+
+namespace quillon {
+
+SymbolView::SymbolView(ThemeSource& themes, Symbol symbol, int size, QColor Palette::*colour, QWidget* parent)
+    : ThemedWidget(themes, parent), m_symbol(symbol), m_size(size), m_colour(colour) {
+    installAccessibleRoles();
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void SymbolView::setSymbol(Symbol symbol) {
+    m_symbol = symbol;
+    update();
+}
+
+void SymbolView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QPoint origin((width() - m_size) / 2, (height() - m_size) / 2);
+    painter.drawPixmap(
+        origin, symbolPixmap(m_symbol, m_size, theme().palette.*m_colour, devicePixelRatioF()));
+}
+
+} // namespace quillon

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <QString>
+
+namespace quillon {
+
+/// The program's own pictograms. Their names say what they show.
+enum class Symbol {
+    handRaised,
+    hourglass,
+    keyboard,
+    magnifyingGlass,
+    menuBarRectangle,
+    pinFill,
+    xmarkCircleFill,
+};
+
+/// "hand.raised", "keyboard" …
+QString symbolName(Symbol symbol);
+
+/// The symbol in one colour, `size` logical pixels square, for a screen with `ratio` device pixels each.
+/// Drawn once and then kept.
+QPixmap symbolPixmap(Symbol symbol, int size, const QColor& colour, double ratio);
+
+/// The program's sign for the tray in one colour, `size` device pixels square.
+QPixmap traySign(int size, const QColor& colour);
+
+} // namespace quillon

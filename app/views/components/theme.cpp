@@ -1,0 +1,23 @@
+#include "theme.h"
+
+#include "text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillon {
+
+double Theme::keySize() const {
+    return std::max(6.0, std::round(pixelSize(styles.body) * 0.86));
+}
+
+Theme Theme::fromLook(const Look& look, const QFont& fallback) {
+    QFont base = fallback;
+    if (look.fontFamily && !look.fontFamily->empty())
+        base.setFamilies({text(*look.fontFamily)});
+    if (look.fontPoints && *look.fontPoints > 0)
+        base.setPointSizeF(std::clamp(*look.fontPoints, 4.0, 72.0));
+    return Theme{.palette = Palette::forScheme(look.scheme), .styles = TextStyles::fromBase(base)};
+}
+
+} // namespace quillon

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "palette.h"
+#include "text_styles.h"
+
+#include <quillon/ports/appearance.h>
+
+namespace quillon {
+
+/// How the program looks right now.
+struct Theme {
+    Palette palette;
+    TextStyles styles;
+
+    /// The size of key caps that stand in a line of body text, in logical pixels.
+    double keySize() const;
+
+    /// Follows the desktop's look; where that does not tell a font, `fallback` is the interface font.
+    static Theme fromLook(const Look& look, const QFont& fallback);
+
+    bool operator==(const Theme&) const = default;
+};
+
+} // namespace quillon

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "theme.h"
+
+#include <quillon/ports/subscription.h>
+
+namespace quillon {
+
+/// The theme as it follows the desktop's look. Widgets read `theme` when they are made and again whenever
+/// `changed` is emitted.
+class ThemeSource {
+  public:
+    /// The interface font of an `appearance` that tells none is the toolkit's. `appearance` outlives this.
+    explicit ThemeSource(Appearance& appearance);
+
+    const Theme& theme() const { return m_theme; }
+
+    /// Emitted after the theme became another one.
+    Event<> changed;
+
+  private:
+    void follow();
+    void applyToToolkit() const;
+
+    Appearance& m_appearance;
+    QFont m_toolkitFont;
+    Theme m_theme;
+    Subscription m_subscription;
+};
+
+} // namespace quillon

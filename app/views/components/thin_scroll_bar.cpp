@@ -1,0 +1,30 @@
+#include "thin_scroll_bar.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString css(const QColor& colour) {
+    return u"rgba(%1, %2, %3, %4)"_s.arg(colour.red())
+        .arg(colour.green())
+        .arg(colour.blue())
+        .arg(colour.alpha());
+}
+
+} // namespace
+
+void makeThin(QScrollBar& bar, const Theme& theme) {
+    const QString sheet =
+        u"QScrollBar:vertical { background: transparent; border: none; width: %1px; margin: 0; }"
+        "QScrollBar::handle:vertical { background: %2; border-radius: 3px; min-height: 36px; margin: 0 0 0 "
+        "4px; }"
+        "QScrollBar::handle:vertical:hover, QScrollBar::handle:vertical:pressed { background: %3; }"
+        "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; border: none; }"
+        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"_s;
+    bar.setStyleSheet(sheet.arg(thinScrollBarWidth)
+                          .arg(css(theme.palette.primaryAt(0.22)), css(theme.palette.primaryAt(0.38))));
+}
+
+} // namespace quillon

@@ -1,0 +1,33 @@
+#include "vocabulary.h"
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+const Vocabulary& Vocabulary::macOS() {
+    static const Vocabulary vocabulary{
+        .computer = u"Mac"_s,
+        .system = u"macOS"_s,
+        .accessibilitySettings = u"System Settings > Privacy & Security > Accessibility"_s,
+    };
+    return vocabulary;
+}
+
+const Vocabulary& Vocabulary::linuxDesktop() {
+    static const Vocabulary vocabulary{
+        .computer = u"computer"_s,
+        .system = u"Linux"_s,
+        .accessibilitySettings = u"your desktop’s accessibility settings"_s,
+    };
+    return vocabulary;
+}
+
+const Vocabulary& Vocabulary::here() {
+#ifdef Q_OS_MACOS
+    return macOS();
+#else
+    return linuxDesktop();
+#endif
+}
+
+} // namespace quillon

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// What the places and things that a sentence mentions are called on one platform. Only such nouns differ;
+/// the sentences themselves are the same everywhere.
+struct Vocabulary {
+    QString computer;              ///< "your …"
+    QString system;                ///< what provides the menus
+    QString accessibilitySettings; ///< where reading menus is allowed
+
+    static const Vocabulary& macOS();
+    static const Vocabulary& linuxDesktop();
+    /// Of the platform that this program was built for.
+    static const Vocabulary& here();
+};
+
+} // namespace quillon

@@ -1,0 +1,132 @@
+#include "area_painter.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillon {
+
+namespace {
+
+constexpr double cardRadius = 11;
+constexpr double rowRadius = 6;
+constexpr double focusRingWidth = 1.5;
+
+void paintRounded(QPainter& painter, const QRectF& rect, double radius, const QColor& fill, const QPen& pen) {
+    painter.setPen(pen);
+    painter.setBrush(fill);
+    const double inset = pen.style() == Qt::NoPen ? 0 : pen.widthF() / 2;
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
+}
+
+} // namespace
+
+void AreaPainter::paint(QPainter& painter, const QRectF& visible, const RowHighlights& highlights) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintCards(painter, visible);
+    for (const DividerBox& divider : m_layout.dividers) {
+        if (divider.rect.intersects(visible))
+            painter.fillRect(divider.rect, m_theme.palette.divider);
+    }
+    paintHighlights(painter, highlights);
+    for (const HeadingBox& heading : m_layout.headings) {
+        if (heading.rect.intersects(visible))
+            paintHeading(painter, heading);
+    }
+    for (const CardBox& card : m_layout.cards) {
+        if (!card.rect.intersects(visible))
+            continue;
+        for (std::size_t row = card.firstRow; row < card.endRow; ++row) {
+            if (m_layout.rows[row].rect.intersects(visible))
+                paintRow(painter, m_layout.rows[row]);
+        }
+    }
+}
+
+void AreaPainter::paintCards(QPainter& painter, const QRectF& visible) const {
+    const QPen border(m_theme.palette.cardBorder, 1);
+    for (const CardBox& card : m_layout.cards) {
+        if (card.rect.intersects(visible))
+            paintRounded(painter, card.rect, cardRadius, m_theme.palette.card, border);
+    }
+}
+
+void AreaPainter::paintHighlights(QPainter& painter, const RowHighlights& highlights) const {
+    if (highlights.hovered) {
+        paintRounded(
+            painter, m_layout.rows[*highlights.hovered].rect, rowRadius, m_theme.palette.hover, Qt::NoPen);
+    }
+    if (highlights.focused) {
+        const QPen ring(m_theme.palette.focusRing, focusRingWidth);
+        paintRounded(painter, m_layout.rows[*highlights.focused].rect, rowRadius, Qt::transparent, ring);
+    }
+}
+
+void AreaPainter::paintHeading(QPainter& painter, const HeadingBox& heading) const {
+    const AreaCard& card = m_content.cards[heading.card];
+    const bool isTitle = heading.kind == HeadingBox::Kind::card;
+    const MeasuredFont& font = isTitle ? m_measure.heading : m_measure.caption;
+    const QString& text = isTitle ? card.title : card.sections[heading.section].caption;
+    double left = heading.rect.left();
+    if (isTitle && card.icon) {
+        const int size = static_cast<int>(std::ceil(font.metrics().capHeight() * 1.4));
+        const QPointF origin(left, std::round(heading.rect.center().y() - size / 2.0));
+        painter.drawPixmap(
+            origin,
+            symbolPixmap(*card.icon, size, m_theme.palette.pin, painter.device()->devicePixelRatioF()));
+        left += size + RowArranger::partGap;
+    }
+    const double room = heading.rect.right() - left;
+    const QString shown =
+        font.width(text) > room ? font.metrics().elidedText(text, Qt::ElideRight, room) : text;
+    painter.setFont(font.font());
+    painter.setPen(isTitle ? m_theme.palette.primary : m_theme.palette.secondary);
+    painter.drawText(QPointF(left, heading.rect.top() + std::ceil(font.metrics().ascent())), shown);
+}
+
+void AreaPainter::paintRow(QPainter& painter, const RowBox& row) const {
+    const PreparedEntry& entry = m_sheet.entries[row.entry];
+    const RowArranger arranger(m_measure, row.rect.width() - 2 * rowInset);
+    painter.translate(row.rect.left() + rowInset, row.rect.top());
+    paintRowParts(painter, entry, arranger.arrange(entry, row.submenu));
+    painter.translate(-(row.rect.left() + rowInset), -row.rect.top());
+}
+
+void AreaPainter::paintRowParts(
+    QPainter& painter, const PreparedEntry& entry, const RowArrangement& parts) const {
+    const Palette& palette = m_theme.palette;
+    paintText(painter, parts.title, m_measure.title, entry.enabled ? palette.primary : palette.dimmed);
+    if (parts.submenu)
+        paintText(painter, *parts.submenu, m_measure.submenu, palette.secondary);
+    if (parts.pin) {
+        const double ratio = painter.device()->devicePixelRatioF();
+        const int size = static_cast<int>(parts.pin->width());
+        painter.drawPixmap(parts.pin->topLeft(), symbolPixmap(Symbol::pinFill, size, palette.pin, ratio));
+    }
+    if (parts.badge) {
+        const QRectF& pill = parts.badge->rect;
+        paintRounded(painter, pill, pill.height() / 2, palette.badge, Qt::NoPen);
+        paintText(painter, *parts.badge, m_measure.caption, palette.badgeText, RowArranger::badgePadding);
+    }
+    for (const PlacedText& line : parts.note)
+        paintText(painter, line, m_measure.note, palette.secondary);
+
+    if (parts.keysScale < 1) {
+        painter.save();
+        painter.translate(parts.keys.topLeft());
+        painter.scale(parts.keysScale, parts.keysScale);
+        m_measure.keys.paint(painter, QPointF(0, 0), entry.shortcut);
+        painter.restore();
+    } else {
+        m_measure.keys.paint(painter, parts.keys.topLeft(), entry.shortcut);
+    }
+}
+
+void AreaPainter::paintText(
+    QPainter& painter, const PlacedText& text, const MeasuredFont& font, const QColor& colour,
+    double padding) const {
+    painter.setFont(font.font());
+    painter.setPen(colour);
+    painter.drawText(QPointF(text.rect.left() + padding, text.baseline), text.text);
+}
+
+} // namespace quillon

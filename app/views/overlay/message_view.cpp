@@ -1,0 +1,54 @@
+#include "message_view.h"
+
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int padding = 30;
+constexpr int spacing = 12;
+constexpr int symbolSize = 34;
+constexpr int widestBody = 440;
+
+} // namespace
+
+MessageView::MessageView(ThemeSource& themeSource, QWidget* parent)
+    : ThemedWidget(themeSource, parent),
+      m_symbol(new SymbolView(themeSource, Symbol::keyboard, symbolSize, &Palette::secondary, this)),
+      m_title(new ThemedLabel(
+          themeSource, [](const TextStyles& styles) { return semibold(styles.title); }, &Palette::primary,
+          this)),
+      m_body(new ThemedLabel(
+          themeSource, [](const TextStyles& styles) { return styles.body; }, &Palette::secondary, this)),
+      m_action(new ProminentButton(themeSource, {}, this)) {
+    m_title->setAlignment(Qt::AlignCenter);
+    m_body->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_body->setWordWrap(true);
+    m_body->setFixedWidth(widestBody);
+    m_action->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(m_action, &QPushButton::clicked, this, &MessageView::actionPressed);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(spacing);
+    column->addStretch(4);
+    column->addWidget(m_symbol, 0, Qt::AlignHCenter);
+    column->addWidget(m_title);
+    column->addWidget(m_body, 0, Qt::AlignHCenter);
+    column->addWidget(m_action, 0, Qt::AlignHCenter);
+    column->addStretch(5);
+}
+
+void MessageView::setMessage(const OverlayMessage& message) {
+    m_symbol->setVisible(message.symbol.has_value());
+    if (message.symbol)
+        m_symbol->setSymbol(*message.symbol);
+    m_title->setText(message.title);
+    m_body->setText(message.body);
+    m_body->setVisible(!message.body.isEmpty());
+    m_action->setText(message.action);
+    m_action->setVisible(!message.action.isEmpty());
+}
+
+} // namespace quillon

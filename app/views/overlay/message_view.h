@@ -1,0 +1,31 @@
+#pragma once
+
+#include "overlay_state.h"
+
+#include <quillon/components/prominent_button.h>
+#include <quillon/components/symbol_view.h>
+#include <quillon/components/themed_label.h>
+#include <quillon/components/themed_widget.h>
+
+namespace quillon {
+
+/// A state told in words, in the middle: symbol, title, sentence and button, as far as there are any.
+class MessageView : public ThemedWidget {
+    Q_OBJECT
+
+  public:
+    explicit MessageView(ThemeSource& themes, QWidget* parent = nullptr);
+
+    void setMessage(const OverlayMessage& message);
+
+  Q_SIGNALS:
+    void actionPressed();
+
+  private:
+    SymbolView* m_symbol;
+    ThemedLabel* m_title;
+    ThemedLabel* m_body;
+    ProminentButton* m_action;
+};
+
+} // namespace quillon

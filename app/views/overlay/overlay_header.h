@@ -1,0 +1,31 @@
+#pragma once
+
+#include <quillon/components/app_icon_view.h>
+#include <quillon/components/search_box.h>
+#include <quillon/components/themed_label.h>
+
+#include <QWidget>
+
+#include <string>
+
+namespace quillon {
+
+/// Whose shortcuts these are and how many, and the search field.
+class OverlayHeader : public QWidget {
+    Q_OBJECT
+
+  public:
+    OverlayHeader(ThemeSource& themes, AppIconCache& icons, QWidget* parent = nullptr);
+
+    void setApp(const std::string& bundleID, const QString& name);
+    void setCount(const QString& line);
+    SearchBox& search() { return *m_search; }
+
+  private:
+    AppIconView* m_icon;
+    ThemedLabel* m_name;
+    ThemedLabel* m_count;
+    SearchBox* m_search;
+};
+
+} // namespace quillon

@@ -1,0 +1,253 @@
+#include "overlay_view.h"
+
+#include <quillon/components/text.h>
+#include <quillon/components/thin_scroll_bar.h>
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+#include <numeric>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int padding = 18;
+constexpr int headerGap = 14;
+constexpr int footerGap = 12;
+/// Soon after the overlay is on the screen, before anyone can have typed.
+constexpr std::chrono::milliseconds searchPreparationDelay{40};
+
+bool isTyping(const QKeyEvent& event) {
+    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint();
+}
+
+} // namespace
+
+OverlayView::OverlayView(
+    AppModel& model, ThemeSource& themeSource, AppIconCache& icons, Mode mode, QWidget* parent)
+    : ThemedWidget(themeSource, parent), m_model(model), m_mode(mode),
+      m_header(new OverlayHeader(themeSource, icons, this)), m_main(new QStackedLayout),
+      m_message(new MessageView(themeSource, this)), m_area(new ShortcutArea(themeSource, this)),
+      m_footer(new OverlayFooter(themeSource, this)) {
+    m_main->addWidget(m_message);
+    m_main->addWidget(m_area);
+
+    // The scroll bar stands in the padding, so that the cards end where the search field does.
+    auto* main = new QVBoxLayout;
+    main->setContentsMargins(padding, 0, padding - thinScrollBarWidth, 0);
+    main->addLayout(m_main);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, padding, 0, padding - 4);
+    column->setSpacing(0);
+    m_header->setContentsMargins(padding, 0, padding, 0);
+    m_footer->setContentsMargins(padding, 0, padding, 0);
+    column->addWidget(m_header);
+    column->addSpacing(headerGap);
+    column->addLayout(main, 1);
+    column->addSpacing(footerGap);
+    column->addWidget(m_footer);
+
+    setTabOrder(&search(), m_area);
+    connect(&search(), &SearchBox::textEdited, this, [this](const QString& text) {
+        m_model.setQuery(utf8(text));
+    });
+    connect(
+        m_message, &MessageView::actionPressed, this, [this] { m_model.requestWindow(WindowName::welcome); });
+    connect(m_area, &ShortcutArea::pinToggled, this, [this](const std::string& entryID) {
+        m_model.togglePin(m_sheet->bundleID, entryID);
+    });
+    connect(m_area, &ShortcutArea::libraryRequested, this, [this] {
+        m_model.requestWindow(WindowName::library);
+    });
+    connect(m_area, &ShortcutArea::rowMenuOpening, this, &OverlayView::keepOpen);
+    for (QWidget* child : findChildren<QWidget*>())
+        child->installEventFilter(this);
+
+    m_prepareSearch.setSingleShot(true);
+    m_prepareSearch.setInterval(searchPreparationDelay);
+    m_prepareSearch.callOnTimeout(this, [this] { searchIndex(); });
+    m_subscription = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
+}
+
+QString OverlayView::triggerGlyph() const {
+    return text(glyph(m_model.trigger()));
+}
+
+void OverlayView::modelChanged(ModelField field) {
+    switch (field) {
+    case ModelField::current: m_indexIsStale = true; [[fallthrough]];
+    case ModelField::annotations:
+    case ModelField::usage: m_sheetIsStale = true; break;
+    default: break;
+    }
+    if (!isVisible())
+        return;
+    if (field == ModelField::overlaySticky && m_model.overlaySticky())
+        search().focus();
+    refresh();
+}
+
+void OverlayView::refresh() {
+    refreshSheet();
+    refreshState();
+    refreshHeader();
+    refreshMain();
+    refreshFooter();
+}
+
+void OverlayView::refreshSheet() {
+    if (!m_sheetIsStale && m_sheet)
+        return;
+    m_sheetIsStale = false;
+    const auto& current = m_model.current();
+    m_sheet = std::make_shared<const PreparedSheet>(
+        current ? PreparedSheet::prepare(*current, m_model.annotations(), m_model.usage()) : PreparedSheet{});
+    Notes notes = m_model.annotations().notes(m_sheet->bundleID);
+    if (notes != m_notes) {
+        m_notes = std::move(notes);
+        m_indexIsStale = true;
+    }
+    if (m_indexIsStale)
+        m_prepareSearch.start();
+}
+
+void OverlayView::refreshState() {
+    m_state = overlayState({
+        .mode = m_mode,
+        .trusted = m_model.trusted(),
+        .hasSheet = m_model.current().has_value(),
+        .hasEntries = !m_sheet->entries.empty(),
+        .reading = m_model.reading(),
+    });
+    m_matches = matches();
+}
+
+const SearchIndex& OverlayView::searchIndex() {
+    if (m_indexIsStale) {
+        m_indexIsStale = false;
+        const auto& current = m_model.current();
+        m_index = current ? SearchIndex(current->entries, m_notes) : SearchIndex();
+    }
+    return m_index;
+}
+
+std::vector<std::size_t> OverlayView::matches() {
+    if (!m_model.query().empty())
+        return searchIndex().matches(m_model.query());
+    std::vector<std::size_t> all(m_sheet->entries.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    return all;
+}
+
+void OverlayView::refreshHeader() {
+    const bool hasSheet = m_model.current().has_value();
+    m_header->setApp(m_sheet->bundleID, hasSheet ? m_sheet->appName : u"Quillon"_s);
+    const std::size_t count = m_sheet->entries.size();
+    if (!hasSheet)
+        m_header->setCount({});
+    else if (m_model.query().empty())
+        m_header->setCount(OverlayTexts::allShortcuts(count));
+    else
+        m_header->setCount(OverlayTexts::someShortcuts(m_matches.size(), count));
+    search().setText(text(m_model.query()));
+}
+
+void OverlayView::refreshMain() {
+    if (m_state == OverlayState::shortcuts) {
+        refreshShortcuts();
+        return;
+    }
+    m_message->setMessage(
+        OverlayTexts::message(m_state, m_sheet->appName, triggerGlyph(), Vocabulary::here()));
+    m_main->setCurrentWidget(m_message);
+}
+
+void OverlayView::refreshShortcuts() {
+    if (m_matches.empty()) {
+        m_message->setMessage(OverlayTexts::nothingMatches(text(m_model.query())));
+        m_main->setCurrentWidget(m_message);
+        return;
+    }
+    AreaContent content = AreaContent::of(*m_sheet, m_matches);
+    if (&m_area->sheet() != m_sheet.get() || m_area->content() != content)
+        m_area->setContent(m_sheet, std::move(content));
+    m_main->setCurrentWidget(m_area);
+}
+
+void OverlayView::refreshFooter() {
+    m_footer->setHint(OverlayTexts::footer(m_model.overlaySticky(), triggerGlyph()));
+    const auto& current = m_model.current();
+    const auto ranked = m_model.usage().mostClicked(m_sheet->bundleID, 1);
+    const MenuEntry* entry = current && !ranked.empty() ? current->entry(ranked.front().id) : nullptr;
+    if (entry)
+        m_footer->setMostClicked(OverlayFooter::MostClicked{singleLine(entry->title()), entry->shortcut});
+    else
+        m_footer->setMostClicked(std::nullopt);
+}
+
+bool OverlayView::keepOpen() {
+    if (m_mode != Mode::live || m_model.overlaySticky())
+        return false;
+    m_model.keepOverlayOpen();
+    search().focus();
+    return true;
+}
+
+void OverlayView::showEvent(QShowEvent* event) {
+    refresh();
+    m_area->scrollToTop();
+    search().focus();
+    ThemedWidget::showEvent(event);
+}
+
+void OverlayView::hideEvent(QHideEvent* event) {
+    m_area->closeRowMenu();
+    m_prepareSearch.stop();
+    ThemedWidget::hideEvent(event);
+}
+
+void OverlayView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        keepOpen();
+}
+
+bool OverlayView::eventFilter(QObject* watched, QEvent* event) {
+    const bool isTap = event->type() == QEvent::MouseButtonPress
+                       && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    // A first tap on a row only keeps the overlay; a later one moves the keyboard to the row.
+    if (isTap && keepOpen() && watched == m_area->viewport())
+        return true;
+    return ThemedWidget::eventFilter(watched, event);
+}
+
+void OverlayView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Find)) {
+        search().focus();
+    } else if (event->key() == Qt::Key_Down && m_state == OverlayState::shortcuts && !m_matches.empty()) {
+        m_area->setFocus(Qt::TabFocusReason);
+    } else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+        m_area->scrollByPage(event->key() == Qt::Key_PageUp ? -1 : 1);
+    } else if (isTyping(*event) && !search().isFocused()) {
+        search().type(event);
+    } else {
+        ThemedWidget::keyPressEvent(event);
+    }
+}
+
+void OverlayView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Palette& palette = theme().palette;
+    painter.setPen(QPen(palette.windowBorder, 1));
+    painter.setBrush(palette.window);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+}
+
+} // namespace quillon

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "message_view.h"
+#include "overlay_footer.h"
+#include "overlay_header.h"
+#include "overlay_state.h"
+#include "shortcut_area.h"
+
+#include <quillon/core/app_model.h>
+#include <quillon/menu/shortcut_search.h>
+
+#include <QStackedLayout>
+#include <QTimer>
+
+#include <memory>
+#include <vector>
+
+namespace quillon {
+
+/// The shortcuts of the model's current sheet, grouped by menu and searchable. The content of the overlay's
+/// panel; in `showcase` mode an example of it. While it is hidden it does no work.
+class OverlayView : public ThemedWidget {
+    Q_OBJECT
+
+  public:
+    using Mode = OverlayMode;
+
+    /// All of them outlive the view.
+    OverlayView(
+        AppModel& model, ThemeSource& themes, AppIconCache& icons, Mode mode, QWidget* parent = nullptr);
+
+    OverlayState state() const { return m_state; }
+    ShortcutArea& area() { return *m_area; }
+    SearchBox& search() { return m_header->search(); }
+
+    /// Of the rounded background, in logical pixels.
+    static constexpr double cornerRadius = 16;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void modelChanged(ModelField field);
+    void refresh();
+    void refreshSheet();
+    void refreshState();
+    void refreshHeader();
+    void refreshMain();
+    void refreshShortcuts();
+    void refreshFooter();
+    const SearchIndex& searchIndex();
+    std::vector<std::size_t> matches();
+    QString triggerGlyph() const;
+    bool keepOpen();
+
+    AppModel& m_model;
+    Mode m_mode;
+    OverlayHeader* m_header;
+    QStackedLayout* m_main;
+    MessageView* m_message;
+    ShortcutArea* m_area;
+    OverlayFooter* m_footer;
+    QTimer m_prepareSearch;
+    Subscription m_subscription;
+
+    std::shared_ptr<const PreparedSheet> m_sheet;
+    bool m_sheetIsStale = true; ///< the sheet, the annotations or the counts changed
+    bool m_indexIsStale = true; ///< the sheet or the notes changed
+    Notes m_notes;              ///< those that the index was made with
+    SearchIndex m_index;
+    std::vector<std::size_t> m_matches;
+    OverlayState m_state = OverlayState::noSheet;
+};
+
+} // namespace quillon

@@ -1,0 +1,67 @@
+#include "prepared_sheet.h"
+
+#include <quillon/components/text.h>
+
+#include <string_view>
+#include <unordered_map>
+
+namespace quillon {
+
+namespace {
+
+/// Numbers the top-level menus in order of first appearance.
+class MenuNumbers {
+  public:
+    explicit MenuNumbers(std::vector<QString>& titles) : m_titles(titles) {}
+
+    std::size_t of(std::string_view menu) {
+        const auto [place, isNew] = m_numbers.try_emplace(menu, m_titles.size());
+        if (isNew)
+            m_titles.push_back(singleLine(menu));
+        return place->second;
+    }
+
+  private:
+    std::vector<QString>& m_titles;
+    std::unordered_map<std::string_view, std::size_t> m_numbers;
+};
+
+const Annotations& annotationsOf(const AnnotationBook& book, const std::string& bundleID) {
+    static const Annotations none;
+    const auto found = book.apps.find(bundleID);
+    return found == book.apps.end() ? none : found->second;
+}
+
+} // namespace
+
+PreparedSheet
+PreparedSheet::prepare(const AppSheet& sheet, const AnnotationBook& annotations, const UsageBook& usage) {
+    PreparedSheet prepared{
+        .bundleID = sheet.bundleID, .appName = singleLine(sheet.appName), .entries = {}, .menus = {}};
+    const Annotations& said = annotationsOf(annotations, sheet.bundleID);
+    const UsageRecords& records = usage.records(sheet.bundleID);
+    MenuNumbers menus(prepared.menus);
+
+    prepared.entries.reserve(sheet.entries.size());
+    for (const MenuEntry& entry : sheet.entries) {
+        PreparedEntry made{
+            .id = entry.id(),
+            .title = singleLine(entry.title()),
+            .submenu = singleLine(entry.submenuPath()),
+            .shortcut = entry.shortcut,
+            .menu = menus.of(entry.menu()),
+            .enabled = entry.enabled,
+            .note = {},
+        };
+        if (const auto annotation = said.find(made.id); annotation != said.end()) {
+            made.pinned = annotation->second.pinned;
+            made.note = singleLine(annotation->second.note);
+        }
+        if (const auto record = records.find(made.id); record != records.end())
+            made.clicked = record->second.clicked;
+        prepared.entries.push_back(std::move(made));
+    }
+    return prepared;
+}
+
+} // namespace quillon

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "prepared_sheet.h"
+#include "text_measure.h"
+
+#include <QRectF>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// Whether a row names the submenu that its command sits in.
+enum class SubmenuInRow { hidden, shown };
+
+/// One line of text of a row.
+struct PlacedText {
+    QString text;
+    QRectF rect;         ///< the text stays inside
+    double baseline = 0; ///< from the row's top
+    bool elided = false;
+
+    bool operator==(const PlacedText&) const = default;
+};
+
+/// Where the parts of a row stand, from its top left corner, in logical pixels. Nothing overlaps and nothing
+/// leaves the width that it was arranged for.
+struct RowArrangement {
+    double height = 0;
+    PlacedText title;
+    std::optional<PlacedText> submenu;
+    std::optional<QRectF> pin;
+    std::optional<PlacedText> badge; ///< its rect is the pill around the text
+    std::vector<PlacedText> note;    ///< one per line
+    QRectF keys;
+    double keysScale = 1; ///< below 1 where the caps would be wider than the row
+
+    /// Whether part of a text had to be left out.
+    bool isElided() const;
+    bool operator==(const RowArrangement&) const = default;
+};
+
+/// Arranges rows of one width.
+class RowArranger {
+  public:
+    /// `measure` outlives this.
+    RowArranger(const TextMeasure& measure, double width);
+
+    /// One line where everything fits: title, submenu, pin, badge, note, and the keys at the trailing side.
+    /// What does not fit beside the title moves to lines of its own below it, the note wrapped. Where the
+    /// keys would leave the title too little room they stand below it as well. A title that is wider than a
+    /// whole line ends in an ellipsis.
+    RowArrangement arrange(const PreparedEntry& entry, SubmenuInRow submenu) const;
+
+    /// Exactly the height of `arrange`, without measuring text where that cannot matter.
+    double height(const PreparedEntry& entry, SubmenuInRow submenu) const;
+
+    /// The height of a row of one line.
+    double lineHeight() const { return m_lineHeight; }
+
+    /// Between the parts of a line.
+    static constexpr double partGap = 8;
+    /// Left and right of a badge's text.
+    static constexpr double badgePadding = 6;
+
+  private:
+    double pinRoom(const PreparedEntry& entry) const;
+    bool keysGoBelow(const PreparedEntry& entry) const;
+
+    const TextMeasure& m_measure;
+    double m_width;
+    double m_baseline;
+    double m_lineHeight;
+};
+
+} // namespace quillon

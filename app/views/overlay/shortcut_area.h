@@ -1,0 +1,97 @@
+#pragma once
+
+#include "area_layout.h"
+#include "row_steps.h"
+
+#include <quillon/components/theme_source.h>
+
+#include <QAbstractScrollArea>
+#include <QHelpEvent>
+#include <QMenu>
+#include <QPointer>
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+
+namespace quillon {
+
+/// The scrolled cards of shortcuts. One widget that draws what is visible of them; rows and headings are
+/// elements of their own to the pointer, the keyboard and screen readers.
+class ShortcutArea : public QAbstractScrollArea {
+    Q_OBJECT
+
+  public:
+    explicit ShortcutArea(ThemeSource& themes, QWidget* parent = nullptr);
+
+    /// Shows other shortcuts. The row that had the keyboard keeps it if it is still shown.
+    void setContent(std::shared_ptr<const PreparedSheet> sheet, AreaContent content);
+
+    const PreparedSheet& sheet() const { return *m_sheet; }
+    const AreaContent& content() const { return m_content; }
+    const AreaLayout& layout() const { return m_layout; }
+    /// Counts up with every other content or layout.
+    int generation() const { return m_generation; }
+
+    /// The row that the keyboard acts on, as a position in `layout().rows`.
+    std::optional<std::size_t> currentRow() const { return m_current; }
+    void setCurrentRow(std::size_t row);
+
+    /// Everything that a row tells, as one sentence.
+    QString spokenRow(std::size_t row) const;
+    /// A row or heading in the viewport's coordinates.
+    QRect visualRect(const QRectF& box) const;
+    void scrollToTop();
+    void scrollByPage(int pages);
+
+    /// Opens the row's menu, below it.
+    void openRowMenu(std::size_t row);
+    /// Takes an open menu of a row off the screen.
+    void closeRowMenu();
+
+  Q_SIGNALS:
+    void pinToggled(const std::string& entryID);
+    void libraryRequested();
+    /// A row's menu is about to open.
+    void rowMenuOpening();
+    void contentReplaced();
+
+  protected:
+    bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    void follow();
+    void relayout();
+    void updateScrollBar();
+    void step(RowStep step);
+    void reveal(std::size_t row);
+    void hover(std::optional<std::size_t> row);
+    void updateRow(std::optional<std::size_t> row);
+    void showRowMenu(std::size_t row, const QPoint& globalPosition);
+    bool showRowTip(QHelpEvent* event);
+    std::optional<std::size_t> rowAt(const QPoint& viewportPosition) const;
+    double scrolled() const;
+    void paintScrollEdges(QPainter& painter) const;
+
+    ThemeSource& m_themes;
+    Subscription m_subscription;
+    std::unique_ptr<TextMeasure> m_measure;
+    std::shared_ptr<const PreparedSheet> m_sheet;
+    AreaContent m_content;
+    AreaLayout m_layout;
+    int m_generation = 0;
+    std::optional<std::size_t> m_current;
+    std::optional<std::size_t> m_hovered;
+    QPointer<QMenu> m_menu;
+};
+
+} // namespace quillon

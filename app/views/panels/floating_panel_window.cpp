@@ -1,0 +1,147 @@
+#include "floating_panel_window.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace quillon {
+
+namespace {
+
+constexpr auto panelFlags = Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint
+                            | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint;
+
+} // namespace
+
+FloatingPanelWindow::FloatingPanelWindow(
+    QWidget* content, double cornerRadius, ThemeSource& themes, PanelWindows& windows)
+    : QWidget(nullptr, panelFlags), m_themes(themes), m_windows(windows), m_content(content),
+      m_cornerRadius(cornerRadius) {
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+    m_compositing = windows.onCompositedChanged([this] { followCompositing(); });
+    m_theme = themes.changed.subscribe([this] { update(); });
+    followCompositing();
+}
+
+FloatingPanelWindow::~FloatingPanelWindow() = default;
+
+int FloatingPanelWindow::shadowReach() const {
+    return m_windows.isComposited() ? PanelShadow::reach : 0;
+}
+
+void FloatingPanelWindow::followCompositing() {
+    const int reach = shadowReach();
+    layout()->setContentsMargins(reach, reach, reach, reach);
+    setFrame(m_frame);
+}
+
+void FloatingPanelWindow::setFrame(Rect frame) {
+    m_frame = frame;
+    const int reach = shadowReach();
+    const QRect content = QRectF(frame.x, frame.y, frame.width, frame.height).toRect();
+    setGeometry(content.adjusted(-reach, -reach, reach, reach));
+}
+
+void FloatingPanelWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (shadowReach() > 0) {
+        clearMask();
+        return;
+    }
+    QPainterPath shape;
+    shape.addRoundedRect(QRectF(rect()), m_cornerRadius, m_cornerRadius);
+    setMask(QRegion(shape.toFillPolygon().toPolygon()));
+}
+
+void FloatingPanelWindow::prepareWindow() {
+    if (m_isPrepared)
+        return;
+    m_isPrepared = true;
+    m_windows.prepare(static_cast<std::uintptr_t>(winId()));
+    windowHandle()->installEventFilter(this);
+}
+
+void FloatingPanelWindow::orderFront() {
+    prepareWindow();
+    show();
+    raise();
+}
+
+void FloatingPanelWindow::makeKey() {
+    if (m_keyboard != Keyboard::elsewhere)
+        return;
+    m_keyboard = Keyboard::wanted;
+    // A press elsewhere closes the panel even where the desktop lets the focus stay.
+    m_presses = m_windows.onPressElsewhere([this] { resign(); });
+    if (windowHandle() && windowHandle()->isExposed())
+        takeKeyboard();
+}
+
+void FloatingPanelWindow::takeKeyboard() {
+    m_keyboard = Keyboard::asked;
+    m_windows.takeKeyboard(static_cast<std::uintptr_t>(winId()));
+}
+
+void FloatingPanelWindow::orderOut() {
+    const bool tookKeyboard = m_keyboard == Keyboard::asked || m_keyboard == Keyboard::here;
+    m_keyboard = Keyboard::elsewhere;
+    m_presses.reset();
+    if (tookKeyboard)
+        m_windows.returnKeyboard(static_cast<std::uintptr_t>(winId()));
+    hide();
+}
+
+void FloatingPanelWindow::resign() {
+    const bool ownMenuIsOpen = QApplication::activePopupWidget() != nullptr;
+    if (m_keyboard == Keyboard::elsewhere || ownMenuIsOpen)
+        return;
+    m_keyboard = Keyboard::elsewhere;
+    m_presses.reset();
+    if (onResign)
+        onResign();
+}
+
+bool FloatingPanelWindow::eventFilter(QObject* watched, QEvent* event) {
+    const bool isOnScreen = event->type() == QEvent::Expose && windowHandle() && windowHandle()->isExposed();
+    if (isOnScreen && m_keyboard == Keyboard::wanted)
+        takeKeyboard();
+    return QWidget::eventFilter(watched, event);
+}
+
+bool FloatingPanelWindow::event(QEvent* event) {
+    const bool result = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate && m_keyboard == Keyboard::asked)
+        m_keyboard = Keyboard::here;
+    else if (event->type() == QEvent::WindowDeactivate && m_keyboard == Keyboard::here)
+        resign();
+    return result;
+}
+
+void FloatingPanelWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel) && onEscape)
+        onEscape();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void FloatingPanelWindow::mousePressEvent(QMouseEvent* event) {
+    if (!m_content->geometry().contains(event->position().toPoint()))
+        resign();
+}
+
+void FloatingPanelWindow::paintEvent(QPaintEvent*) {
+    if (shadowReach() == 0)
+        return;
+    QPainter painter(this);
+    m_shadow.paint(painter, QRectF(m_content->geometry()), m_cornerRadius, m_themes.theme().palette.shadow);
+}
+
+} // namespace quillon

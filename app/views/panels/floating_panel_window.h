@@ -1,0 +1,65 @@
+#pragma once
+
+#include "panel_shadow.h"
+
+#include <quillon/components/theme_source.h>
+#include <quillon/core/panel_host.h>
+#include <quillon/ports/panel_windows.h>
+
+#include <QWidget>
+
+namespace quillon {
+
+/// A borderless, rounded window above all others that the window manager does not manage. It never has the
+/// keyboard unless it asked for it with `makeKey`.
+class FloatingPanelWindow : public QWidget, public FloatingPanel {
+    Q_OBJECT
+
+  public:
+    /// Takes over `content`, which draws its own background with rounded corners of `cornerRadius`. The
+    /// others outlive the panel.
+    FloatingPanelWindow(QWidget* content, double cornerRadius, ThemeSource& themes, PanelWindows& windows);
+    ~FloatingPanelWindow() override;
+
+    void setFrame(Rect frame) override;
+    void orderFront() override;
+    void makeKey() override;
+    void orderOut() override;
+    bool isVisible() const override { return QWidget::isVisible(); }
+
+  protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+  private:
+    enum class Keyboard {
+        elsewhere, ///< with another window
+        wanted,    ///< asked for; the window is not on the screen yet
+        asked,     ///< asked for; not known to have arrived
+        here
+    };
+
+    void prepareWindow();
+    void followCompositing();
+    void takeKeyboard();
+    void resign();
+    int shadowReach() const;
+
+    ThemeSource& m_themes;
+    PanelWindows& m_windows;
+    QWidget* m_content;
+    double m_cornerRadius;
+    Rect m_frame;
+    bool m_isPrepared = false;
+    Keyboard m_keyboard = Keyboard::elsewhere;
+    PanelShadow m_shadow;
+    Subscription m_compositing;
+    Subscription m_presses;
+    Subscription m_theme;
+};
+
+} // namespace quillon

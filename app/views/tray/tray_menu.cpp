@@ -1,0 +1,67 @@
+#include "tray_menu.h"
+
+#include "tray_icon.h"
+
+#include <quillon/components/text.h>
+
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// In a menu an ampersand marks the next letter; two stand for one.
+QString menuText(QString text) {
+    return text.replace(u'&', u"&&"_s);
+}
+
+} // namespace
+
+TrayMenu::TrayMenu(AppModel& model, ThemeSource& themes, std::function<void()> quit)
+    : m_model(model), m_themes(themes), m_quit(std::move(quit)) {
+    build();
+    m_icon.setContextMenu(&m_menu);
+    m_icon.setToolTip(u"Quillon"_s);
+    m_modelChange = model.changed.subscribe([this](ModelField) { follow(); });
+    m_themeChange = themes.changed.subscribe([this] { followTheme(); });
+    followTheme();
+    follow();
+}
+
+TrayMenu::~TrayMenu() = default;
+
+void TrayMenu::show() {
+    m_icon.show();
+}
+
+void TrayMenu::build() {
+    m_allow = addWindowItem(u"Allow Accessibility…"_s, WindowName::welcome);
+    m_allowSeparator = m_menu.addSeparator();
+    m_show = m_menu.addAction(QString(), this, [this] { m_model.showOverlay(Stickiness::sticky); });
+    m_hint = m_menu.addAction(QString());
+    m_hint->setEnabled(false);
+    m_menu.addSeparator();
+    m_menu.addAction(u"Quit Quillon"_s, this, [this] { m_quit(); });
+}
+
+QAction* TrayMenu::addWindowItem(const QString& label, WindowName window) {
+    return m_menu.addAction(label, this, [this, window] { m_model.requestWindow(window); });
+}
+
+void TrayMenu::follow() {
+    m_allow->setVisible(!m_model.trusted());
+    m_allowSeparator->setVisible(!m_model.trusted());
+    const auto& current = m_model.current();
+    m_show->setText(
+        current ? QString(u"Show Shortcuts for " % menuText(singleLine(current->appName)))
+                : u"Show Shortcuts"_s);
+    m_hint->setText(QString(u"Or hold " % text(glyph(m_model.trigger())) % u" in any app"));
+}
+
+void TrayMenu::followTheme() {
+    m_icon.setIcon(trayIcon(m_themes.theme().palette.scheme));
+}
+
+} // namespace quillon

@@ -1,0 +1,146 @@
+#include <quillon/base/unicode.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(Unicode, OneCharacterIsOneGraphemeCluster) {
+    for (const char* one :
+         {"a", " ", "é", "e\u0301", "한", "\u1112\u1161\u11ab", "🇩🇪", "👩‍👩‍👧", "👍🏽",
+          "\r\n", "☎\ufe0f", "\u0007", "\uf704"})
+        EXPECT_TRUE(unicode::isOneCharacter(one)) << one;
+    for (const char* other : {"", "ab", "éa", "ae\u0301", "🇩🇪🇩🇪", "\n\r", "\na", "한국", "  "})
+        EXPECT_FALSE(unicode::isOneCharacter(other)) << other;
+    EXPECT_TRUE(unicode::isOneCharacter("\0"s));
+    EXPECT_FALSE(unicode::isOneCharacter("\0\0"s));
+}
+
+TEST(Unicode, ABrokenSequenceIsOneCharacter) {
+    EXPECT_TRUE(unicode::isOneCharacter("\xff"));
+    EXPECT_TRUE(unicode::isOneCharacter("\xe2\x82"));
+    EXPECT_FALSE(unicode::isOneCharacter("\xff\xff"));
+    EXPECT_FALSE(unicode::isOneCharacter("\xed\xa0\x80")); // a surrogate: three broken bytes
+}
+
+TEST(Unicode, FindsCharactersInSeveralThreadsAtOnce) {
+    std::vector<std::thread> threads;
+    std::vector<int> found(4);
+    for (std::size_t t = 0; t < found.size(); ++t) {
+        threads.emplace_back([&count = found[t]] {
+            for (int i = 0; i < 1000; ++i)
+                count += unicode::isOneCharacter("e\u0301") && !unicode::isOneCharacter("e\u0301x");
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(found, std::vector(4, 1000));
+}
+
+TEST(Unicode, OnlyScalarWantsExactlyOne) {
+    EXPECT_EQ(unicode::onlyScalar("a"), U'a');
+    EXPECT_EQ(unicode::onlyScalar("›"), U'\u203a');
+    EXPECT_EQ(unicode::onlyScalar("😀"), U'😀');
+    EXPECT_EQ(unicode::onlyScalar("\xff"), U'\ufffd');
+    EXPECT_EQ(unicode::onlyScalar(""), std::nullopt);
+    EXPECT_EQ(unicode::onlyScalar("ab"), std::nullopt);
+    EXPECT_EQ(unicode::onlyScalar("e\u0301"), std::nullopt);
+    EXPECT_EQ(unicode::onlyScalar("\0"s), U'\0');
+}
+
+TEST(Unicode, FirstScalarIsAbsentOnlyForNoText) {
+    EXPECT_EQ(unicode::firstScalar("été"), U'é');
+    EXPECT_EQ(unicode::firstScalar("\xe2\x82z"), U'\ufffd');
+    EXPECT_EQ(unicode::firstScalar(""), std::nullopt);
+    EXPECT_EQ(unicode::firstScalarLength("été"), 2u);
+    EXPECT_EQ(unicode::firstScalarLength("\xe2\x82z"), 2u);
+    EXPECT_EQ(unicode::firstScalarLength(""), 0u);
+}
+
+TEST(Unicode, WhitespaceIsTheProperty) {
+    for (const char32_t scalar :
+         {0x09, 0x0a, 0x0b, 0x0c, 0x0d, 0x20, 0x85, 0xa0, 0x1680, 0x2000, 0x200a, 0x2028, 0x2029, 0x202f,
+          0x205f, 0x3000})
+        EXPECT_TRUE(unicode::isWhitespace(scalar)) << std::hex << static_cast<std::uint32_t>(scalar);
+    for (const char32_t scalar : {0x00, 0x08, 0x0e, 0x1f, 0x21, 0x41, 0x84, 0x200b, 0x2060, 0xfeff, 0xfffd})
+        EXPECT_FALSE(unicode::isWhitespace(scalar)) << std::hex << static_cast<std::uint32_t>(scalar);
+    EXPECT_TRUE(unicode::isWhitespace(" \u00a0\n"));
+    EXPECT_FALSE(unicode::isWhitespace(" a"));
+    EXPECT_FALSE(unicode::isWhitespace(""));
+    EXPECT_FALSE(unicode::isWhitespace("\xff"));
+}
+
+TEST(Unicode, LineBreaksAreWhitespaceToo) {
+    for (char32_t scalar = 0; scalar < 0x3100; ++scalar) {
+        const bool expected =
+            (scalar >= 0xa && scalar <= 0xd) || scalar == 0x85 || scalar == 0x2028 || scalar == 0x2029;
+        EXPECT_EQ(unicode::isLineBreak(scalar), expected) << std::hex << static_cast<std::uint32_t>(scalar);
+        EXPECT_TRUE(!expected || unicode::isWhitespace(scalar));
+    }
+}
+
+TEST(Unicode, TrimsTheEndsOnly) {
+    using unicode::Trim;
+    EXPECT_EQ(unicode::trimmed(" \t a b \u00a0", Trim::blanks), "a b");
+    EXPECT_EQ(unicode::trimmed("\n a\n", Trim::blanks), "\n a\n");
+    EXPECT_EQ(unicode::trimmed("\n \u2028a\u3000b\r\n", Trim::whitespace), "a\u3000b");
+    EXPECT_EQ(unicode::trimmed(" \t", Trim::blanks), "");
+    EXPECT_EQ(unicode::trimmed("", Trim::whitespace), "");
+    EXPECT_EQ(unicode::trimmed(" \xff ", Trim::whitespace), "\xff");
+    EXPECT_EQ(unicode::trimmed("\u200bx\u200b", Trim::whitespace), "\u200bx\u200b");
+}
+
+TEST(Unicode, ALetterIsOneAlphabeticCharacter) {
+    for (const char* letter : {"a", "Z", "é", "e\u0301", "ß", "Ж", "中", "한", "א", "ª", "Ⅷ"})
+        EXPECT_TRUE(unicode::isLetter(letter)) << letter;
+    for (const char* other : {"", "1", "?", " ", "ab", "SS", "½", "☎", "\u0301", "⌘", "\xff", "😀"})
+        EXPECT_FALSE(unicode::isLetter(other)) << other;
+}
+
+TEST(Unicode, ValidityIsThatOfUtf8) {
+    for (const std::string& valid :
+         {""s, "plain"s, "\0"s, "é"s, "\u07ff"s, "\u0800"s, "\uffff"s, "\U00010000"s, "\U0010ffff"s})
+        EXPECT_TRUE(unicode::isValid(valid)) << valid;
+    for (const char* broken :
+         {"\x80", "\xff", "\xc0\xaf", "\xc1\x81", "\xe0\x9f\xbf", "\xed\xa0\x80", "\xf0\x8f\xbf\xbf",
+          "\xf4\x90\x80\x80", "\xf5\x80\x80\x80", "a\xc3", "\xe2\x82", "\xf0\x9f\x98", "\xc3(", "ok\xfe"})
+        EXPECT_FALSE(unicode::isValid(broken)) << broken;
+}
+
+TEST(Unicode, RepairReplacesEachMaximalBrokenSequence) {
+    EXPECT_EQ(unicode::repaired("plain é"), "plain é");
+    EXPECT_EQ(unicode::repaired("a\xffz"), "a\ufffdz");
+    EXPECT_EQ(unicode::repaired("\xe2\x82z"), "\ufffdz");
+    EXPECT_EQ(unicode::repaired("\xf0\x9f\x98"), "\ufffd");
+    EXPECT_EQ(unicode::repaired("\xed\xa0\x80"), "\ufffd\ufffd\ufffd");
+    EXPECT_EQ(unicode::repaired("\xc3\xc3\xa9"), "\ufffdé");
+}
+
+TEST(Unicode, TruncationNeverCutsInsideOfAScalar) {
+    const std::string text = "aé›😀z";
+    for (std::size_t limit = 0; limit <= text.size() + 1; ++limit) {
+        const std::string_view cut = unicode::truncated(text, limit);
+        EXPECT_LE(cut.size(), limit);
+        EXPECT_TRUE(unicode::isValid(cut));
+        EXPECT_TRUE(text.starts_with(cut));
+        EXPECT_GE(cut.size() + 3, std::min(limit, text.size())) << "gave away more than one scalar";
+    }
+    EXPECT_EQ(unicode::truncated(text, 100), text);
+    EXPECT_EQ(unicode::truncated(text, 3), "aé");
+    EXPECT_EQ(unicode::truncated(text, 5), "aé");
+    EXPECT_EQ(unicode::truncated(text, 6), "aé›");
+}
+
+TEST(Unicode, TruncationOfBrokenTextStillMakesProgress) {
+    EXPECT_EQ(unicode::truncated(std::string(10, '\x80'), 8).size(), 8u);
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon {
+
+/// Another client of the X server: it has windows, moves the keyboard and the pointer, and can play the
+/// window manager. Every operation is done by the server when it returns.
+class TestClient {
+  public:
+    explicit TestClient(const std::string& display);
+
+    struct WindowOptions {
+        std::string_view instance = {};
+        std::string_view className = {};
+        std::string_view title = {};
+        bool overrideRedirect = false;
+        bool mapped = true;
+        std::int16_t x = 0;
+        std::int16_t y = 0;
+        std::uint16_t size = 50;
+    };
+    xcb_window_t makeWindow(const WindowOptions& options);
+    void destroy(xcb_window_t window);
+    void map(xcb_window_t window);
+    void unmap(xcb_window_t window);
+
+    xcb_atom_t atom(std::string_view name);
+    void
+    setText(xcb_window_t window, std::string_view property, std::string_view type, std::string_view text);
+    void setNumbers(
+        xcb_window_t window, std::string_view property, std::string_view type,
+        const std::vector<std::uint32_t>& values);
+    std::vector<std::uint32_t> numbers(xcb_window_t window, std::string_view property);
+    xcb_window_t root() const { return m_screen->root; }
+
+    /// Announces a window manager that tells the active window; gives the window that stands for it.
+    xcb_window_t becomeWindowManager();
+    void setActiveWindow(xcb_window_t window);
+    void setFocus(xcb_window_t window);
+    xcb_window_t focus();
+
+    void keyDown(std::uint8_t keyCode);
+    void keyUp(std::uint8_t keyCode);
+    void click(std::uint8_t button);
+    void movePointer(std::int16_t x, std::int16_t y);
+    bool grabKeyboard();
+    bool grabPointer();
+    void ungrab();
+    void grabServer();
+    void ungrabServer();
+    void changeSymbol(std::uint8_t keyCode, std::uint32_t symbol);
+    void ownSelection(std::string_view name, xcb_window_t owner);
+
+    /// Waits until the server has done everything so far.
+    void sync();
+
+  private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    };
+    void fake(std::uint8_t type, std::uint8_t detail, std::int16_t x = 0, std::int16_t y = 0);
+
+    std::unique_ptr<xcb_connection_t, Disconnect> m_xcb;
+    const xcb_screen_t* m_screen = nullptr;
+};
+
+} // namespace quillon
