@@ -79,7 +79,7 @@ class Reading {
             MenuWalk walk(m_calls, family, &*outline);
             walk.start(menuBar);
             m_pipeline.run();
-            if (m_pipeline.hasEnded() || walk.isCut() || walk.agreesWithOutline())
+            if (m_pipeline.missedAnswers() || walk.isCut() || walk.agreesWithOutline())
                 return readingOf(walk);
         }
         MenuWalk walk(m_calls, family, nullptr);
