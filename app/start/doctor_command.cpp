@@ -4,9 +4,6 @@
 #include <quillon/atspi/accessibility_bus.h>
 #include <quillon/cli/diagnosis.h>
 #include <quillon/session/instance.h>
-#include <quillon/x11/x11_report.h>
-#include <quillon/xdg/session_kind.h>
-#include <quillon/xdg/tray_host.h>
 
 #include <iostream>
 

@@ -12,7 +12,7 @@
 namespace quillon {
 
 Program::Program()
-    : m_desktop(m_background, m_clock), m_settings(QString::fromStdString(settingsFile())),
+    : m_desktop(m_background, m_clock), m_settings(QString::fromStdString(settingsFile().string())),
       m_themes(m_desktop.appearance()), m_icons(m_desktop.icons()),
       m_panels(m_themes, m_icons, m_desktop.panelWindows(), OverlayMode::live),
       m_model({
