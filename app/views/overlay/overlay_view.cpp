@@ -147,15 +147,16 @@ std::vector<std::size_t> OverlayView::matches() {
 }
 
 void OverlayView::refreshHeader() {
-    const bool hasSheet = m_model.current().has_value();
-    m_header->setApp(m_sheet->bundleID, hasSheet ? m_sheet->appName : u"Quillon"_s);
     const std::size_t count = m_sheet->entries.size();
-    if (!hasSheet)
+    if (!m_model.current()) {
+        m_header->setNoApp();
         m_header->setCount({});
-    else if (m_model.query().empty())
-        m_header->setCount(OverlayTexts::allShortcuts(count));
-    else
-        m_header->setCount(OverlayTexts::someShortcuts(m_matches.size(), count));
+    } else {
+        m_header->setApp(m_sheet->bundleID, m_sheet->appName);
+        m_header->setCount(
+            m_model.query().empty() ? OverlayTexts::allShortcuts(count)
+                                    : OverlayTexts::someShortcuts(m_matches.size(), count));
+    }
     search().setText(text(m_model.query()));
 }
 
@@ -241,13 +242,18 @@ void OverlayView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void OverlayView::themeChanged() {
+    m_background.reset();
+    ThemedWidget::themeChanged();
+}
+
 void OverlayView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const Palette& palette = theme().palette;
-    painter.setPen(QPen(palette.windowBorder, 1));
-    painter.setBrush(palette.window);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+    if (!m_background || m_background->ratio() != devicePixelRatioF())
+        m_background = roundedBox(cornerRadius, devicePixelRatioF(), palette.window, palette.windowBorder);
+    painter.fillRect(m_background->inside(rect()), palette.window);
+    m_background->paintFrame(painter, rect());
 }
 
 } // namespace quillon

@@ -6,6 +6,7 @@
 #include "overlay_state.h"
 #include "shortcut_area.h"
 
+#include <quillon/components/nine_patch.h>
 #include <quillon/core/app_model.h>
 #include <quillon/menu/shortcut_search.h>
 
@@ -13,6 +14,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -43,6 +45,7 @@ class OverlayView : public ThemedWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void themeChanged() override;
 
   private:
     void modelChanged(ModelField field);
@@ -67,6 +70,7 @@ class OverlayView : public ThemedWidget {
     OverlayFooter* m_footer;
     QTimer m_prepareSearch;
     Subscription m_subscription;
+    std::optional<NinePatch> m_background;
 
     std::shared_ptr<const PreparedSheet> m_sheet;
     bool m_sheetIsStale = true; ///< the sheet, the annotations or the counts changed

@@ -3,6 +3,7 @@
 #include "area_layout.h"
 #include "row_steps.h"
 
+#include <quillon/components/nine_patch.h>
 #include <quillon/components/theme_source.h>
 
 #include <QAbstractScrollArea>
@@ -54,7 +55,6 @@ class ShortcutArea : public QAbstractScrollArea {
     void libraryRequested();
     /// A row's menu is about to open.
     void rowMenuOpening();
-    void contentReplaced();
 
   protected:
     bool viewportEvent(QEvent* event) override;
@@ -70,6 +70,7 @@ class ShortcutArea : public QAbstractScrollArea {
 
   private:
     void follow();
+    const NinePatch& cardPicture();
     void relayout();
     void updateScrollBar();
     void step(RowStep step);
@@ -85,6 +86,7 @@ class ShortcutArea : public QAbstractScrollArea {
     ThemeSource& m_themes;
     Subscription m_subscription;
     std::unique_ptr<TextMeasure> m_measure;
+    std::optional<NinePatch> m_card;
     std::shared_ptr<const PreparedSheet> m_sheet;
     AreaContent m_content;
     AreaLayout m_layout;

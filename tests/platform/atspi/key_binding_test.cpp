@@ -48,14 +48,15 @@ TEST(GtkKeyBinding, ModifiersMapByTheirPlaceOnTheKeyboard) {
              {"<control>s", "⌃S"},
              {"<Alt>s", "⌥S"},
              {"<Mod1>s", "⌥S"},
-             {"<Meta>s", "⌥S"},
+             {"<Meta>s", "⌘S"},
              {"<Shift>s", "⇧S"},
              {"<Shft>s", "⇧S"},
              {"<Super>s", "⌘S"},
+             {"<Super><Meta>s", "⌘S"},
              {"<Mod4>s", "⌘S"},
              {"<Primary><Shift>s", "⌃⇧S"},
              {"<Shift><Primary><Alt><Super>s", "⌃⌥⇧⌘S"},
-             {"<Alt><Meta>s", "⌥S"},
+             {"<Alt><Meta>s", "⌥⌘S"},
              {"s", "S"},
          })
         EXPECT_EQ(gtk(c.text), c.shown) << c.text;
