@@ -28,6 +28,7 @@ Program::Program()
           .ownPid = getpid(),
       }),
       m_tray(m_model, m_themes, [] { QApplication::quit(); }) {
+    m_model.canOpenWindow = [](WindowName name) { return name == WindowName::welcome; };
     m_windowRequests = m_model.windowRequested.subscribe([this](WindowName name) { openWindow(name); });
 }
 
