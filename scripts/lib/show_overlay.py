@@ -16,9 +16,13 @@ SOURCE = pathlib.Path(__file__).resolve().parents[2] / "kit/coach/hold_detector.
 
 
 def show(picture):
-    editor = desktop.Program(["geany", "--new-instance", "--no-session", SOURCE])
+    text = pathlib.Path.home() / SOURCE.name  # of the private desktop
+    shutil.copyfile(SOURCE, text)
+    editor = desktop.Program(["geany", "--new-instance", "--no-session", text])
     wait_until("the editor's window", lambda: desktop.showing_windows(editor.pid))
     wait_until("the editor's title", lambda: SOURCE.name in desktop.active_title())
+
+    desktop.xdotool("getactivewindow", "windowmove", "0", "0", "windowsize", "--sync", "100%", "96%")
 
     program = desktop.Program([quillon.QUILLON])
     wait_until("quillon on the session bus", lambda: quillon.owns_name(quillon.SERVICE))

@@ -4,7 +4,7 @@ import signal
 
 import desktop
 from desktop import wait_until
-from quillon import QUILLON, SERVICE, QuillonTestCase, Ran, owns_name
+from quillon import SERVICE, QuillonTestCase, Ran, owns_name
 
 
 class InstanceTest(QuillonTestCase):
@@ -63,7 +63,7 @@ class InstanceTest(QuillonTestCase):
         self.start_quillon()
 
     def test_two_started_together_leave_one(self):
-        programs = [self.start(QUILLON) for _ in range(2)]
+        programs = [self.start(self.program()) for _ in range(2)]
         wait_until("one of them to give way", lambda: sum(p.is_running() for p in programs) == 1)
         self.assertTrue(owns_name(SERVICE))
 

@@ -3,6 +3,7 @@
 import contextlib
 import json
 import os
+import re
 import subprocess
 
 from gi.repository import GLib
@@ -37,6 +38,13 @@ def sheet(*arguments):
     if ran.status != 0:
         raise AssertionError(f"quillon sheet {arguments}: {ran}")
     return json.loads(ran.output)
+
+
+def doctor(**options):
+    """What the checkup found, by subject: "ok answers", "missing cannot be reached"."""
+    lines = Ran("doctor", **options).output.splitlines()
+    found = (re.fullmatch(r"(ok|limited|missing) +(.+?)  +(.+)", line) for line in lines)
+    return {match[2]: f"{match[1]} {match[3]}" for match in found if match}
 
 
 SIGNS = ((1, "⌃"), (2, "⌥"), (4, "⇧"), (8, "⌘"))
@@ -100,6 +108,10 @@ class Overlay:
 
 
 class QuillonTestCase(desktop.DesktopTestCase):
+    @staticmethod
+    def program():
+        return QUILLON
+
     def start_quillon(self, *arguments, environment=None):
         """Starts the program and waits until other programs can call it."""
         program = self.start(QUILLON, *arguments, environment=environment)

@@ -81,13 +81,6 @@ class CommandLineTest(QuillonTestCase):
             self.assertEqual((ran.status, ran.output), (3, ""), ran)
             self.assertEqual(ran.errors.count("\n"), 1)
 
-    def test_an_application_without_menus_is_status_5(self):
-        xterm_like = self.start_application("/usr/lib/qt6/bin/designer")
-        xterm_like.end()
-        zenity = self.start("xmessage", "hello")
-        ran = Ran("sheet", "--pid", zenity.pid)
-        self.assertIn(ran.status, (3, 5), ran)
-
     def test_wrong_usage_is_status_2(self):
         for arguments in (["sheet", "--format", "xml"], ["sheet", "--app"], ["fly"], ["sheet", "--pid", "x"]):
             ran = Ran(*arguments)
