@@ -35,8 +35,9 @@ bool saysReady(int output) {
 
 } // namespace
 
-FakeAppProcess::FakeAppProcess(std::vector<std::string> arguments) : m_log(temporaryName()) {
-    arguments.insert(arguments.begin(), QUILLON_FAKE_APP);
+FakeAppProcess::FakeAppProcess(std::vector<std::string> arguments, std::string program)
+    : m_log(temporaryName()) {
+    arguments.insert(arguments.begin(), program);
     arguments.insert(arguments.end(), {"--log", m_log});
     std::vector<char*> raw;
     for (std::string& argument : arguments)
@@ -49,7 +50,7 @@ FakeAppProcess::FakeAppProcess(std::vector<std::string> arguments) : m_log(tempo
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, pipes[1], STDOUT_FILENO);
-    if (posix_spawn(&m_pid, QUILLON_FAKE_APP, &actions, nullptr, raw.data(), environ) != 0)
+    if (posix_spawn(&m_pid, program.c_str(), &actions, nullptr, raw.data(), environ) != 0)
         m_pid = -1;
     posix_spawn_file_actions_destroy(&actions);
     close(pipes[1]);
