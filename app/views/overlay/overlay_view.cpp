@@ -66,7 +66,10 @@ OverlayView::OverlayView(
     connect(m_area, &ShortcutArea::libraryRequested, this, [this] {
         m_model.requestWindow(WindowName::library);
     });
-    connect(m_area, &ShortcutArea::rowMenuOpening, this, &OverlayView::keepOpen);
+    connect(m_area, &ShortcutArea::rowMenuOpening, this, [this] {
+        m_area->offerLibrary(m_model.offersWindow(WindowName::library));
+        keepOpen();
+    });
     for (QWidget* child : findChildren<QWidget*>())
         child->installEventFilter(this);
 
