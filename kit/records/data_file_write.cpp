@@ -61,7 +61,9 @@ std::error_code makeFolder(const fs::path& folder) {
         return {};
     const std::error_code error = lastError();
     // Somebody else may have made it meanwhile.
-    return fs::is_directory(folder, unknown) ? std::error_code() : error;
+    if (fs::is_directory(folder, unknown))
+        return {};
+    return error == std::errc::file_exists ? std::make_error_code(std::errc::not_a_directory) : error;
 }
 
 std::error_code replace(const fs::path& path, std::string_view bytes) {

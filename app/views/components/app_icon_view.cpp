@@ -1,6 +1,7 @@
 #include "app_icon_view.h"
 
 #include "accessible_roles.h"
+#include "symbols.h"
 
 #include <QPainter>
 
@@ -21,16 +22,24 @@ AppIconView::AppIconView(ThemeSource& themes, AppIconCache& icons, int size, QWi
 }
 
 void AppIconView::setBundleID(std::string bundleID) {
-    if (bundleID == m_bundleID)
+    if (bundleID == m_bundleID && !m_showsProductMark)
         return;
     m_bundleID = std::move(bundleID);
+    m_showsProductMark = false;
+    update();
+}
+
+void AppIconView::showProductMark() {
+    m_showsProductMark = true;
     update();
 }
 
 void AppIconView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRectF square((width() - m_size) / 2, (height() - m_size) / 2, m_size, m_size);
-    const QPixmap& icon = m_icons.pixmap(m_bundleID, m_size, devicePixelRatioF());
+    const double ratio = devicePixelRatioF();
+    const QPixmap icon =
+        m_showsProductMark ? productMark(m_size, ratio) : m_icons.pixmap(m_bundleID, m_size, ratio);
     if (!icon.isNull()) {
         const QSizeF size = icon.deviceIndependentSize();
         painter.drawPixmap(square.center() - QPointF(size.width() / 2, size.height() / 2), icon);

@@ -17,6 +17,8 @@ class AppIconView : public ThemedWidget {
 
     const std::string& bundleID() const { return m_bundleID; }
     void setBundleID(std::string bundleID);
+    /// Shows this program's own mark instead of an application's icon.
+    void showProductMark();
 
     QSize sizeHint() const override { return {m_size, m_size}; }
 
@@ -27,6 +29,7 @@ class AppIconView : public ThemedWidget {
     AppIconCache& m_icons;
     int m_size;
     std::string m_bundleID;
+    bool m_showsProductMark = false;
 };
 
 } // namespace quillon

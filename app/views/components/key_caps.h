@@ -39,12 +39,16 @@ class KeyCaps {
 
   private:
     double capWidth(const QString& cap) const;
+    double textWidth(const QString& cap) const;
+    void drawText(QPainter& painter, const QString& cap, double width) const;
     const QPixmap& capPixmap(const QString& cap, double ratio) const;
     QPixmap drawCap(const QString& cap, double ratio) const;
 
     Palette m_palette;
     QFont m_font;
     QFontMetricsF m_metrics;
+    QFont m_symbolFont; ///< of one family, so that all symbols are of one hand
+    QFontMetricsF m_symbolMetrics;
     double m_size;
     CapEmphasis m_emphasis;
     double m_height;

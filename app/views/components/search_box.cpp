@@ -25,7 +25,8 @@ constexpr double focusRingWidth = 1.5;
 
 SearchBox::SearchBox(ThemeSource& themeSource, const QString& prompt, QWidget* parent)
     : ThemedWidget(themeSource, parent),
-      m_magnifier(new SymbolView(themeSource, Symbol::magnifyingGlass, 15, &Palette::secondary, this)),
+      m_magnifier(new SymbolView(
+          themeSource, Symbol::magnifyingGlass, theme().symbolSize(), &Palette::secondary, this)),
       m_field(new QLineEdit(this)), m_clear(new QToolButton(this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(horizontalPadding, verticalPadding, horizontalPadding, verticalPadding);
@@ -45,7 +46,6 @@ SearchBox::SearchBox(ThemeSource& themeSource, const QString& prompt, QWidget* p
     m_clear->setFocusPolicy(Qt::NoFocus);
     m_clear->setAccessibleName(u"Clear search"_s);
     m_clear->setCursor(Qt::ArrowCursor);
-    m_clear->setIconSize(QSize(15, 15));
     m_clear->setStyleSheet(u"QToolButton { border: none; padding: 0; background: transparent; }"_s);
     m_clear->hide();
     connect(m_clear, &QToolButton::clicked, this, &SearchBox::clear);
@@ -83,8 +83,11 @@ void SearchBox::follow() {
     QPalette colours = theme().palette.forToolkit();
     colours.setColor(QPalette::Base, Qt::transparent);
     m_field->setPalette(colours);
+    const int size = theme().symbolSize();
+    m_magnifier->setSize(size);
+    m_clear->setIconSize(QSize(size, size));
     m_clear->setIcon(
-        symbolPixmap(Symbol::xmarkCircleFill, 15, theme().palette.secondary, devicePixelRatioF()));
+        symbolPixmap(Symbol::xmarkCircleFill, size, theme().palette.secondary, devicePixelRatioF()));
 }
 
 void SearchBox::themeChanged() {

@@ -18,6 +18,12 @@ void SymbolView::setSymbol(Symbol symbol) {
     update();
 }
 
+void SymbolView::setSize(int size) {
+    m_size = size;
+    updateGeometry();
+    update();
+}
+
 void SymbolView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QPoint origin((width() - m_size) / 2, (height() - m_size) / 2);

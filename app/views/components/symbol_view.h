@@ -16,6 +16,7 @@ class SymbolView : public ThemedWidget {
 
     Symbol symbol() const { return m_symbol; }
     void setSymbol(Symbol symbol);
+    void setSize(int size);
 
     QSize sizeHint() const override { return {m_size, m_size}; }
 

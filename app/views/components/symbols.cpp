@@ -12,16 +12,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QPixmap drawn(const QString& file, int size, const QColor& colour, double ratio) {
+/// An SVG file of the program's resources.
+QPixmap rendered(const QString& file, int size, double ratio) {
     QPixmap pixmap(QSize(size, size) * ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     QSvgRenderer(file).render(&painter, QRectF(pixmap.rect()));
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), colour);
     painter.end();
     pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
+}
+
+QPixmap tinted(QPixmap pixmap, const QColor& colour) {
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(QRectF(QPointF(0, 0), pixmap.deviceIndependentSize()), colour);
+    return pixmap;
+}
+
+/// What `draw` gives, from the cache where it is there.
+template <class Draw>
+QPixmap kept(const QString& key, Draw draw) {
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = draw();
+        QPixmapCache::insert(key, pixmap);
+    }
     return pixmap;
 }
 
@@ -46,16 +63,18 @@ QPixmap symbolPixmap(Symbol symbol, int size, const QColor& colour, double ratio
                             .arg(size)
                             .arg(colour.rgba(), 8, 16)
                             .arg(std::lround(ratio * 1000));
-    QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
-        pixmap = drawn(u":/quillon/symbols/"_s + name + u".svg"_s, size, colour, ratio);
-        QPixmapCache::insert(key, pixmap);
-    }
-    return pixmap;
+    return kept(key, [&] {
+        return tinted(rendered(u":/quillon/symbols/"_s + name + u".svg"_s, size, ratio), colour);
+    });
+}
+
+QPixmap productMark(int size, double ratio) {
+    const QString key = u"quillon-mark/%1/%2"_s.arg(size).arg(std::lround(ratio * 1000));
+    return kept(key, [&] { return rendered(u":/quillon/app.quillon.Quillon.svg"_s, size, ratio); });
 }
 
 QPixmap traySign(int size, const QColor& colour) {
-    return drawn(u":/quillon/app.quillon.Quillon-symbolic.svg"_s, size, colour, 1);
+    return tinted(rendered(u":/quillon/app.quillon.Quillon-symbolic.svg"_s, size, 1), colour);
 }
 
 } // namespace quillon

@@ -8,7 +8,11 @@
 namespace quillon {
 
 double Theme::keySize() const {
-    return std::max(6.0, std::round(pixelSize(styles.body) * 0.86));
+    return std::max(6.0, std::round(pixelSize(styles.body) * 0.8));
+}
+
+int Theme::symbolSize() const {
+    return std::max(8, static_cast<int>(std::lround(pixelSize(styles.body) * 1.05)));
 }
 
 Theme Theme::fromLook(const Look& look, const QFont& fallback) {

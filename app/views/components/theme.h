@@ -15,6 +15,9 @@ struct Theme {
     /// The size of key caps that stand in a line of body text, in logical pixels.
     double keySize() const;
 
+    /// The size of a symbol that stands beside body text, in logical pixels.
+    int symbolSize() const;
+
     /// Follows the desktop's look; where that does not tell a font, `fallback` is the interface font.
     static Theme fromLook(const Look& look, const QFont& fallback);
 

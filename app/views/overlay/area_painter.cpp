@@ -22,6 +22,7 @@ void paintRounded(QPainter& painter, const QRectF& rect, double radius, const QC
 
 void AreaPainter::paint(QPainter& painter, const QRectF& visible, const RowHighlights& highlights) const {
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto); // each text by its own script
     paintCards(painter, visible);
     for (const DividerBox& divider : m_layout.dividers) {
         if (divider.rect.intersects(visible))
@@ -43,11 +44,16 @@ void AreaPainter::paint(QPainter& painter, const QRectF& visible, const RowHighl
 }
 
 void AreaPainter::paintCards(QPainter& painter, const QRectF& visible) const {
-    const QPen border(m_theme.palette.cardBorder, 1);
     for (const CardBox& card : m_layout.cards) {
-        if (card.rect.intersects(visible))
-            paintRounded(painter, card.rect, cardRadius, m_theme.palette.card, border);
+        if (!card.rect.intersects(visible))
+            continue;
+        painter.fillRect(m_card.inside(card.rect), m_theme.palette.card);
+        m_card.paintFrame(painter, card.rect);
     }
+}
+
+NinePatch AreaPainter::cardPicture(const Palette& palette, double ratio) {
+    return roundedBox(cardRadius, ratio, palette.card, palette.cardBorder);
 }
 
 void AreaPainter::paintHighlights(QPainter& painter, const RowHighlights& highlights) const {
@@ -94,7 +100,8 @@ void AreaPainter::paintRow(QPainter& painter, const RowBox& row) const {
 void AreaPainter::paintRowParts(
     QPainter& painter, const PreparedEntry& entry, const RowArrangement& parts) const {
     const Palette& palette = m_theme.palette;
-    paintText(painter, parts.title, m_measure.title, entry.enabled ? palette.primary : palette.dimmed);
+    for (const PlacedText& line : parts.title)
+        paintText(painter, line, m_measure.title, entry.enabled ? palette.primary : palette.dimmed);
     if (parts.submenu)
         paintText(painter, *parts.submenu, m_measure.submenu, palette.secondary);
     if (parts.pin) {

@@ -2,6 +2,7 @@
 
 #include "area_layout.h"
 
+#include <quillon/components/nine_patch.h>
 #include <quillon/components/theme.h>
 
 #include <QPainter>
@@ -20,11 +21,14 @@ struct RowHighlights {
 /// Draws the shortcut area, no more of it than is visible.
 class AreaPainter {
   public:
-    /// All of them outlive the painter.
+    /// All of them outlive the painter. `card` is the picture of an empty card.
     AreaPainter(
-        const Theme& theme, const TextMeasure& measure, const AreaContent& content,
+        const Theme& theme, const TextMeasure& measure, const NinePatch& card, const AreaContent& content,
         const PreparedSheet& sheet, const AreaLayout& layout)
-        : m_theme(theme), m_measure(measure), m_content(content), m_sheet(sheet), m_layout(layout) {}
+        : m_theme(theme), m_measure(measure), m_card(card), m_content(content), m_sheet(sheet),
+          m_layout(layout) {}
+
+    static NinePatch cardPicture(const Palette& palette, double ratio);
 
     /// `visible` in the layout's coordinates, in which `painter` draws as well.
     void paint(QPainter& painter, const QRectF& visible, const RowHighlights& highlights) const;
@@ -41,6 +45,7 @@ class AreaPainter {
 
     const Theme& m_theme;
     const TextMeasure& m_measure;
+    const NinePatch& m_card;
     const AreaContent& m_content;
     const PreparedSheet& m_sheet;
     const AreaLayout& m_layout;

@@ -46,9 +46,19 @@ void MessageView::setMessage(const OverlayMessage& message) {
         m_symbol->setSymbol(*message.symbol);
     m_title->setText(message.title);
     m_body->setText(message.body);
+    fitBody();
     m_body->setVisible(!message.body.isEmpty());
     m_action->setText(message.action);
     m_action->setVisible(!message.action.isEmpty());
+}
+
+void MessageView::fitBody() {
+    m_body->setFixedHeight(m_body->heightForWidth(widestBody));
+}
+
+void MessageView::themeChanged() {
+    fitBody();
+    ThemedWidget::themeChanged();
 }
 
 } // namespace quillon

@@ -21,7 +21,12 @@ class MessageView : public ThemedWidget {
   Q_SIGNALS:
     void actionPressed();
 
+  protected:
+    void themeChanged() override;
+
   private:
+    void fitBody();
+
     SymbolView* m_symbol;
     ThemedLabel* m_title;
     ThemedLabel* m_body;

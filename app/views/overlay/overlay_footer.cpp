@@ -11,12 +11,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int spacing = 10;
-constexpr int symbolSize = 17;
+/// Between the hint and the command.
+constexpr int middleGap = 24;
+/// A shorter piece of a title says nothing.
+constexpr int shortestCommand = 90;
 
 } // namespace
 
 OverlayFooter::OverlayFooter(ThemeSource& themeSource, QWidget* parent)
     : ThemedWidget(themeSource, parent),
+      m_symbol(
+          new SymbolView(themeSource, Symbol::keyboard, theme().symbolSize(), &Palette::secondary, this)),
       m_hint(new ThemedLabel(
           themeSource, [](const TextStyles& styles) { return styles.callout; }, &Palette::secondary, this)),
       m_mostClicked(new ThemedLabel(
@@ -29,10 +34,11 @@ OverlayFooter::OverlayFooter(ThemeSource& themeSource, QWidget* parent)
           this)) {
     m_mostClicked->setText(u"You click this one most:"_s);
 
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(spacing);
-    row->addWidget(new SymbolView(themeSource, Symbol::keyboard, symbolSize, &Palette::secondary, this));
+    row->addWidget(m_symbol);
     row->addWidget(m_hint);
     row->addStretch(1);
     row->addWidget(m_mostClicked);
@@ -44,27 +50,47 @@ OverlayFooter::OverlayFooter(ThemeSource& themeSource, QWidget* parent)
 
 void OverlayFooter::setHint(const QString& hint) {
     m_hint->setText(hint);
+    share();
 }
 
 void OverlayFooter::setMostClicked(const std::optional<MostClicked>& command) {
-    m_mostClicked->setVisible(command.has_value());
-    m_command->setVisible(command.has_value());
-    m_keys->setVisible(command.has_value());
-    if (!command)
-        return;
-    m_command->setText(command->title);
-    m_keys->setShortcut(command->shortcut);
+    m_shown = command;
+    if (command) {
+        m_command->setText(command->title);
+        m_keys->setShortcut(command->shortcut);
+    }
+    share();
+}
+
+void OverlayFooter::share() {
+    const int others = m_symbol->sizeHint().width() + m_hint->sizeHint().width() + middleGap
+                       + m_mostClicked->sizeHint().width() + m_keys->sizeHint().width() + 3 * spacing;
+    const int room = contentsRect().width() - others;
+    const int wanted = m_command->sizeHint().width();
+    const bool isShown = m_shown && room >= std::min(wanted, shortestCommand);
+    m_mostClicked->setVisible(isShown);
+    m_command->setVisible(isShown);
+    m_keys->setVisible(isShown);
+    if (isShown)
+        m_command->setFixedWidth(std::min(wanted, room));
 }
 
 void OverlayFooter::follow() {
+    m_symbol->setSize(theme().symbolSize());
     m_keys->setSize(theme().keySize());
     // The row keeps its height whether or not there are keys in it.
-    setMinimumHeight(std::max(m_keys->sizeHint().height(), symbolSize));
+    setMinimumHeight(std::max(m_keys->sizeHint().height(), m_symbol->sizeHint().height()));
+    share();
 }
 
 void OverlayFooter::themeChanged() {
     follow();
     ThemedWidget::themeChanged();
+}
+
+void OverlayFooter::resizeEvent(QResizeEvent* event) {
+    ThemedWidget::resizeEvent(event);
+    share();
 }
 
 } // namespace quillon

@@ -9,7 +9,8 @@
 
 namespace quillon {
 
-/// How the overlay is closed, and the command that its user clicks most.
+/// How the overlay is closed, and the command that its user clicks most. Where room is short the command's
+/// title is shortened first; then the command is left out.
 class OverlayFooter : public ThemedWidget {
     Q_OBJECT
 
@@ -28,14 +29,18 @@ class OverlayFooter : public ThemedWidget {
 
   protected:
     void themeChanged() override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void follow();
+    void share();
 
+    SymbolView* m_symbol;
     ThemedLabel* m_hint;
     ThemedLabel* m_mostClicked;
     ThemedLabel* m_command;
     KeysView* m_keys;
+    std::optional<MostClicked> m_shown;
 };
 
 } // namespace quillon

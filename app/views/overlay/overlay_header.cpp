@@ -46,8 +46,14 @@ void OverlayHeader::setApp(const std::string& bundleID, const QString& name) {
     m_name->setText(name);
 }
 
+void OverlayHeader::setNoApp() {
+    m_icon->showProductMark();
+    m_name->setText(u"Quillon"_s);
+}
+
 void OverlayHeader::setCount(const QString& line) {
     m_count->setText(line);
+    m_count->setVisible(!line.isEmpty());
 }
 
 } // namespace quillon

@@ -17,7 +17,11 @@ class OverlayHeader : public QWidget {
   public:
     OverlayHeader(ThemeSource& themes, AppIconCache& icons, QWidget* parent = nullptr);
 
+    /// The application that the shortcuts are of.
     void setApp(const std::string& bundleID, const QString& name);
+    /// No application: the program's own name and mark.
+    void setNoApp();
+    /// Empty for no line.
     void setCount(const QString& line);
     SearchBox& search() { return *m_search; }
 

@@ -6,13 +6,14 @@
 #include "overlay_state.h"
 #include "shortcut_area.h"
 
+#include <quillon/components/nine_patch.h>
 #include <quillon/core/app_model.h>
 #include <quillon/menu/shortcut_search.h>
 
-#include <QStackedLayout>
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -43,8 +44,11 @@ class OverlayView : public ThemedWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void themeChanged() override;
 
   private:
+    void layOut();
+    void connectParts();
     void modelChanged(ModelField field);
     void refresh();
     void refreshSheet();
@@ -53,6 +57,7 @@ class OverlayView : public ThemedWidget {
     void refreshMain();
     void refreshShortcuts();
     void refreshFooter();
+    void showInMain(QWidget* page);
     const SearchIndex& searchIndex();
     std::vector<std::size_t> matches();
     QString triggerGlyph() const;
@@ -61,12 +66,12 @@ class OverlayView : public ThemedWidget {
     AppModel& m_model;
     Mode m_mode;
     OverlayHeader* m_header;
-    QStackedLayout* m_main;
     MessageView* m_message;
     ShortcutArea* m_area;
     OverlayFooter* m_footer;
     QTimer m_prepareSearch;
     Subscription m_subscription;
+    std::optional<NinePatch> m_background;
 
     std::shared_ptr<const PreparedSheet> m_sheet;
     bool m_sheetIsStale = true; ///< the sheet, the annotations or the counts changed

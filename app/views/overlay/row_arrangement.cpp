@@ -10,10 +10,11 @@ namespace quillon {
 
 namespace {
 
-constexpr double verticalPadding = 3;
+constexpr double verticalPadding = 2;
 /// The title keeps at least this part of the first line; else the keys move below it.
 constexpr double titleShare = 0.45;
-/// A longer note ends in an ellipsis and is told in full by the row's tooltip.
+/// What is longer ends in an ellipsis and is told in full by the row's tooltip.
+constexpr int mostTitleLines = 4;
 constexpr int mostNoteLines = 6;
 
 double pinSize(const TextMeasure& measure) {
@@ -26,11 +27,18 @@ QRectF placePin(RowFlow& flow, const TextMeasure& measure) {
     return {flow.take(size), std::round(middle - size / 2), size, size};
 }
 
+/// A note begins beside the other parts only when all of it fits there.
+std::vector<PlacedText> placeNote(RowFlow& flow, const QString& note, const MeasuredFont& font) {
+    if (!flow.fits(font.width(note)))
+        flow.newLine(std::ceil(font.metrics().ascent()), font.lineHeight());
+    return flow.placeParagraph(note, font, mostNoteLines);
+}
+
 } // namespace
 
 bool RowArrangement::isElided() const {
-    return title.elided || (submenu && submenu->elided) || (badge && badge->elided)
-           || std::ranges::any_of(note, &PlacedText::elided);
+    return std::ranges::any_of(title, &PlacedText::elided) || (submenu && submenu->elided)
+           || (badge && badge->elided) || std::ranges::any_of(note, &PlacedText::elided);
 }
 
 RowArranger::RowArranger(const TextMeasure& measure, double width)
@@ -45,31 +53,27 @@ double RowArranger::pinRoom(const PreparedEntry& entry) const {
     return entry.pinned ? partGap + pinSize(m_measure) : 0;
 }
 
+double RowArranger::roomBesideKeys(const PreparedEntry& entry) const {
+    return m_width - m_measure.keys.width(entry.shortcut) - partGap - pinRoom(entry);
+}
+
 bool RowArranger::keysGoBelow(const PreparedEntry& entry) const {
-    const double room = m_width - m_measure.keys.width(entry.shortcut) - partGap - pinRoom(entry);
+    const double room = roomBesideKeys(entry);
     return room < m_width * titleShare && room < m_measure.title.width(entry.title);
 }
 
 RowArrangement RowArranger::arrange(const PreparedEntry& entry, SubmenuInRow submenu) const {
-    const double keysWidth = m_measure.keys.width(entry.shortcut);
-    const double keysScale = std::min(1.0, m_width / keysWidth);
+    const double keysScale = std::min(1.0, m_width / m_measure.keys.width(entry.shortcut));
+    const double keysWidth = m_measure.keys.width(entry.shortcut) * keysScale;
+    const double keysHeight = m_measure.keys.height() * keysScale;
+    const double keysAscent = m_measure.keys.baseline() * keysScale;
     const bool keysBelow = keysGoBelow(entry);
     const double right = keysBelow ? m_width : m_width - keysWidth - partGap;
     RowFlow flow({.right = right, .baseline = m_baseline, .bottom = m_lineHeight - verticalPadding}, m_width);
+
     RowArrangement row;
     row.keysScale = keysScale;
-
-    const double titleRoom = std::max(1.0, right - pinRoom(entry));
-    const double titleWidth = std::min(m_measure.title.width(entry.title), titleRoom);
-    row.title.elided = m_measure.title.width(entry.title) > titleRoom;
-    row.title.text = row.title.elided
-                         ? m_measure.title.metrics().elidedText(entry.title, Qt::ElideRight, titleRoom)
-                         : entry.title;
-    row.title.baseline = m_baseline;
-    row.title.rect = QRectF(
-        flow.take(titleWidth), m_baseline - std::ceil(m_measure.title.metrics().ascent()), titleWidth,
-        m_measure.title.lineHeight());
-
+    row.title = flow.placeParagraph(entry.title, m_measure.title, mostTitleLines, pinRoom(entry));
     const bool namesSubmenu = submenu == SubmenuInRow::shown && !entry.submenu.isEmpty();
     const bool submenuBeside =
         namesSubmenu && flow.fits(m_measure.submenu.width(entry.submenu) + pinRoom(entry));
@@ -77,21 +81,19 @@ RowArrangement RowArranger::arrange(const PreparedEntry& entry, SubmenuInRow sub
         row.submenu = flow.placeText(entry.submenu, m_measure.submenu);
     if (entry.pinned)
         row.pin = placePin(flow, m_measure);
+    double keysTop = m_baseline - keysAscent;
+    if (keysBelow) {
+        flow.newLine(keysAscent, keysHeight, keysWidth + partGap);
+        keysTop = flow.baseline() - keysAscent;
+    }
     if (namesSubmenu && !submenuBeside)
         row.submenu = flow.placeText(entry.submenu, m_measure.submenu);
     if (entry.clicked > 0)
         row.badge = flow.placeText(OverlayTexts::badge(entry.clicked), m_measure.caption, badgePadding);
     if (!entry.note.isEmpty())
-        row.note = flow.placeParagraph(entry.note, m_measure.note, mostNoteLines);
+        row.note = placeNote(flow, entry.note, m_measure.note);
 
-    double keysBaseline = m_baseline;
-    if (keysBelow) {
-        flow.newLine(m_measure.keys.baseline() * keysScale, m_measure.keys.height() * keysScale);
-        keysBaseline = flow.baseline();
-    }
-    row.keys = QRectF(
-        m_width - keysWidth * keysScale, keysBaseline - m_measure.keys.baseline() * keysScale,
-        keysWidth * keysScale, m_measure.keys.height() * keysScale);
+    row.keys = QRectF(m_width - keysWidth, keysTop, keysWidth, keysHeight);
     row.height = flow.bottom() + verticalPadding;
     return row;
 }
@@ -99,7 +101,8 @@ RowArrangement RowArranger::arrange(const PreparedEntry& entry, SubmenuInRow sub
 double RowArranger::height(const PreparedEntry& entry, SubmenuInRow submenu) const {
     const bool isPlain = entry.clicked == 0 && entry.note.isEmpty()
                          && (submenu == SubmenuInRow::hidden || entry.submenu.isEmpty());
-    return isPlain && !keysGoBelow(entry) ? m_lineHeight : arrange(entry, submenu).height;
+    const bool isOneLine = isPlain && m_measure.title.width(entry.title) <= roomBesideKeys(entry);
+    return isOneLine ? m_lineHeight : arrange(entry, submenu).height;
 }
 
 } // namespace quillon

@@ -28,7 +28,7 @@ struct PlacedText {
 /// leaves the width that it was arranged for.
 struct RowArrangement {
     double height = 0;
-    PlacedText title;
+    std::vector<PlacedText> title; ///< one per line
     std::optional<PlacedText> submenu;
     std::optional<QRectF> pin;
     std::optional<PlacedText> badge; ///< its rect is the pill around the text
@@ -48,9 +48,9 @@ class RowArranger {
     RowArranger(const TextMeasure& measure, double width);
 
     /// One line where everything fits: title, submenu, pin, badge, note, and the keys at the trailing side.
-    /// What does not fit beside the title moves to lines of its own below it, the note wrapped. Where the
-    /// keys would leave the title too little room they stand below it as well. A title that is wider than a
-    /// whole line ends in an ellipsis.
+    /// A title that does not fit beside the keys goes on below, and so do the other parts. Where the keys
+    /// would leave the title too little room they stand in the line below it. Only a title or note of very
+    /// many lines ends in an ellipsis.
     RowArrangement arrange(const PreparedEntry& entry, SubmenuInRow submenu) const;
 
     /// Exactly the height of `arrange`, without measuring text where that cannot matter.
@@ -66,6 +66,7 @@ class RowArranger {
 
   private:
     double pinRoom(const PreparedEntry& entry) const;
+    double roomBesideKeys(const PreparedEntry& entry) const;
     bool keysGoBelow(const PreparedEntry& entry) const;
 
     const TextMeasure& m_measure;

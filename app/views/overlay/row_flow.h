@@ -13,7 +13,7 @@ class RowFlow {
         double bottom = 0;
     };
 
-    /// Begins in `first`; every further line is `width` wide.
+    /// Begins in `first`; further lines are `width` wide.
     RowFlow(Line first, double width) : m_line(first), m_width(width) {}
 
     double baseline() const { return m_line.baseline; }
@@ -23,13 +23,15 @@ class RowFlow {
     bool fits(double width) const { return start() + width <= m_line.right; }
     /// Takes room in the current line and returns its left edge.
     double take(double width);
-    void newLine(double ascent, double height);
+    /// A line whose text stands `ascent` below its top, and which leaves `reserved` free at its end.
+    void newLine(double ascent, double height, double reserved = 0);
 
     /// Places one line of text with `padding` on both sides; elided when it is wider than a whole line.
     PlacedText placeText(const QString& text, const MeasuredFont& font, double padding = 0);
-    /// Places text that may take several lines: in the current line when all of it fits there, else wrapped
-    /// below. Past `mostLines` it is elided.
-    std::vector<PlacedText> placeParagraph(const QString& text, const MeasuredFont& font, int mostLines);
+    /// Places text that may take several lines, from the current line on. Leaves `reserved` free in every
+    /// line. Past `mostLines` it is elided.
+    std::vector<PlacedText>
+    placeParagraph(const QString& text, const MeasuredFont& font, int mostLines, double reserved = 0);
 
   private:
     double start() const { return m_x > 0 ? m_x + RowArranger::partGap : 0; }

@@ -66,6 +66,7 @@ ShortcutArea::ShortcutArea(ThemeSource& themes, QWidget* parent)
 
 void ShortcutArea::follow() {
     m_measure = std::make_unique<TextMeasure>(m_themes.theme());
+    m_card.reset();
     makeThin(*verticalScrollBar(), m_themes.theme());
     relayout();
 }
@@ -104,7 +105,6 @@ void ShortcutArea::relayout() {
     ++m_generation;
     updateScrollBar();
     viewport()->update();
-    Q_EMIT contentReplaced();
     tellAreaReplaced(*this);
 }
 
@@ -220,7 +220,9 @@ void ShortcutArea::showRowMenu(std::size_t row, const QPoint& globalPosition) {
     m_menu->setAttribute(Qt::WA_DeleteOnClose);
     m_menu->addAction(
         entry.pinned ? u"Unpin"_s : u"Pin"_s, this, [this, id = entry.id] { Q_EMIT pinToggled(id); });
-    m_menu->addAction(u"Open in Library"_s, this, &ShortcutArea::libraryRequested);
+    QAction* const library =
+        m_menu->addAction(u"Open in Library"_s, this, &ShortcutArea::libraryRequested);
+    library->setEnabled(m_libraryIsOffered);
     m_menu->popup(globalPosition);
 }
 
@@ -260,10 +262,16 @@ void ShortcutArea::paintEvent(QPaintEvent* event) {
     const QRectF visible = QRectF(event->rect()).translated(0, scrolled());
     painter.translate(0, -scrolled());
     const RowHighlights highlights{.hovered = m_hovered, .focused = hasFocus() ? m_current : std::nullopt};
-    AreaPainter(m_themes.theme(), *m_measure, m_content, *m_sheet, m_layout)
+    AreaPainter(m_themes.theme(), *m_measure, cardPicture(), m_content, *m_sheet, m_layout)
         .paint(painter, visible, highlights);
     painter.resetTransform();
     paintScrollEdges(painter);
+}
+
+const NinePatch& ShortcutArea::cardPicture() {
+    if (!m_card || m_card->ratio() != devicePixelRatioF())
+        m_card = AreaPainter::cardPicture(m_themes.theme().palette, devicePixelRatioF());
+    return *m_card;
 }
 
 void ShortcutArea::paintScrollEdges(QPainter& painter) const {

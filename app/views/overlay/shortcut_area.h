@@ -3,6 +3,7 @@
 #include "area_layout.h"
 #include "row_steps.h"
 
+#include <quillon/components/nine_patch.h>
 #include <quillon/components/theme_source.h>
 
 #include <QAbstractScrollArea>
@@ -44,6 +45,8 @@ class ShortcutArea : public QAbstractScrollArea {
     void scrollToTop();
     void scrollByPage(int pages);
 
+    /// Whether the rows' menus lead to the Library. They do at first.
+    void offerLibrary(bool offered) { m_libraryIsOffered = offered; }
     /// Opens the row's menu, below it.
     void openRowMenu(std::size_t row);
     /// Takes an open menu of a row off the screen.
@@ -54,7 +57,6 @@ class ShortcutArea : public QAbstractScrollArea {
     void libraryRequested();
     /// A row's menu is about to open.
     void rowMenuOpening();
-    void contentReplaced();
 
   protected:
     bool viewportEvent(QEvent* event) override;
@@ -70,6 +72,7 @@ class ShortcutArea : public QAbstractScrollArea {
 
   private:
     void follow();
+    const NinePatch& cardPicture();
     void relayout();
     void updateScrollBar();
     void step(RowStep step);
@@ -85,6 +88,7 @@ class ShortcutArea : public QAbstractScrollArea {
     ThemeSource& m_themes;
     Subscription m_subscription;
     std::unique_ptr<TextMeasure> m_measure;
+    std::optional<NinePatch> m_card;
     std::shared_ptr<const PreparedSheet> m_sheet;
     AreaContent m_content;
     AreaLayout m_layout;
@@ -92,6 +96,7 @@ class ShortcutArea : public QAbstractScrollArea {
     std::optional<std::size_t> m_current;
     std::optional<std::size_t> m_hovered;
     QPointer<QMenu> m_menu;
+    bool m_libraryIsOffered = true;
 };
 
 } // namespace quillon

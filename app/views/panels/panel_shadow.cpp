@@ -1,7 +1,5 @@
 #include "panel_shadow.h"
 
-#include <qdrawutil.h>
-
 #include <QImage>
 
 #include <algorithm>
@@ -14,9 +12,9 @@ namespace {
 /// The shadow falls downwards by this.
 constexpr double drop = 8;
 /// Its darkest, beside the edge.
-constexpr double strength = 0.34;
-/// Straight edge between two corners of the tile; what is stretched.
-constexpr double middle = 8;
+constexpr double strength = 0.30;
+/// How far the darker line beside the edge reaches.
+constexpr double nearReach = 6;
 
 /// The distance of a point from a rounded rectangle: 0 on its edge, negative inside.
 double distanceFrom(const QRectF& rect, double radius, double x, double y) {
@@ -29,15 +27,13 @@ double distanceFrom(const QRectF& rect, double radius, double x, double y) {
 /// From 1 on the edge to 0 at `reach`, like blurred light.
 double falloff(double distance, double reach) {
     const double t = std::clamp(1 - distance / reach, 0.0, 1.0);
-    return t * t * t;
+    return t * t;
 }
 
-QPixmap tile(double radius, const QColor& colour, double ratio) {
-    const double edge = PanelShadow::reach + radius;
-    const double size = 2 * edge + middle;
-    QImage image(
-        QSize(1, 1) * static_cast<int>(std::ceil(size * ratio)), QImage::Format_ARGB32_Premultiplied);
-    const QRectF shape(PanelShadow::reach, PanelShadow::reach, 2 * radius + middle, 2 * radius + middle);
+/// The shadow of a rounded `shape` on a picture of this size.
+QImage shadowImage(QSize size, double ratio, const QRectF& shape, double radius, const QColor& colour) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
@@ -45,33 +41,34 @@ QPixmap tile(double radius, const QColor& colour, double ratio) {
             const double py = (y + 0.5) / ratio;
             const double wide =
                 falloff(distanceFrom(shape.translated(0, drop), radius, px, py), PanelShadow::reach - drop);
-            const double near = falloff(distanceFrom(shape, radius, px, py), 10);
-            const double alpha = std::min(1.0, strength * (0.8 * wide + 0.2 * near));
+            const double near = falloff(distanceFrom(shape, radius, px, py), nearReach);
+            const double alpha = strength * (0.82 * wide + 0.18 * near);
             line[x] = qPremultiply(qRgba(
                 colour.red(), colour.green(), colour.blue(), static_cast<int>(std::lround(alpha * 255))));
         }
     }
-    QPixmap pixmap = QPixmap::fromImage(image);
-    pixmap.setDevicePixelRatio(ratio);
-    return pixmap;
+    return image;
+}
+
+NinePatch shadowPatch(double radius, double ratio, const QColor& colour) {
+    constexpr int reach = PanelShadow::reach;
+    return NinePatch(reach + drop + radius, ratio, [&](QPainter& painter, const QRectF& box) {
+        const QRectF shape = box.adjusted(reach, reach, -reach, -reach);
+        painter.drawImage(
+            QPointF(0, 0), shadowImage((box.size() * ratio).toSize(), ratio, shape, radius, colour));
+    });
 }
 
 } // namespace
 
 void PanelShadow::paint(QPainter& painter, const QRectF& panel, double radius, const QColor& colour) {
     const double ratio = painter.device()->devicePixelRatioF();
-    if (m_tile.isNull() || ratio != m_ratio || radius != m_radius || colour != m_colour) {
-        m_tile = tile(radius, colour, ratio);
-        m_ratio = ratio;
+    if (!m_patch || ratio != m_patch->ratio() || radius != m_radius || colour != m_colour) {
+        m_patch = shadowPatch(radius, ratio, colour);
         m_radius = radius;
         m_colour = colour;
     }
-    const int edge = static_cast<int>(reach + radius);
-    const QMargins margins(edge, edge, edge, edge);
-    const QRect target = panel.toRect().adjusted(-reach, -reach, reach, reach);
-    qDrawBorderPixmap(
-        &painter, target, margins, m_tile, QRect(QPoint(0, 0), m_tile.deviceIndependentSize().toSize()),
-        margins, QTileRules(Qt::StretchTile));
+    m_patch->paintFrame(painter, panel.adjusted(-reach, -reach, reach, reach));
 }
 
 } // namespace quillon

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <quillon/components/nine_patch.h>
+
 #include <QColor>
 #include <QPainter>
-#include <QPixmap>
 #include <QRectF>
+
+#include <optional>
 
 namespace quillon {
 
@@ -18,8 +21,7 @@ class PanelShadow {
     void paint(QPainter& painter, const QRectF& panel, double radius, const QColor& colour);
 
   private:
-    QPixmap m_tile;
-    double m_ratio = 0;
+    std::optional<NinePatch> m_patch;
     double m_radius = 0;
     QColor m_colour;
 };

@@ -20,8 +20,7 @@ Rect rectOf(const QRect& rect) {
 
 } // namespace
 
-QtPanelHost::QtPanelHost(
-    ThemeSource& themes, AppIconCache& icons, PanelWindows& windows, OverlayMode mode)
+QtPanelHost::QtPanelHost(ThemeSource& themes, AppIconCache& icons, PanelWindows& windows, OverlayMode mode)
     : m_themes(themes), m_icons(icons), m_windows(windows), m_mode(mode) {}
 
 std::vector<Screen> QtPanelHost::screens() const {

@@ -32,7 +32,7 @@ class ViewDesk {
     Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
     ThemeSource themes{desktop.appearance};
     AppIconCache icons{desktop.icons};
-    QtPanelHost host{themes, icons, desktop.panels};
+    QtPanelHost host{themes, icons, desktop.panels, OverlayMode::live};
     AppModel model{{
         .frontApplication = desktop.front,
         .menuReader = desktop.menus,

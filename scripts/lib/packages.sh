@@ -1,0 +1,45 @@
+# The Debian 12 packages that each kind of work needs. Sourced, never run.
+# shellcheck shell=bash
+
+# packages_of PROFILE: prints the names of a profile's packages; fails for an unknown profile.
+packages_of() {
+    case $1 in
+        kit) kit_packages ;;
+        build) kit_packages && app_packages ;;
+        test) test_packages && desktop_packages ;;
+        desktop) desktop_packages ;;
+        lint) lint_packages ;;
+        bench) echo libbenchmark-dev ;;
+        *) return 1 ;;
+    esac
+}
+
+kit_packages() {
+    echo g++ cmake ninja-build \
+        libicu-dev nlohmann-json3-dev libgtest-dev libgmock-dev
+}
+
+app_packages() {
+    echo pkg-config qt6-base-dev qt6-svg-dev \
+        libsystemd-dev libglib2.0-dev libxkbcommon-dev libxkbcommon-x11-dev \
+        libxcb1-dev libxcb-xinput-dev libxcb-xkb-dev libxcb-shape0-dev libxcb-res0-dev \
+        libxcb-icccm4-dev libxcb-ewmh-dev libxcb-randr0-dev libxcb-xtest0-dev
+}
+
+# clang and its run-time libraries for the fuzzers; the validators of the files in packaging/.
+test_packages() {
+    echo clang libclang-rt-14-dev \
+        desktop-file-utils appstream man-db groff-base
+}
+
+# The private desktop and the applications that the tests use in it.
+desktop_packages() {
+    echo xvfb x11-utils xdotool openbox picom dbus at-spi2-core \
+        python3 python3-gi imagemagick \
+        fonts-dejavu-core libqt6svg6 hicolor-icon-theme adwaita-icon-theme \
+        geany mousepad featherpad designer-qt6
+}
+
+lint_packages() {
+    echo clang clang-format clang-tidy shellcheck python3 git
+}
