@@ -97,8 +97,8 @@ class Reading {
         ToolkitFamily family = ToolkitFamily::other;
         if (root == m_roots.end())
             return family;
-        m_calls.toolkitName(*root, [&family](std::optional<std::string> name) {
-            family = toolkitFamily(name.value_or(std::string()));
+        m_calls.toolkitName(*root, [&family](const std::optional<std::string>& name) {
+            family = name ? toolkitFamily(*name) : ToolkitFamily::other;
         });
         m_pipeline.run();
         return family;

@@ -83,7 +83,9 @@ std::vector<BusWindow> windowsOf(AccessibilityCalls& calls, std::span<const Obje
     for (const ObjectRef& root : applicationRoots) {
         std::vector<BusWindow>& list = lists.emplace_back();
         calls.children(root, [&calls, &list](std::optional<std::vector<ObjectRef>> objects) {
-            for (ObjectRef& object : objects.value_or(std::vector<ObjectRef>()))
+            if (!objects)
+                return;
+            for (ObjectRef& object : *objects)
                 list.push_back({std::move(object), {}, {}});
             for (BusWindow& window : list) {
                 calls.name(
