@@ -1,9 +1,11 @@
 #include "fake_app_process.h"
 
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <poll.h>
 #include <spawn.h>
@@ -16,12 +18,11 @@ namespace {
 
 constexpr int startLimit = 10000; // milliseconds
 
+/// A name that no other test of this or another process uses.
 std::string temporaryName() {
-    std::string name = "/tmp/quillon-test.XXXXXX";
-    const int file = mkstemp(name.data());
-    if (file >= 0)
-        close(file);
-    return name;
+    static std::atomic<int> number = 0;
+    const std::string name = "quillon-test-" + std::to_string(getpid()) + "-" + std::to_string(number++);
+    return std::filesystem::temp_directory_path() / name;
 }
 
 /// Waits for the line that the application prints when it is on the bus.
