@@ -25,7 +25,10 @@ Commands:
                 --pid N           the application of this process
                 --front           the front application (default)
                 --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default) or json
+                --format FORMAT   text (default), json or markdown
+                --practice N      a practice round of N commands instead, in the
+                                  order in which they are asked
+                --seed S          the same round every time
   apps        list the running applications that share their menus
   doctor      say what works on this desktop and how to mend what does not
   quit        end the running program
@@ -62,12 +65,45 @@ QCommandLineOption withValue(const QString& name) {
     return {name, {}, name};
 }
 
-std::optional<std::int64_t> processNumber(const QString& text) {
+std::optional<std::int64_t> positiveNumber(const QString& text) {
     bool isNumber = false;
     const qlonglong number = text.toLongLong(&isNumber);
     if (!isNumber || number <= 0)
         return std::nullopt;
     return number;
+}
+
+std::optional<SheetFormat> sheetFormat(const QString& name) {
+    if (name == "text"_L1)
+        return SheetFormat::text;
+    if (name == "json"_L1)
+        return SheetFormat::json;
+    if (name == "markdown"_L1)
+        return SheetFormat::markdown;
+    return std::nullopt;
+}
+
+/// Reads --practice and --seed into `command`.
+std::optional<UsageError> readPractice(
+    const QCommandLineParser& parser, const QCommandLineOption& practice, const QCommandLineOption& seed,
+    SheetCommand& command) {
+    if (!parser.isSet(practice))
+        return parser.isSet(seed) ? std::optional(unexpected(u"--seed needs --practice"_s)) : std::nullopt;
+    if (command.format == SheetFormat::markdown)
+        return unexpected(u"--practice is printed as text or json"_s);
+    PracticeRequest request;
+    const auto count = positiveNumber(parser.value(practice));
+    if (!count)
+        return unexpected(u"--practice takes a positive number, not '%1'"_s.arg(parser.value(practice)));
+    request.count = *count;
+    if (parser.isSet(seed)) {
+        bool isNumber = false;
+        request.seed = parser.value(seed).toULongLong(&isNumber);
+        if (!isNumber)
+            return unexpected(u"--seed takes a number from 0 to 2^64-1, not '%1'"_s.arg(parser.value(seed)));
+    }
+    command.practice = request;
+    return std::nullopt;
 }
 
 Command parseSheet(const QStringList& arguments) {
@@ -77,7 +113,9 @@ Command parseSheet(const QStringList& arguments) {
     const QCommandLineOption front(u"front"_s);
     const QCommandLineOption query = withValue(u"query"_s);
     const QCommandLineOption format = withValue(u"format"_s);
-    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format}))
+    const QCommandLineOption practice = withValue(u"practice"_s);
+    const QCommandLineOption seed = withValue(u"seed"_s);
+    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format, practice, seed}))
         return *error;
     if (int(parser.isSet(app)) + int(parser.isSet(pid)) + int(parser.isSet(front)) > 1)
         return unexpected(u"--app, --pid and --front exclude each other"_s);
@@ -86,16 +124,17 @@ Command parseSheet(const QStringList& arguments) {
     if (parser.isSet(app))
         command.appName = parser.value(app).toStdString();
     if (parser.isSet(pid)) {
-        command.pid = processNumber(parser.value(pid));
+        command.pid = positiveNumber(parser.value(pid));
         if (!command.pid)
             return unexpected(u"--pid takes a process number, not '%1'"_s.arg(parser.value(pid)));
     }
     command.query = parser.value(query).toStdString();
-    const QString formatName = parser.isSet(format) ? parser.value(format) : u"text"_s;
-    if (formatName == "json"_L1)
-        command.format = SheetFormat::json;
-    else if (formatName != "text"_L1)
-        return unexpected(u"--format is text or json, not '%1'"_s.arg(formatName));
+    const auto chosenFormat = sheetFormat(parser.isSet(format) ? parser.value(format) : u"text"_s);
+    if (!chosenFormat)
+        return unexpected(u"--format is text, json or markdown, not '%1'"_s.arg(parser.value(format)));
+    command.format = *chosenFormat;
+    if (auto error = readPractice(parser, practice, seed, command))
+        return *error;
     return command;
 }
 

@@ -19,7 +19,7 @@ enum class ExitCode {
     noShortcuts = 5,
 };
 
-enum class SheetFormat { text, json };
+enum class SheetFormat { text, json, markdown };
 
 /// `quillon` alone: be the program.
 struct RunCommand {
@@ -29,12 +29,20 @@ struct RunCommand {
 struct AppsCommand {
     bool operator==(const AppsCommand&) const = default;
 };
+/// A practice round to print instead of the whole sheet.
+struct PracticeRequest {
+    std::int64_t count = 0;            ///< how many commands are asked, at least 1
+    std::optional<std::uint64_t> seed; ///< for a round that comes out the same again; absent for any round
+
+    bool operator==(const PracticeRequest&) const = default;
+};
 /// `quillon sheet`: of the application called `appName`, of process `pid`, or of the front application.
 struct SheetCommand {
     std::optional<std::string> appName;
     std::optional<std::int64_t> pid;
     std::string query;
     SheetFormat format = SheetFormat::text;
+    std::optional<PracticeRequest> practice; ///< never with the Markdown format
 
     bool operator==(const SheetCommand&) const = default;
 };

@@ -77,4 +77,11 @@ std::string sheetText(const AppSheet& sheet) {
     return text;
 }
 
+std::string practiceText(const std::vector<MenuEntry>& round) {
+    Rows rows;
+    for (std::size_t i = 0; i < round.size(); ++i)
+        rows.push_back({std::to_string(i + 1) + '.', round[i].id(), round[i].shortcut.display()});
+    return tableText(rows);
+}
+
 } // namespace quillon

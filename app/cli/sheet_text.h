@@ -11,6 +11,10 @@ namespace quillon {
 /// keys in one column. Ends with a line break.
 std::string sheetText(const AppSheet& sheet);
 
+/// A practice round as people read it in a terminal: its commands numbered in the order in which they are
+/// asked, with their menus and keys.
+std::string practiceText(const std::vector<MenuEntry>& round);
+
 /// Rows of cells as a table: each column as wide as its widest cell, two blanks between columns, no blanks at
 /// the end of a line. The width of a text is what a terminal gives it.
 std::string tableText(const std::vector<std::vector<std::string>>& rows);

@@ -113,6 +113,8 @@ class AppModel {
     /// Pins or unpins a command of an application.
     void togglePin(const std::string& bundleID, const std::string& entryID);
     void requestWindow(WindowName name) { windowRequested.emit(name); }
+    /// Whether a window that is asked for will open; views do not offer one that will not.
+    bool offersWindow(WindowName name) const { return !canOpenWindow || canOpenWindow(name); }
 
     /// Takes over a sheet and what is known of its commands instead of reading any: for showing the program
     /// with sample data.
@@ -120,6 +122,8 @@ class AppModel {
 
     /// Whether the practice window has the keyboard; asked before a held overlay shows. Absent: never.
     std::function<bool()> practiceHasKeyboard;
+    /// Which windows there are to open. Absent: all of them.
+    std::function<bool(WindowName)> canOpenWindow;
 
   private:
     void applyWatchers();

@@ -14,15 +14,30 @@ namespace quillon {
 
 namespace {
 
+std::optional<std::string> inputVersion(const X11Report& report) {
+    if (!report.rawInput || !report.xinput)
+        return std::nullopt;
+    return std::to_string(report.xinput->major) + '.' + std::to_string(report.xinput->minor);
+}
+
 DesktopFacts gatherFacts() {
     const atspi::AccessibilityBusState bus = atspi::probeAccessibilityBus();
-    DesktopFacts facts;
-    facts.sessionBus = bus.hasSessionBus;
-    facts.accessibilityBus = bus.hasAccessibilityBus;
-    facts.accessibilityOn = bus.isEnabled;
-    facts.front = frontApp();
-    facts.instanceRunning = instanceIsRunning();
-    return facts;
+    const X11Report x11 = x11Report();
+    return {
+        .sessionBus = bus.hasSessionBus,
+        .accessibilityBus = bus.hasAccessibilityBus,
+        .accessibilityOn = bus.isEnabled,
+        .waylandSession = sessionKind() == SessionKind::wayland,
+        .display = x11.display,
+        .inputExtension = inputVersion(x11),
+        .keyboardExtension = x11.xkb,
+        .shapeExtension = x11.shape,
+        .windowManager = x11.windowManager,
+        .compositor = x11.compositor,
+        .trayHost = x11.tray || hasTrayHost(),
+        .front = frontApp(),
+        .instanceRunning = instanceIsRunning(),
+    };
 }
 
 } // namespace

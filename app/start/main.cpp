@@ -1,6 +1,7 @@
 #include "commands.h"
 #include "overloaded.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <clocale>
@@ -16,8 +17,13 @@ QStringList argumentsAfterName(int argc, char** argv) {
     return arguments;
 }
 
-int codeOf(quillon::ExitCode code) {
-    return static_cast<int>(code);
+/// Commands without windows still need what makes Qt's sockets and buses work.
+template <class Command>
+auto withEventLoop(int& argc, char** argv, quillon::ExitCode (*run)(const Command&)) {
+    return [&argc, argv, run](const Command& command) {
+        const QCoreApplication application(argc, argv);
+        return static_cast<int>(run(command));
+    };
 }
 
 } // namespace
@@ -31,17 +37,17 @@ int main(int argc, char** argv) {
             [&](const ShowCommand& show) {
                 return runProgram(argc, argv, show.sample ? FirstShow::sample : FirstShow::overlay);
             },
-            [](const AppsCommand& command) { return codeOf(runApps(command)); },
-            [](const SheetCommand& command) { return codeOf(runSheet(command)); },
-            [](const DoctorCommand& command) { return codeOf(runDoctor(command)); },
-            [](const QuitCommand& command) { return codeOf(runQuit(command)); },
+            withEventLoop(argc, argv, runApps),
+            withEventLoop(argc, argv, runSheet),
+            withEventLoop(argc, argv, runDoctor),
+            withEventLoop(argc, argv, runQuit),
             [](const PrintCommand& print) {
                 std::fputs(print.text.c_str(), stdout);
-                return codeOf(ExitCode::success);
+                return static_cast<int>(ExitCode::success);
             },
             [](const UsageError& error) {
                 std::fprintf(stderr, "%s\n", error.message.c_str());
-                return codeOf(ExitCode::usage);
+                return static_cast<int>(ExitCode::usage);
             },
         },
         parseCommandLine(argumentsAfterName(argc, argv)));

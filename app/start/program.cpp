@@ -11,8 +11,14 @@
 
 namespace quillon {
 
+namespace {
+
+constexpr Seconds patienceForTrust{0.5};
+
+} // namespace
+
 Program::Program()
-    : m_desktop(m_background, m_clock), m_settings(QString::fromStdString(settingsFile())),
+    : m_desktop(m_background, m_clock), m_settings(QString::fromStdString(settingsFile().string())),
       m_themes(m_desktop.appearance()), m_icons(m_desktop.icons()),
       m_panels(m_themes, m_icons, m_desktop.panelWindows(), OverlayMode::live),
       m_model({
@@ -28,10 +34,14 @@ Program::Program()
           .ownPid = getpid(),
       }),
       m_tray(m_model, m_themes, [] { QApplication::quit(); }) {
+    m_model.canOpenWindow = [](WindowName name) { return name == WindowName::welcome; };
     m_windowRequests = m_model.windowRequested.subscribe([this](WindowName name) { openWindow(name); });
 }
 
-Program::~Program() = default;
+Program::~Program() {
+    // Readings under way use the desktop, which ends before the threads that they run on.
+    m_background.finish();
+}
 
 InstanceRequests Program::requests() {
     return {
@@ -50,9 +60,22 @@ void Program::start(FirstShow firstShow) {
     m_tray.show();
     switch (firstShow) {
     case FirstShow::nothing: break;
-    case FirstShow::overlay: m_model.showOverlay(Stickiness::sticky); break;
+    case FirstShow::overlay: showOverlayOnceTrusted(); break;
     case FirstShow::sample: showSample(); break;
     }
+}
+
+// At the very start the desktop has not answered yet; what it answers a moment later should not flash by.
+void Program::showOverlayOnceTrusted() {
+    const auto show = [this] {
+        m_trustForFirstShow.reset();
+        m_model.showOverlay(Stickiness::sticky);
+    };
+    m_firstShow = m_timers.after(patienceForTrust, show);
+    m_trustForFirstShow = m_model.changed.subscribe([this, show](ModelField field) {
+        if (field == ModelField::trusted)
+            m_firstShow = m_timers.after(Seconds(0), show);
+    });
 }
 
 void Program::activate() {

@@ -33,6 +33,7 @@ class Program {
 
   private:
     void activate();
+    void showOverlayOnceTrusted();
     void showSample();
     void openWindow(WindowName name);
 
@@ -49,6 +50,8 @@ class Program {
     StallMeter m_stalls;
     std::unique_ptr<Showcase> m_showcase;
     Subscription m_windowRequests;
+    Subscription m_firstShow;
+    Subscription m_trustForFirstShow;
 };
 
 } // namespace quillon

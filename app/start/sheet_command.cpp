@@ -3,14 +3,20 @@
 
 #include <quillon/atspi/accessibility_bus.h>
 #include <quillon/atspi/menu_reader.h>
+#include <quillon/cheatsheet/cheat_sheet.h>
 #include <quillon/cli/app_choice.h>
 #include <quillon/cli/sheet_text.h>
+#include <quillon/coach/practice_deck.h>
+#include <quillon/coach/seeded_generator.h>
 #include <quillon/menu/menu_parser.h>
 #include <quillon/menu/shortcut_search.h>
 #include <quillon/qt/system_clock.h>
 #include <quillon/records/json_codec.h>
+#include <quillon/records/json_file.h>
+#include <quillon/xdg/paths.h>
 
-#include <cstdio>
+#include <QRandomGenerator>
+
 #include <iostream>
 #include <string>
 
@@ -57,12 +63,34 @@ std::string nameOf(const RunningApp& app) {
     return app.name.empty() ? app.bundleID : app.name;
 }
 
-void print(const AppSheet& sheet, SheetFormat format) {
-    if (format == SheetFormat::json)
-        std::cout << Json::encode(sheet).value_or("") << '\n';
-    else
-        std::cout << sheetText(sheet);
-    std::cout.flush();
+/// What the user has done and said of the applications so far.
+struct Records {
+    UsageBook usage = JSONFile<UsageBook>(dataFolder() / "usage.json").load().value_or(UsageBook{});
+    AnnotationBook annotations =
+        JSONFile<AnnotationBook>(dataFolder() / "notes.json").load().value_or(AnnotationBook{});
+};
+
+std::vector<MenuEntry>
+practiceRound(const AppSheet& sheet, const PracticeRequest& request, const Records& records) {
+    const std::uint64_t anySeed = QRandomGenerator::system()->generate64();
+    SeededGenerator generator(request.seed.value_or(anySeed));
+    return PracticeDeck::round(
+        sheet.entries, records.usage.records(sheet.bundleID), records.annotations.pinned(sheet.bundleID),
+        request.count, generator);
+}
+
+Annotations annotationsOf(const std::string& bundleID, const Records& records) {
+    const auto found = records.annotations.apps.find(bundleID);
+    return found == records.annotations.apps.end() ? Annotations{} : found->second;
+}
+
+std::string textOf(const AppSheet& sheet, const SheetCommand& command, const Records& records) {
+    switch (command.format) {
+    case SheetFormat::json: return Json::encode(sheet).value_or("") + '\n';
+    case SheetFormat::markdown: return CheatSheet::markdown(sheet, annotationsOf(sheet.bundleID, records));
+    case SheetFormat::text: break;
+    }
+    return command.practice ? practiceText(sheet.entries) : sheetText(sheet);
 }
 
 } // namespace
@@ -85,8 +113,12 @@ ExitCode runSheet(const SheetCommand& command) {
                                          "was on, restart it");
     if (reading.outcome == ReadOutcome::partial)
         std::cerr << "quillon: " << nameOf(*app) << " stopped answering; the sheet is not complete\n";
-    sheet.entries = ShortcutSearch::filter(sheet.entries, command.query, {});
-    print(sheet, command.format);
+    const Records records;
+    sheet.entries =
+        ShortcutSearch::filter(sheet.entries, command.query, records.annotations.notes(sheet.bundleID));
+    if (command.practice)
+        sheet.entries = practiceRound(sheet, *command.practice, records);
+    std::cout << textOf(sheet, command, records) << std::flush;
     return ExitCode::success;
 }
 

@@ -50,7 +50,8 @@ static AtspiAccessible* menu_bar(AtspiAccessible* from, int depth) {
     return found;
 }
 
-static void print_line(int depth, AtspiRole role, AtspiStateSet* states, const char* binding, const char* name) {
+static void
+print_line(int depth, AtspiRole role, AtspiStateSet* states, const char* binding, const char* name) {
     const int usable = states && atspi_state_set_contains(states, ATSPI_STATE_ENABLED)
                        && atspi_state_set_contains(states, ATSPI_STATE_SENSITIVE);
     printf("%d\t%d\t%d\t%s\t%s\n", depth, (int)role, usable, binding ? binding : "", name ? name : "");

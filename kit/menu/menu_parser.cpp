@@ -2,6 +2,7 @@
 
 #include <quillon/base/unicode.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -14,9 +15,15 @@ namespace {
 /// An item's title as it stands in a path: well-formed, no-break spaces made plain, trimmed.
 std::string itemTitle(std::string_view title) {
     static constexpr std::string_view noBreakSpace = "\u00a0";
-    std::string plain = unicode::repaired(title);
-    for (auto at = plain.find(noBreakSpace); at != std::string::npos; at = plain.find(noBreakSpace, at))
-        plain.replace(at, noBreakSpace.size(), " ");
+    const std::string repaired = unicode::repaired(title);
+    std::string plain;
+    std::size_t from = 0;
+    for (auto at = repaired.find(noBreakSpace); at != std::string::npos;
+         at = repaired.find(noBreakSpace, from)) {
+        plain.append(repaired, from, at - from).push_back(' ');
+        from = at + noBreakSpace.size();
+    }
+    plain.append(repaired, from);
     return std::string(unicode::trimmed(plain, unicode::Trim::whitespace));
 }
 

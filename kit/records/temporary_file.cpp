@@ -20,7 +20,7 @@ constexpr std::string_view placeholder = "XXXXXX";
 
 /// Hidden, and telling whose it is: ".usage.json.XXXXXX".
 std::string namePrefix(const fs::path& target) {
-    return "." + target.filename().string() + ".";
+    return std::string(".").append(target.filename().string()).append(".");
 }
 
 } // namespace

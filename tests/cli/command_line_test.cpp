@@ -54,6 +54,29 @@ TEST(CommandLine, ASheetTakesAProcessNumber) {
         EXPECT_NE(errorOf(parse({"sheet", "--pid", wrong})).find("--pid"), std::string::npos) << wrong;
 }
 
+TEST(CommandLine, ASheetIsPrintedAsMarkdown) {
+    SheetCommand expected;
+    expected.format = SheetFormat::markdown;
+    EXPECT_EQ(parse({"sheet", "--format", "markdown"}), Command(expected));
+}
+
+TEST(CommandLine, APracticeRoundTakesACountAndASeed) {
+    SheetCommand expected;
+    expected.practice = PracticeRequest{10, std::nullopt};
+    EXPECT_EQ(parse({"sheet", "--practice", "10"}), Command(expected));
+    expected.practice->seed = 18446744073709551615ULL;
+    EXPECT_EQ(parse({"sheet", "--practice", "10", "--seed", "18446744073709551615"}), Command(expected));
+    for (const char* wrong : {"0", "-1", "ten"})
+        EXPECT_NE(errorOf(parse({"sheet", "--practice", wrong})).find("--practice"), std::string::npos);
+    for (const char* wrong : {"-1", "x", "18446744073709551616"})
+        EXPECT_NE(
+            errorOf(parse({"sheet", "--practice", "1", "--seed", wrong})).find("--seed"), std::string::npos);
+    EXPECT_NE(errorOf(parse({"sheet", "--seed", "1"})).find("--practice"), std::string::npos);
+    EXPECT_NE(
+        errorOf(parse({"sheet", "--practice", "1", "--format", "markdown"})).find("--practice"),
+        std::string::npos);
+}
+
 TEST(CommandLine, RefusesTwoApplications) {
     EXPECT_NE(errorOf(parse({"sheet", "--app", "a", "--front"})).find("exclude"), std::string::npos);
     EXPECT_NE(errorOf(parse({"sheet", "--app", "a", "--pid", "1"})).find("exclude"), std::string::npos);

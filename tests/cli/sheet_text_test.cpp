@@ -43,6 +43,15 @@ TEST(SheetText, EndsNoLineWithBlanks) {
     EXPECT_EQ(tableText({{"a", ""}, {"long", "b"}}), "a\nlong  b\n");
 }
 
+TEST(SheetText, NumbersAPracticeRound) {
+    std::vector<MenuEntry> round(10, entry({"File", "New"}, Modifiers::control, "N"));
+    round[9] = entry({"Edit", "Find", "Find Next"}, Modifiers::control, "G");
+    const std::string text = practiceText(round);
+    EXPECT_EQ(text.substr(0, text.find('\n')), "1.   File › New               ⌃N");
+    EXPECT_NE(text.find("10.  Edit › Find › Find Next  ⌃G\n"), std::string::npos);
+    EXPECT_EQ(practiceText({}), "");
+}
+
 TEST(SheetText, FallsBackToTheIdForAnUnnamedApplication) {
     EXPECT_EQ(sheetText({"sketch", "", {}, distantPast}), "sketch (sketch): 0 shortcuts\n");
 }

@@ -6,7 +6,6 @@ a deadline; nothing sleeps and hopes.
 
 import contextlib
 import faulthandler
-import json
 import os
 import pathlib
 import signal
@@ -16,9 +15,8 @@ import unittest
 
 from accessible import application_of
 
-QUILLON_BIN = pathlib.Path(os.environ.get("QUILLON_BIN", "build/dev/bin")).resolve()
-QUILLON = str(QUILLON_BIN / "quillon")
-SCREENSHOTS = QUILLON_BIN.parent / "desktop-tests"
+PROGRAMS = pathlib.Path(os.environ.get("QUILLON_BIN", "build/dev/bin")).resolve()
+SCREENSHOTS = PROGRAMS.parent / "desktop-tests"
 
 
 def wait_until(what, condition, within=15.0):
@@ -63,6 +61,11 @@ def held(key):
         xdotool("keyup", key)
 
 
+def finger_moves():
+    """The time that no person is faster than between two keys; input at the very same moment spoils no hold."""
+    time.sleep(0.1)
+
+
 def press(*keys):
     xdotool("key", *keys)
 
@@ -82,10 +85,17 @@ def scroll():
 # --- Windows ------------------------------------------------------------------------------------------------
 
 
+def differing_pixels(before, after):
+    """How many pixels differ between two pictures of the screen."""
+    result = subprocess.run(["compare", "-metric", "AE", str(before), str(after), "null:"], text=True,
+                            capture_output=True, stdin=subprocess.DEVNULL, check=False, timeout=30)
+    return int(float(result.stderr.split()[0]))
+
+
 def visible_windows(pid):
     """The X windows of a process that are on the screen, as (id, x, y, width, height)."""
     windows = []
-    for window in xdotool("search", "--onlyvisible", "--pid", pid, "--name", "", check=False).split():
+    for window in xdotool("search", "--onlyvisible", "--pid", pid, check=False).split():
         facts = xdotool("getwindowgeometry", "--shell", window, check=False)
         values = dict(line.split("=", 1) for line in facts.splitlines() if "=" in line)
         if "WIDTH" in values:
@@ -180,23 +190,6 @@ class Program:
                 self.process.wait()
 
 
-class Ran:
-    """What a finished command of the program returned."""
-
-    def __init__(self, *arguments, environment=None, within=30):
-        result = subprocess.run([QUILLON, *map(str, arguments)], env=os.environ | (environment or {}), text=True,
-                                capture_output=True, stdin=subprocess.DEVNULL, check=False, timeout=within)
-        self.status, self.output, self.errors = result.returncode, result.stdout, result.stderr
-
-
-def sheet_of(*arguments):
-    """The sheet that the program prints for `--app NAME` and the like; AssertionError when it prints none."""
-    ran = Ran("sheet", *arguments, "--format", "json")
-    if ran.status != 0:
-        raise AssertionError(f"quillon sheet {arguments}: status {ran.status}, {ran.errors}")
-    return json.loads(ran.output)
-
-
 class DesktopTestCase(unittest.TestCase):
     """Starts programs that end with the test, and keeps a picture of the screen when one fails."""
 
@@ -235,12 +228,6 @@ class DesktopTestCase(unittest.TestCase):
     @staticmethod
     def has_front_window(program):
         return xdotool("getactivewindow", "getwindowpid", check=False) == str(program.pid)
-
-    def start_quillon(self, *arguments, environment=None):
-        """Starts the program and waits until it watches the desktop."""
-        program = self.start(QUILLON, *arguments, environment=environment)
-        wait_until("quillon on the accessibility bus", lambda: application_of(program.pid))
-        return program
 
 
 def main():

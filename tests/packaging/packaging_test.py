@@ -39,6 +39,10 @@ def options_of_help():
     return set(re.findall(r"--[a-z]+", help_text()))
 
 
+def formats_of_help():
+    return set(re.findall(r"\w+", re.search(r"--format FORMAT +(.*)", help_text())[1])) - {"default", "or"}
+
+
 def complete(*words):
     """What bash offers for the last of `words`."""
     line = f'''source "{COMPLETION}"
@@ -95,6 +99,7 @@ class PackagingTest(unittest.TestCase):
 
     def test_completion_knows_values(self):
         self.assertEqual(complete("quillon", "sheet", "--format", "j"), ["json"])
+        self.assertEqual(set(complete("quillon", "sheet", "--format", "")), formats_of_help())
         self.assertEqual(complete("quillon", "sheet", "--app", ""), ["geany", "org.gimp.GIMP"])
         self.assertEqual(complete("quillon", "sheet", "--pid", ""), ["71", "72"])
         self.assertEqual(complete("quillon", "sheet", "--query", ""), [])

@@ -18,6 +18,10 @@ ThreadBackground::ThreadBackground() : m_mainThread(std::make_unique<QObject>())
 }
 
 ThreadBackground::~ThreadBackground() {
+    finish();
+}
+
+void ThreadBackground::finish() {
     m_stop.request_stop();
     m_threads.waitForDone();
 }

@@ -19,6 +19,10 @@ class ThreadBackground final : public Background {
 
     void run(Job job) override;
 
+    /// Asks the jobs to stop and waits for them; later jobs are dropped. For whoever owns what jobs use and
+    /// ends before this object does.
+    void finish();
+
   private:
     std::stop_source m_stop;
     std::unique_ptr<QObject> m_mainThread;

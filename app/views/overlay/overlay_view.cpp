@@ -83,7 +83,10 @@ void OverlayView::connectParts() {
     connect(m_area, &ShortcutArea::libraryRequested, this, [this] {
         m_model.requestWindow(WindowName::library);
     });
-    connect(m_area, &ShortcutArea::rowMenuOpening, this, &OverlayView::keepOpen);
+    connect(m_area, &ShortcutArea::rowMenuOpening, this, [this] {
+        m_area->offerLibrary(m_model.offersWindow(WindowName::library));
+        keepOpen();
+    });
 }
 
 QString OverlayView::triggerGlyph() const {

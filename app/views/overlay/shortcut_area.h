@@ -45,6 +45,8 @@ class ShortcutArea : public QAbstractScrollArea {
     void scrollToTop();
     void scrollByPage(int pages);
 
+    /// Whether the rows' menus lead to the Library. They do at first.
+    void offerLibrary(bool offered) { m_libraryIsOffered = offered; }
     /// Opens the row's menu, below it.
     void openRowMenu(std::size_t row);
     /// Takes an open menu of a row off the screen.
@@ -94,6 +96,7 @@ class ShortcutArea : public QAbstractScrollArea {
     std::optional<std::size_t> m_current;
     std::optional<std::size_t> m_hovered;
     QPointer<QMenu> m_menu;
+    bool m_libraryIsOffered = true;
 };
 
 } // namespace quillon

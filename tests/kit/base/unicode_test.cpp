@@ -65,12 +65,13 @@ TEST(Unicode, FirstScalarIsAbsentOnlyForNoText) {
 }
 
 TEST(Unicode, WhitespaceIsTheProperty) {
-    for (const char32_t scalar :
-         {0x09, 0x0a, 0x0b, 0x0c, 0x0d, 0x20, 0x85, 0xa0, 0x1680, 0x2000, 0x200a, 0x2028, 0x2029, 0x202f,
-          0x205f, 0x3000})
+    const std::u32string blanks = U"\t\n\v\f\r \u0085\u00a0\u1680\u2000\u200a\u2028\u2029\u202f\u205f\u3000";
+    for (const char32_t scalar : blanks)
         EXPECT_TRUE(unicode::isWhitespace(scalar)) << std::hex << static_cast<std::uint32_t>(scalar);
-    for (const char32_t scalar : {0x00, 0x08, 0x0e, 0x1f, 0x21, 0x41, 0x84, 0x200b, 0x2060, 0xfeff, 0xfffd})
+    const std::u32string others = U"\u0008\u000e\u001f!A\u0084\u200b\u2060\ufeff\ufffd";
+    for (const char32_t scalar : others)
         EXPECT_FALSE(unicode::isWhitespace(scalar)) << std::hex << static_cast<std::uint32_t>(scalar);
+    EXPECT_FALSE(unicode::isWhitespace(U'\0'));
     EXPECT_TRUE(unicode::isWhitespace(" \u00a0\n"));
     EXPECT_FALSE(unicode::isWhitespace(" a"));
     EXPECT_FALSE(unicode::isWhitespace(""));

@@ -48,14 +48,15 @@ TEST(GtkKeyBinding, ModifiersMapByTheirPlaceOnTheKeyboard) {
              {"<control>s", "⌃S"},
              {"<Alt>s", "⌥S"},
              {"<Mod1>s", "⌥S"},
-             {"<Meta>s", "⌥S"},
+             {"<Meta>s", "⌘S"},
              {"<Shift>s", "⇧S"},
              {"<Shft>s", "⇧S"},
              {"<Super>s", "⌘S"},
+             {"<Super><Meta>s", "⌘S"},
              {"<Mod4>s", "⌘S"},
              {"<Primary><Shift>s", "⌃⇧S"},
              {"<Shift><Primary><Alt><Super>s", "⌃⌥⇧⌘S"},
-             {"<Alt><Meta>s", "⌥S"},
+             {"<Alt><Meta>s", "⌥⌘S"},
              {"s", "S"},
          })
         EXPECT_EQ(gtk(c.text), c.shown) << c.text;
@@ -190,6 +191,7 @@ TEST(QtKeyBinding, TheFirstSequenceThatCanBeExpressedCounts) {
     EXPECT_EQ(qt("Ctrl+Ins;Ctrl+C"), "⌃C");
     EXPECT_EQ(qt("Ctrl+K, Ctrl+C;F5"), "F5");
     EXPECT_EQ(qt("Media Play;Ctrl+P;F5"), "⌃P");
+    EXPECT_EQ(qt("Ins;Ins;Ins;Ins;Ins;Ins;Ins;Ins;F5"), "") << "only the first eight are looked at";
 }
 
 TEST(QtKeyBinding, ChordsAndKeysThatCannotBeExpressedGiveNoShortcut) {

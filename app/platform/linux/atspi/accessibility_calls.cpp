@@ -79,17 +79,16 @@ void AccessibilityCalls::children(const ObjectRef& object, Then<std::vector<Obje
 }
 
 void AccessibilityCalls::descendants(
-    const ObjectRef& object, const Condition& condition, Then<std::vector<ObjectRef>> then) {
+    const ObjectRef& object, const Condition& condition, std::size_t most,
+    Then<std::vector<ObjectRef>> then) {
     constexpr std::uint32_t canonicalOrder = 1;
     constexpr bool atAnyDepth = true;
-    const std::size_t limit = m_limits.itemsAtMost + 1;
     m_pipeline.ask(
         {object,
          "org.a11y.atspi.Collection",
          "GetMatches",
-         {matchRule(condition), canonicalOrder, static_cast<std::int32_t>(limit), atAnyDepth}},
-        answerWith(
-            std::move(then), [limit](sd_bus_message* message) { return readObjects(message, limit); }));
+         {matchRule(condition), canonicalOrder, static_cast<std::int32_t>(most), atAnyDepth}},
+        answerWith(std::move(then), [most](sd_bus_message* message) { return readObjects(message, most); }));
 }
 
 void AccessibilityCalls::keyBinding(const ObjectRef& object, Then<std::string> then) {

@@ -41,8 +41,10 @@ class AccessibilityCalls {
     /// The children in order, without those that are no objects; at most one more than `itemsAtMost`.
     void children(const ObjectRef& object, Then<std::vector<ObjectRef>> then);
     /// The objects at any depth below an object that fulfil a condition, in no order to be relied on; at most
-    /// one more than `itemsAtMost`. Many applications cannot tell.
-    void descendants(const ObjectRef& object, const Condition& condition, Then<std::vector<ObjectRef>> then);
+    /// `most`. Many applications cannot tell.
+    void descendants(
+        const ObjectRef& object, const Condition& condition, std::size_t most,
+        Then<std::vector<ObjectRef>> then);
     /// The key binding of the object's first action, asked for whatever number of actions it claims.
     void keyBinding(const ObjectRef& object, Then<std::string> then);
     /// `application` is an application's root object.

@@ -1,34 +1,57 @@
 #include "menu_outline.h"
 
-#include <cstdint>
+#include <chrono>
+#include <iterator>
 #include <utility>
 #include <vector>
 
 namespace quillon::atspi {
 namespace {
 
-using Objects = std::optional<std::vector<ObjectRef>>;
+using Objects = std::unordered_set<ObjectRef>;
 
-std::unordered_set<ObjectRef> setOf(std::vector<ObjectRef>&& objects) {
-    return {std::make_move_iterator(objects.begin()), std::make_move_iterator(objects.end())};
+/// What asking an application for the states and the children of one item takes, which the outline saves.
+constexpr std::chrono::microseconds worthOfItem{40};
+/// How many objects are asked for first. The time that applications need to look through a menu grows with
+/// the square of its length: for one of thousands of items it is longer than asking for each, and may be
+/// longer than a request is waited for.
+constexpr std::size_t firstTry = 1024;
+
+std::optional<Objects>
+search(AccessibilityCalls& calls, const ObjectRef& menuBar, const Condition& condition, std::size_t most) {
+    std::optional<Objects> objects;
+    calls.descendants(menuBar, condition, most, [&objects](std::optional<std::vector<ObjectRef>> found) {
+        if (found)
+            objects.emplace(std::make_move_iterator(found->begin()), std::make_move_iterator(found->end()));
+    });
+    calls.pipeline().run();
+    return objects;
+}
+
+/// The first `most` objects below the menu bar; absent also when telling them took longer than it saves.
+std::optional<Objects> searchAll(AccessibilityCalls& calls, const ObjectRef& menuBar, std::size_t most) {
+    const auto start = CallPipeline::Clock::now();
+    auto all = search(calls, menuBar, {}, most);
+    const auto took = CallPipeline::Clock::now() - start;
+    const bool isWorthIt = all && took < worthOfItem * all->size();
+    return isWorthIt ? all : std::nullopt;
 }
 
 } // namespace
 
 std::optional<MenuOutline> MenuOutline::ask(AccessibilityCalls& calls, const ObjectRef& menuBar) {
-    Objects all;
-    Objects menus;
-    Objects usable;
-    const auto into = [](Objects& objects) {
-        return [&objects](Objects found) { objects = std::move(found); };
-    };
-    calls.descendants(menuBar, {}, into(all));
-    calls.descendants(menuBar, {Role::menu, {}}, into(menus));
-    calls.descendants(menuBar, {{}, {State::enabled, State::sensitive}}, into(usable));
-    calls.pipeline().run();
-    if (!all || !menus || !usable || all->size() > calls.limits().itemsAtMost)
+    const std::size_t most = calls.limits().itemsAtMost;
+    auto all = searchAll(calls, menuBar, firstTry);
+    if (all && all->size() == firstTry)
+        all = searchAll(calls, menuBar, most);
+    if (!all || all->size() == most)
         return std::nullopt;
-    return MenuOutline{setOf(*std::move(all)), setOf(*std::move(menus)), setOf(*std::move(usable))};
+    auto menus = search(calls, menuBar, {Role::menu, {}}, most);
+    auto usable =
+        menus ? search(calls, menuBar, {{}, {State::enabled, State::sensitive}}, most) : std::nullopt;
+    if (!usable)
+        return std::nullopt;
+    return MenuOutline{*std::move(all), *std::move(menus), *std::move(usable)};
 }
 
 } // namespace quillon::atspi

@@ -17,7 +17,7 @@ struct MenuOutline {
     std::unordered_set<ObjectRef> usable; ///< those that are enabled and sensitive
 
     /// Asks for the outline of what is below `menuBar` and waits; absent when the application has none to
-    /// give, or more objects than the limits allow.
+    /// give, has more objects than the limits allow, or takes so long that asking item by item is quicker.
     static std::optional<MenuOutline> ask(AccessibilityCalls& calls, const ObjectRef& menuBar);
 };
 

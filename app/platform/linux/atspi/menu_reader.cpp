@@ -45,7 +45,7 @@ class Reading {
     std::vector<BusWindow>
     windowsOfApp(const std::vector<BusApplication>& applications, const RunningApp& app) {
         for (const BusApplication& application : applications)
-            if (application.pid == app.pid)
+            if (application.pid == app.pid && app.pid > 0)
                 m_roots.push_back(application.root);
         std::vector<BusWindow> windows;
         if (!m_roots.empty())
@@ -79,7 +79,7 @@ class Reading {
             MenuWalk walk(m_calls, family, &*outline);
             walk.start(menuBar);
             m_pipeline.run();
-            if (m_pipeline.hasEnded() || walk.isCut() || walk.agreesWithOutline())
+            if (m_pipeline.missedAnswers() || walk.isCut() || walk.agreesWithOutline())
                 return readingOf(walk);
         }
         MenuWalk walk(m_calls, family, nullptr);

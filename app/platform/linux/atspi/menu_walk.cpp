@@ -164,12 +164,13 @@ std::vector<RawMenuItem> MenuWalk::menuBar() const {
 RawMenuItem MenuWalk::item(const Node& node) const {
     RawMenuItem item;
     item.title = *node.name;
+    const bool isTitled = !item.title.empty(); // of the others only their place is known
     const AxKeyEquivalent equivalent = keyEquivalent({node.binding, m_family, item.title});
     item.cmdChar = equivalent.character;
     item.cmdModifiers = equivalent.modifiers;
     item.cmdGlyph = equivalent.glyph;
     item.cmdVirtualKey = equivalent.virtualKey;
-    item.enabled = !node.states || node.states->isUsable();
+    item.enabled = !isTitled || !node.states || node.states->isUsable();
     appendItems(node, item.children);
     return item;
 }

@@ -25,7 +25,8 @@ class MenuWalk {
     /// Asks for the first items; running the calls' pipeline does the rest.
     void start(const ObjectRef& menuBar);
 
-    /// The top-level menus, as far as they were read.
+    /// The top-level menus, as far as they were read. Untitled items (separators) have nothing but children,
+    /// and those that hold others have no key equivalent: neither can be a command.
     std::vector<RawMenuItem> menuBar() const;
     /// Whether every object of the outline was met. When not, some object has children without being a menu.
     /// True without an outline.

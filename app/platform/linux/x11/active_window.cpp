@@ -1,9 +1,9 @@
 #include "active_window.h"
 
+#include "window_manager.h"
 #include "x11_property.h"
 #include "x11_queries.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -11,7 +11,6 @@ namespace quillon {
 namespace {
 
 constexpr std::uint32_t one = 4;
-constexpr std::uint32_t supportedLimit = 4096;
 constexpr int focusAttempts = 4;
 
 } // namespace
@@ -66,27 +65,13 @@ void ActiveWindow::propertyChanged(xcb_atom_t property) {
     }
 }
 
-/// A manager that has ended leaves its promises on the root window: they count only while the window that it
-/// named as its own exists and says so itself.
 void ActiveWindow::findManager() {
-    auto& x11 = *m_x11;
-    const xcb_atom_t check = x11.atom(X11Name::netSupportingWmCheck);
-    auto named = X11Property::ask(x11, x11.root(), check, one);
-    auto supported = X11Property::ask(x11, x11.root(), x11.atom(X11Name::netSupported), supportedLimit);
-    named.receive(x11);
-    supported.receive(x11);
-    const xcb_window_t manager = named.number().value_or(XCB_NONE);
-    auto confirmed = X11Property::ask(x11, manager, check, one);
-    confirmed.receive(x11);
-
-    const auto names = supported.numbers();
-    const bool tells = std::ranges::find(names, x11.atom(X11Name::netActiveWindow)) != names.end();
-    m_manager = tells && manager != XCB_NONE && confirmed.number() == manager ? manager : XCB_NONE;
+    m_manager = windowManagerThatTells(*m_x11);
     if (m_manager == XCB_NONE) {
         m_managerEvents.reset();
         return;
     }
-    m_managerEvents = x11.selectEvents(m_manager, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    m_managerEvents = m_x11->selectEvents(m_manager, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     m_focusEvents.reset();
     m_focus = XCB_NONE;
 }

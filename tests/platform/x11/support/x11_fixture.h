@@ -1,7 +1,7 @@
 #pragma once
 
 #include "test_client.h"
-#include "wait_for.h"
+#include "../../support/wait_for.h"
 #include "x_server.h"
 
 #include <quillon/x11/x11_connection.h>

@@ -30,9 +30,10 @@ std::string lowerCase(std::string_view text) {
     return lower;
 }
 
-/// The modifier behind a name in angle brackets, as gtk_accelerator_parse knows them. GTK matches `<Meta>`
-/// with the real modifier that carries the keysym Meta_L; in the keymaps of xkeyboard-config that is Mod1,
-/// the Alt key, unless the option altwin:meta_win is chosen. Mod4 is where they have Super.
+/// The modifier behind a name in angle brackets, as gtk_accelerator_parse knows them. `<Meta>` is a virtual
+/// modifier: GDK finds no key for it in the usual keymaps of xkeyboard-config, and the Windows keys where the
+/// option altwin:meta_win is chosen, so by its place on the keyboard it is what `<Super>` is. Mod4 is where
+/// those keymaps have Super, Mod1 where they have Alt.
 std::optional<Modifiers> modifierNamed(std::string_view name) {
     static const std::array<std::pair<std::string_view, Modifiers>, 11> table{{
         {"primary", Modifiers::control},
@@ -43,7 +44,7 @@ std::optional<Modifiers> modifierNamed(std::string_view name) {
         {"shft", Modifiers::shift},
         {"alt", Modifiers::option},
         {"mod1", Modifiers::option},
-        {"meta", Modifiers::option},
+        {"meta", Modifiers::command},
         {"super", Modifiers::command},
         {"mod4", Modifiers::command},
     }};

@@ -1,0 +1,34 @@
+"""A desktop whose accessibility bus is switched off, and is switched on through the program."""
+
+import desktop
+from desktop import wait_until
+from quillon import QuillonTestCase, Ran, doctor
+
+READABLE = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}  # for this test to see the program's own windows
+
+
+class AccessibilityOffTest(QuillonTestCase):
+    def test_commands_say_that_it_is_off(self):
+        ran = Ran("sheet")
+        self.assertEqual((ran.status, ran.output), (4, ""), ran)
+        self.assertIn("accessibility is off", ran.errors)
+        checks = doctor()
+        self.assertEqual(checks["Accessibility bus"].split()[0], "ok")
+        self.assertEqual(checks["Accessibility"].split()[0], "missing")
+        self.assertEqual(Ran("doctor").status, 1)
+
+    def test_the_user_can_allow_it_and_goes_on_without_restarting_anything(self):
+        self.start_application("geany", "--new-instance", "--no-session")
+        self.start_quillon(environment=READABLE)
+        self.assertEqual(Ran("show").status, 0)
+        wait_until("the message", lambda: self.overlay.says("Quillon needs Accessibility to read menus"))
+        button = next(found for found in desktop.shown(self.quillon.pid) if found.name() == "Show Me How")
+        desktop.click(*button.centre())
+        wait_until("accessibility to be on", lambda: doctor()["Accessibility"].startswith("ok"))
+        if self.overlay.is_closed():
+            Ran("show")
+        self.wait_for_rows("geany's commands", lambda rows: "Reload, ⌃R" in rows)
+
+
+if __name__ == "__main__":
+    desktop.main()
