@@ -81,5 +81,18 @@ TEST_F(ThemeTest, AFontThatTheDesktopTakesBackIsTheToolkitsAgain) {
     EXPECT_EQ(source.theme().styles.body, before);
 }
 
+TEST_F(ThemeTest, TheToolkitGetsItsFontAndColoursBack) {
+    const QFont font = QApplication::font();
+    const QColor window = QApplication::palette().color(QPalette::Window);
+    {
+        FakeAppearance desktop;
+        desktop.set({ColourScheme::dark, "DejaVu Sans Mono", 31});
+        const ThemeSource source(desktop);
+        EXPECT_NE(QApplication::font(), font);
+    }
+    EXPECT_EQ(QApplication::font(), font);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), window);
+}
+
 } // namespace
 } // namespace quillon
