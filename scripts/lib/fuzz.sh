@@ -1,7 +1,7 @@
 # Short runs of the fuzz targets. Sourced, never run.
 # shellcheck shell=bash disable=SC2154 # root is set by common.sh
 
-# build_fuzzers: builds them into build/fuzz/bin; they need the kit alone unless a target says otherwise.
+# build_fuzzers: builds them into build/fuzz/bin. They need the kit alone.
 build_fuzzers() {
     build fuzz
 }
@@ -44,13 +44,13 @@ finish_fuzzers() {
 
 start_fuzzer() {
     local target=$1 seconds=$2 found=$3
-    local name=${target##*/} corpus seeds
-    corpus=$(mktemp -d)
-    seeds=$root/fuzz/corpus/$name
+    local name=${target##*/} corpus status=0
+    local seeds=$root/fuzz/corpus/$name words=$root/fuzz/${name#fuzz_}.dict
     [[ -d $seeds ]] || seeds=
-    local status=0
-    "$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=0 \
-        -artifact_prefix="$found/$name-" "$corpus" ${seeds:+"$seeds"} >"$found/$name.log" 2>&1 || status=$?
+    [[ -f $words ]] || words=
+    corpus=$(mktemp -d)
+    "$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -artifact_prefix="$found/$name-" \
+        ${words:+"-dict=$words"} "$corpus" ${seeds:+"$seeds"} >"$found/$name.log" 2>&1 || status=$?
     rm -rf "$corpus"
     return $status
 }

@@ -1,6 +1,6 @@
-#include "../support/wait_for.h"
 #include "support/fake_a11y_service.h"
 #include "support/private_bus.h"
+#include <quillon/test_support/wait_for.h>
 
 #include <quillon/xdg/a11y_bus_access.h>
 

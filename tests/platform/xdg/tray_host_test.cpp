@@ -1,5 +1,5 @@
-#include "../support/wait_for.h"
 #include "support/private_bus.h"
+#include <quillon/test_support/wait_for.h>
 
 #include <quillon/xdg/tray_host.h>
 

@@ -1,6 +1,6 @@
-#include "../support/wait_for.h"
 #include "support/fake_portal.h"
 #include "support/private_bus.h"
+#include <quillon/test_support/wait_for.h>
 
 #include <quillon/xdg/xdg_appearance.h>
 

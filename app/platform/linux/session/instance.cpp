@@ -32,8 +32,7 @@ bool askRunningInstance(const QString& operation) {
         return false;
     QDBusMessage request = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, operation);
     request.setAutoStartService(false);
-    const QDBusMessage answer =
-        QDBusConnection::sessionBus().call(request, QDBus::Block, answerMilliseconds);
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(request, QDBus::Block, answerMilliseconds);
     return answer.type() == QDBusMessage::ReplyMessage;
 }
 

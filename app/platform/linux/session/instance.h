@@ -10,12 +10,12 @@ namespace quillon {
 
 /// What another `quillon` of the same session, or a script, may ask of the running one.
 struct InstanceRequests {
-    std::function<void()> activate;   ///< bring up the menu or a window
+    std::function<void()> activate; ///< bring up the menu or a window
     std::function<void()> showOverlay;
     std::function<void()> showSample;
     std::function<void()> quit;
-    std::function<void()> measureStalls;         ///< begin to measure how long the main thread is ever busy
-    std::function<double()> longestStall;        ///< in milliseconds, since measureStalls
+    std::function<void()> measureStalls;  ///< begin to measure how long the main thread is ever busy
+    std::function<double()> longestStall; ///< in milliseconds, since measureStalls
 };
 
 /// Keeps this the only running instance of the session, by its well-known name on the session bus, and passes
@@ -54,8 +54,8 @@ class InstanceService final : public QObject {
     InstanceRequests m_requests;
 };
 
-/// Asks the running instance for one of its operations, by name ("ShowOverlay"), and waits at most two seconds
-/// for it. False when none is running or it did not answer.
+/// Asks the running instance for one of its operations, by name ("ShowOverlay"), and waits at most two
+/// seconds for it. False when none is running or it did not answer.
 bool askRunningInstance(const QString& operation);
 
 /// Whether an instance is running; false without a session bus.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../../support/wait_for.h"
 #include "test_client.h"
 #include "x_server.h"
+#include <quillon/test_support/wait_for.h>
 
 #include <quillon/x11/x11_connection.h>
 
