@@ -2,6 +2,7 @@
 #include "private_bus.h"
 
 #include <quillon/atspi/accessibility_bus.h>
+#include <quillon/atspi/bus_values.h>
 #include <quillon/atspi/menu_reader.h>
 #include <quillon/atspi/running_apps.h>
 #include <quillon/menu/menu_parser.h>
@@ -12,6 +13,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <systemd/sd-bus.h>
 #include <thread>
 
 namespace quillon {
@@ -141,6 +143,21 @@ TEST(BadDay, TheBusThrowsOutWhoSendsBrokenText) {
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
     EXPECT_LT(took, oneSilence);
     expectNextReadsNormally();
+}
+
+TEST(BadDay, BrokenTextThatComesThroughReadsAsAReplacementCharacter) {
+    sd_bus* bus = nullptr;
+    sd_bus_message* message = nullptr;
+    char* space = nullptr;
+    const std::string broken = "New \xff File";
+    ASSERT_GE(sd_bus_open_user(&bus), 0);
+    ASSERT_GE(sd_bus_message_new_signal(bus, &message, "/", "org.example.Text", "Broken"), 0);
+    ASSERT_GE(sd_bus_message_append_string_space(message, broken.size(), &space), 0);
+    broken.copy(space, broken.size());
+    ASSERT_GE(sd_bus_message_seal(message, 1, 0), 0);
+    EXPECT_EQ(atspi::readText(message, 100), "\ufffd");
+    sd_bus_message_unref(message);
+    sd_bus_flush_close_unref(bus);
 }
 
 TEST(BadDay, AnObjectThatNeverAnswersCostsOneSecondAndItself) {
