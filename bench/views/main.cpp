@@ -68,7 +68,7 @@ bool benchShow(const QString& what, const AppSheet& sheet, FrameWatch& watch) {
     desk.trust();
     desk.show(sheet);
     const auto first = timeShow(desk, watch);
-    out() << qSetFieldWidth(52) << Qt::left << QString(u"show "_s + what + u", window made anew")
+    out() << qSetFieldWidth(52) << Qt::left << QString(u"show "_s + what + u", first time")
           << qSetFieldWidth(0) << QString::asprintf("once   %6.2f ms", first.value_or(-1)) << Qt::endl;
     hide(desk);
 

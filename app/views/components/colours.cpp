@@ -36,4 +36,12 @@ double contrast(const QColor& foreground, const QColor& background) {
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
+QString css(const QColor& colour) {
+    return QStringLiteral("rgba(%1, %2, %3, %4)")
+        .arg(colour.red())
+        .arg(colour.green())
+        .arg(colour.blue())
+        .arg(colour.alpha());
+}
+
 } // namespace quillon::Colours

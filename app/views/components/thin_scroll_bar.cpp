@@ -1,19 +1,10 @@
 #include "thin_scroll_bar.h"
 
+#include "colours.h"
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString css(const QColor& colour) {
-    return u"rgba(%1, %2, %3, %4)"_s.arg(colour.red())
-        .arg(colour.green())
-        .arg(colour.blue())
-        .arg(colour.alpha());
-}
-
-} // namespace
 
 void makeThin(QScrollBar& bar, const Theme& theme) {
     const QString sheet =
@@ -23,8 +14,9 @@ void makeThin(QScrollBar& bar, const Theme& theme) {
         "QScrollBar::handle:vertical:hover, QScrollBar::handle:vertical:pressed { background: %3; }"
         "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; border: none; }"
         "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"_s;
-    bar.setStyleSheet(sheet.arg(thinScrollBarWidth)
-                          .arg(css(theme.palette.primaryAt(0.22)), css(theme.palette.primaryAt(0.38))));
+    bar.setStyleSheet(
+        sheet.arg(thinScrollBarWidth)
+            .arg(Colours::css(theme.palette.primaryAt(0.22)), Colours::css(theme.palette.primaryAt(0.38))));
 }
 
 } // namespace quillon

@@ -30,6 +30,9 @@ class OverlayView : public ThemedWidget {
     OverlayView(
         AppModel& model, ThemeSource& themes, AppIconCache& icons, Mode mode, QWidget* parent = nullptr);
 
+    /// Brings a hidden view up to date ahead of being shown.
+    void prepare() { refresh(); }
+
     OverlayState state() const { return m_state; }
     ShortcutArea& area() { return *m_area; }
     SearchBox& search() { return m_header->search(); }

@@ -4,6 +4,7 @@
 #include "area_painter.h"
 #include "overlay_state.h"
 
+#include <quillon/components/styled_menu.h>
 #include <quillon/components/text.h>
 #include <quillon/components/thin_scroll_bar.h>
 
@@ -218,10 +219,10 @@ void ShortcutArea::showRowMenu(std::size_t row, const QPoint& globalPosition) {
     closeRowMenu();
     m_menu = new QMenu(this);
     m_menu->setAttribute(Qt::WA_DeleteOnClose);
+    styleMenu(*m_menu, m_themes.theme());
     m_menu->addAction(
         entry.pinned ? u"Unpin"_s : u"Pin"_s, this, [this, id = entry.id] { Q_EMIT pinToggled(id); });
-    QAction* const library =
-        m_menu->addAction(u"Open in Library"_s, this, &ShortcutArea::libraryRequested);
+    QAction* const library = m_menu->addAction(u"Open in Library"_s, this, &ShortcutArea::libraryRequested);
     library->setEnabled(m_libraryIsOffered);
     m_menu->popup(globalPosition);
 }

@@ -21,6 +21,9 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     FloatingPanelWindow(QWidget* content, double cornerRadius, ThemeSource& themes, PanelWindows& windows);
     ~FloatingPanelWindow() override;
 
+    /// Makes the native window, which the first `orderFront` does otherwise.
+    void prepareWindow();
+
     void setFrame(Rect frame) override;
     void orderFront() override;
     void makeKey() override;
@@ -43,7 +46,6 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
         here
     };
 
-    void prepareWindow();
     void followCompositing();
     void takeKeyboard();
     void resign();

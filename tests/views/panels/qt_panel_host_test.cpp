@@ -55,6 +55,20 @@ TEST_F(QtPanelHostTest, TheModelsOverlayIsShownInOnePanelThatIsKept) {
     EXPECT_TRUE(first->isVisible());
 }
 
+TEST_F(QtPanelHostTest, AnOverlayThatWasPreparedIsTheOneThatIsShown) {
+    desk.trust();
+    desk.showSample();
+    desk.host.prepareOverlay(desk.model);
+    QWidget* prepared = panel();
+    ASSERT_NE(prepared, nullptr);
+    EXPECT_FALSE(prepared->isVisible());
+    EXPECT_EQ(desk.desktop.panels.prepared().size(), 1U);
+    desk.model.showOverlay(Stickiness::held);
+    EXPECT_EQ(panel(), prepared);
+    EXPECT_TRUE(prepared->isVisible());
+    EXPECT_EQ(desk.desktop.panels.prepared().size(), 1U);
+}
+
 TEST_F(QtPanelHostTest, AStickyOverlayIsTypedIntoAndClosedByEscape) {
     desk.trust();
     desk.showSample();

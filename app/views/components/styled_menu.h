@@ -1,0 +1,12 @@
+#pragma once
+
+#include "theme.h"
+
+#include <QMenu>
+
+namespace quillon {
+
+/// Gives a context menu the look of the panels.
+void styleMenu(QMenu& menu, const Theme& theme);
+
+} // namespace quillon
