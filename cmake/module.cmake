@@ -50,7 +50,7 @@ function(quillon_module name)
   set(root ${PROJECT_BINARY_DIR}/include/${name})
   file(MAKE_DIRECTORY ${root}/quillon)
   file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/quillon/${name} SYMBOLIC)
-  target_include_directories(${target} ${scope} ${root})
+  target_include_directories(${target} ${scope} $<BUILD_INTERFACE:${root}>)
 endfunction()
 
 # quillon_program(NAME [QT] SOURCES... LIBRARIES...) makes one program in build/<preset>/bin.

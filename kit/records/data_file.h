@@ -10,9 +10,10 @@
 /// Whole files, read with bounds and replaced as one step.
 namespace quillon::DataFile {
 
-/// No larger file is read or written. 200 applications of 300 commands each make 7 MiB of menus; nine times
-/// as much is no file of this program's, and would only cost the start its time and memory.
-inline constexpr std::size_t largestSize = std::size_t{64} << 20;
+/// No larger file is read or written. 200 applications of 300 commands each make 7 MiB of menus; four times
+/// as much is no file of this program's, and would cost the start its time and, read into values, many times
+/// its size in memory.
+inline constexpr std::size_t largestSize = std::size_t{32} << 20;
 
 /// The bytes of an ordinary file, or of one that a link leads to. Absent when there is none, when it cannot
 /// be read or is too large, and for folders, pipes and devices, which are not waited for.

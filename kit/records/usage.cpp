@@ -79,6 +79,7 @@ std::vector<UsageBook::Ranked> UsageBook::mostClicked(std::string_view app, Coun
     if (static_cast<std::size_t>(limit) < candidates.size())
         candidates.resize(static_cast<std::size_t>(limit));
     std::vector<Ranked> ranked;
+    ranked.reserve(candidates.size());
     for (const Candidate& candidate : candidates)
         ranked.push_back({candidate.record->first, candidate.record->second});
     return ranked;

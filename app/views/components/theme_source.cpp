@@ -7,9 +7,14 @@ namespace quillon {
 
 ThemeSource::ThemeSource(Appearance& appearance)
     : m_appearance(appearance), m_toolkitFont(QApplication::font()),
-      m_theme(Theme::fromLook(appearance.look(), m_toolkitFont)) {
+      m_toolkitPalette(QApplication::palette()), m_theme(Theme::fromLook(appearance.look(), m_toolkitFont)) {
     applyToToolkit();
     m_subscription = appearance.onChanged([this] { follow(); });
+}
+
+ThemeSource::~ThemeSource() {
+    QApplication::setFont(m_toolkitFont);
+    QApplication::setPalette(m_toolkitPalette);
 }
 
 void ThemeSource::follow() {

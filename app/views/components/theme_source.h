@@ -12,6 +12,10 @@ class ThemeSource {
   public:
     /// The interface font of an `appearance` that tells none is the toolkit's. `appearance` outlives this.
     explicit ThemeSource(Appearance& appearance);
+    /// Gives the toolkit its own font and colours back.
+    ~ThemeSource();
+    ThemeSource(const ThemeSource&) = delete;
+    ThemeSource& operator=(const ThemeSource&) = delete;
 
     const Theme& theme() const { return m_theme; }
 
@@ -24,6 +28,7 @@ class ThemeSource {
 
     Appearance& m_appearance;
     QFont m_toolkitFont;
+    QPalette m_toolkitPalette;
     Theme m_theme;
     Subscription m_subscription;
 };

@@ -2,6 +2,8 @@
 
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -53,7 +55,7 @@ void MessageView::setMessage(const OverlayMessage& message) {
 }
 
 void MessageView::fitBody() {
-    m_body->setFixedHeight(m_body->heightForWidth(widestBody));
+    m_body->setFixedHeight(std::max(0, m_body->heightForWidth(widestBody)));
 }
 
 void MessageView::themeChanged() {

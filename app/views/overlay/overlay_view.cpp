@@ -3,6 +3,7 @@
 #include <quillon/components/text.h>
 #include <quillon/components/thin_scroll_bar.h>
 
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -33,16 +34,30 @@ bool isTyping(const QKeyEvent& event) {
 OverlayView::OverlayView(
     AppModel& model, ThemeSource& themeSource, AppIconCache& icons, Mode mode, QWidget* parent)
     : ThemedWidget(themeSource, parent), m_model(model), m_mode(mode),
-      m_header(new OverlayHeader(themeSource, icons, this)), m_main(new QStackedLayout),
-      m_message(new MessageView(themeSource, this)), m_area(new ShortcutArea(themeSource, this)),
-      m_footer(new OverlayFooter(themeSource, this)) {
-    m_main->addWidget(m_message);
-    m_main->addWidget(m_area);
+      m_header(new OverlayHeader(themeSource, icons, this)), m_message(new MessageView(themeSource, this)),
+      m_area(new ShortcutArea(themeSource, this)), m_footer(new OverlayFooter(themeSource, this)) {
+    layOut();
+    connectParts();
+    for (QWidget* child : findChildren<QWidget*>())
+        child->installEventFilter(this);
 
-    // The scroll bar stands in the padding, so that the cards end where the search field does.
-    auto* main = new QVBoxLayout;
+    m_prepareSearch.setSingleShot(true);
+    m_prepareSearch.setInterval(searchPreparationDelay);
+    m_prepareSearch.callOnTimeout(this, [this] { searchIndex(); });
+    m_subscription = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
+}
+
+void OverlayView::layOut() {
+    // The scroll bar stands in the padding, so that the cards end where the search field does. Both pages
+    // always have their place, so that neither is laid out anew when it comes up.
+    auto* main = new QGridLayout;
     main->setContentsMargins(padding, 0, padding - thinScrollBarWidth, 0);
-    main->addLayout(m_main);
+    for (QWidget* page : {static_cast<QWidget*>(m_message), static_cast<QWidget*>(m_area)}) {
+        QSizePolicy policy = page->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        page->setSizePolicy(policy);
+        main->addWidget(page, 0, 0);
+    }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, padding, 0, padding - 4);
     column->setSpacing(0);
@@ -53,7 +68,9 @@ OverlayView::OverlayView(
     column->addLayout(main, 1);
     column->addSpacing(footerGap);
     column->addWidget(m_footer);
+}
 
+void OverlayView::connectParts() {
     setTabOrder(&search(), m_area);
     connect(&search(), &SearchBox::textEdited, this, [this](const QString& text) {
         m_model.setQuery(utf8(text));
@@ -70,13 +87,6 @@ OverlayView::OverlayView(
         m_area->offerLibrary(m_model.offersWindow(WindowName::library));
         keepOpen();
     });
-    for (QWidget* child : findChildren<QWidget*>())
-        child->installEventFilter(this);
-
-    m_prepareSearch.setSingleShot(true);
-    m_prepareSearch.setInterval(searchPreparationDelay);
-    m_prepareSearch.callOnTimeout(this, [this] { searchIndex(); });
-    m_subscription = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
 }
 
 QString OverlayView::triggerGlyph() const {
@@ -170,19 +180,24 @@ void OverlayView::refreshMain() {
     }
     m_message->setMessage(
         OverlayTexts::message(m_state, m_sheet->appName, triggerGlyph(), Vocabulary::here()));
-    m_main->setCurrentWidget(m_message);
+    showInMain(m_message);
+}
+
+void OverlayView::showInMain(QWidget* page) {
+    m_message->setVisible(page == m_message);
+    m_area->setVisible(page == m_area);
 }
 
 void OverlayView::refreshShortcuts() {
     if (m_matches.empty()) {
         m_message->setMessage(OverlayTexts::nothingMatches(text(m_model.query())));
-        m_main->setCurrentWidget(m_message);
+        showInMain(m_message);
         return;
     }
     AreaContent content = AreaContent::of(*m_sheet, m_matches);
     if (&m_area->sheet() != m_sheet.get() || m_area->content() != content)
         m_area->setContent(m_sheet, std::move(content));
-    m_main->setCurrentWidget(m_area);
+    showInMain(m_area);
 }
 
 void OverlayView::refreshFooter() {

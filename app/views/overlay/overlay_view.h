@@ -10,7 +10,6 @@
 #include <quillon/core/app_model.h>
 #include <quillon/menu/shortcut_search.h>
 
-#include <QStackedLayout>
 #include <QTimer>
 
 #include <memory>
@@ -48,6 +47,8 @@ class OverlayView : public ThemedWidget {
     void themeChanged() override;
 
   private:
+    void layOut();
+    void connectParts();
     void modelChanged(ModelField field);
     void refresh();
     void refreshSheet();
@@ -56,6 +57,7 @@ class OverlayView : public ThemedWidget {
     void refreshMain();
     void refreshShortcuts();
     void refreshFooter();
+    void showInMain(QWidget* page);
     const SearchIndex& searchIndex();
     std::vector<std::size_t> matches();
     QString triggerGlyph() const;
@@ -64,7 +66,6 @@ class OverlayView : public ThemedWidget {
     AppModel& m_model;
     Mode m_mode;
     OverlayHeader* m_header;
-    QStackedLayout* m_main;
     MessageView* m_message;
     ShortcutArea* m_area;
     OverlayFooter* m_footer;

@@ -11,6 +11,8 @@ namespace quillon {
 namespace {
 
 constexpr double verticalPadding = 2;
+/// Below a row of several lines, so that its lines are seen to belong together.
+constexpr double severalLinesPadding = 4;
 /// The title keeps at least this part of the first line; else the keys move below it.
 constexpr double titleShare = 0.45;
 /// What is longer ends in an ellipsis and is told in full by the row's tooltip.
@@ -94,7 +96,8 @@ RowArrangement RowArranger::arrange(const PreparedEntry& entry, SubmenuInRow sub
         row.note = placeNote(flow, entry.note, m_measure.note);
 
     row.keys = QRectF(m_width - keysWidth, keysTop, keysWidth, keysHeight);
-    row.height = flow.bottom() + verticalPadding;
+    const double oneLine = m_lineHeight - verticalPadding;
+    row.height = flow.bottom() + verticalPadding + (flow.bottom() > oneLine ? severalLinesPadding : 0);
     return row;
 }
 

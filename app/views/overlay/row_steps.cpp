@@ -22,6 +22,9 @@ std::size_t cheapest(const AreaLayout& layout, std::size_t fallback, Cost cost) 
     return best;
 }
 
+/// How much worse a row is that lies higher or lower, against one that lies further to the side.
+constexpr double aside = 4;
+
 constexpr double never = std::numeric_limits<double>::infinity();
 
 /// Rows that overlap sideways are in one column, whichever card they are in.
@@ -50,7 +53,7 @@ std::size_t horizontally(const AreaLayout& layout, std::size_t from, bool right)
         const double distance = right ? rect.left() - start.right() : start.left() - rect.right();
         if (distance < -0.5)
             return never;
-        return distance * 1000 + std::abs(rect.center().y() - start.center().y());
+        return distance + aside * std::abs(rect.center().y() - start.center().y());
     });
 }
 

@@ -86,7 +86,7 @@ void FloatingPanelWindow::makeKey() {
 }
 
 void FloatingPanelWindow::takeKeyboard() {
-    m_keyboard = Keyboard::asked;
+    m_keyboard = isActiveWindow() ? Keyboard::here : Keyboard::asked;
     m_windows.takeKeyboard(static_cast<std::uintptr_t>(winId()));
 }
 

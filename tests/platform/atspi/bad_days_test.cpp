@@ -20,6 +20,11 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
+// Upper bounds for a machine that is busy with other things too. Waiting for every request by itself would
+// take minutes; one that waited for the whole reading's limit, five seconds.
+constexpr auto oneSilence = 3s; ///< a reading that waits once for something that never comes
+constexpr auto noSilence = 2s;  ///< a reading that has nothing to wait for
+
 struct TimedReading {
     MenuReading reading;
     Clock::duration took;
@@ -48,7 +53,7 @@ void expectNextReadsNormally() {
     const TimedReading read = quillon::read(next);
     EXPECT_EQ(read.reading.outcome, ReadOutcome::complete);
     EXPECT_EQ(count(read.reading.menuBar), 120U);
-    EXPECT_LT(read.took, 1s);
+    EXPECT_LT(read.took, noSilence);
 }
 
 TEST(BadDay, AStoppedApplicationCostsOneSecond) {
@@ -57,7 +62,7 @@ TEST(BadDay, AStoppedApplicationCostsOneSecond) {
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
     EXPECT_FALSE(reading.menuBar.empty());
     EXPECT_GE(took, 1s);
-    EXPECT_LT(took, 1800ms);
+    EXPECT_LT(took, oneSilence);
     expectNextReadsNormally();
 }
 
@@ -67,7 +72,7 @@ TEST(BadDay, AnApplicationThatWasStoppedBeforeCostsOneSecond) {
     const auto [reading, took] = read(process);
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
     EXPECT_TRUE(reading.menuBar.empty());
-    EXPECT_LT(took, 1800ms);
+    EXPECT_LT(took, oneSilence);
     expectNextReadsNormally();
     process.resume();
     EXPECT_EQ(count(read(process).reading.menuBar), 200U);
@@ -84,7 +89,7 @@ TEST(BadDay, AnApplicationThatExitsLeavesWhatWasRead) {
     const auto [reading, took] = read(process);
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
     EXPECT_FALSE(reading.menuBar.empty());
-    EXPECT_LT(took, 1s);
+    EXPECT_LT(took, noSilence);
     expectNextReadsNormally();
 }
 
@@ -95,7 +100,7 @@ TEST(BadDay, ErrorsAreMissingFactsAndNothingElse) {
     const auto [reading, took] = read(later);
     EXPECT_FALSE(reading.menuBar.empty());
     EXPECT_LT(count(reading.menuBar), 200U);
-    EXPECT_LT(took, 1s);
+    EXPECT_LT(took, noSilence);
     expectNextReadsNormally();
 }
 
@@ -105,7 +110,7 @@ TEST(BadDay, AMenuThatHoldsItselfIsReadOnce) {
         const auto [reading, took] = read(process);
         EXPECT_EQ(reading.outcome, ReadOutcome::complete) << toolkit;
         EXPECT_EQ(count(reading.menuBar), 50U) << toolkit;
-        EXPECT_LT(took, 1s);
+        EXPECT_LT(took, noSilence);
     }
     expectNextReadsNormally();
 }
@@ -116,7 +121,7 @@ TEST(BadDay, AHundredThousandItemsAreCut) {
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
     EXPECT_GE(count(reading.menuBar), 4000U);
     EXPECT_LE(count(reading.menuBar), 16000U);
-    EXPECT_LT(took, 5500ms);
+    EXPECT_LT(took, 7s);
     expectNextReadsNormally();
 }
 
@@ -126,7 +131,7 @@ TEST(BadDay, ATitleOfAMegabyteIsCut) {
     EXPECT_EQ(reading.outcome, ReadOutcome::complete);
     ASSERT_EQ(count(reading.menuBar), 50U);
     EXPECT_EQ(reading.menuBar[0].children[0].title.size(), atspi::ReadLimits().titleBytes);
-    EXPECT_LT(took, 1s);
+    EXPECT_LT(took, noSilence);
     expectNextReadsNormally();
 }
 
@@ -134,7 +139,7 @@ TEST(BadDay, TheBusThrowsOutWhoSendsBrokenText) {
     const FakeAppProcess process({"--items", "50", "--invalid-utf8"});
     const auto [reading, took] = read(process);
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
-    EXPECT_LT(took, 1800ms);
+    EXPECT_LT(took, oneSilence);
     expectNextReadsNormally();
 }
 
@@ -145,7 +150,7 @@ TEST(BadDay, AnObjectThatNeverAnswersCostsOneSecondAndItself) {
     const auto [reading, took] = read(process);
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
     EXPECT_EQ(count(reading.menuBar), 399U);
-    EXPECT_LT(took, 1800ms);
+    EXPECT_LT(took, oneSilence);
     expectNextReadsNormally();
 }
 
@@ -157,7 +162,7 @@ TEST(BadDay, ACallThatIsNeverAnsweredLeavesTheRestOfTheItem) {
     EXPECT_EQ(count(reading.menuBar), 400U);
     EXPECT_EQ(reading.menuBar[0].children[0].title, "Item 1");
     EXPECT_EQ(reading.menuBar[0].children[0].shortcut(), std::nullopt);
-    EXPECT_LT(took, 1800ms);
+    EXPECT_LT(took, oneSilence);
 }
 
 TEST(BadDay, ASlowApplicationIsReadInFull) {
@@ -172,7 +177,7 @@ TEST(BadDay, AVerySlowApplicationEndsAtTheWholeLimit) {
     const auto [reading, took] = read(process);
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
     EXPECT_FALSE(reading.menuBar.empty());
-    EXPECT_LT(took, 5300ms);
+    EXPECT_LT(took, 7s);
 }
 
 TEST(BadDay, StoppingAReadingTakesEffectAtOnce) {
@@ -185,7 +190,7 @@ TEST(BadDay, StoppingAReadingTakesEffectAtOnce) {
     });
     const auto [reading, took] = read(process, stop.get_token());
     EXPECT_EQ(reading.outcome, ReadOutcome::partial);
-    EXPECT_LT(took, 400ms);
+    EXPECT_LT(took, 900ms);
 }
 
 TEST(BadDay, WithoutASessionBusNothingIsRead) {
@@ -194,7 +199,7 @@ TEST(BadDay, WithoutASessionBusNothingIsRead) {
     const auto [reading, took] = read(process);
     EXPECT_EQ(reading.outcome, ReadOutcome::unavailable);
     EXPECT_TRUE(reading.menuBar.empty());
-    EXPECT_LT(took, 500ms);
+    EXPECT_LT(took, noSilence);
     EXPECT_EQ(atspi::sharingApps(), std::nullopt);
     const atspi::AccessibilityBusState state = atspi::probeAccessibilityBus();
     EXPECT_FALSE(state.hasSessionBus);
@@ -234,7 +239,7 @@ TEST(BadDay, TheAccessibilityBusMayGoAwayAndComeBack) {
         });
         const auto [reading, took] = read(process);
         EXPECT_EQ(reading.outcome, ReadOutcome::partial);
-        EXPECT_LT(took, 1800ms);
+        EXPECT_LT(took, oneSilence);
     }
     ASSERT_TRUE(accessibilityBusComesBack());
     expectNextReadsNormally();
@@ -266,7 +271,7 @@ TEST(SharingApps, AStoppedOneIsListedWithoutItsName) {
     kill(process.pid(), SIGSTOP);
     const auto start = Clock::now();
     const auto apps = atspi::sharingApps();
-    EXPECT_LT(Clock::now() - start, 1800ms);
+    EXPECT_LT(Clock::now() - start, oneSilence);
     ASSERT_TRUE(apps);
     ASSERT_EQ(apps->size(), 1U);
     EXPECT_EQ(apps->front().pid, process.pid());

@@ -1,9 +1,11 @@
 #include "fake_app_process.h"
 
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <poll.h>
 #include <spawn.h>
@@ -16,12 +18,11 @@ namespace {
 
 constexpr int startLimit = 10000; // milliseconds
 
+/// A name that no other test of this or another process uses.
 std::string temporaryName() {
-    std::string name = "/tmp/quillon-test.XXXXXX";
-    const int file = mkstemp(name.data());
-    if (file >= 0)
-        close(file);
-    return name;
+    static std::atomic<int> number = 0;
+    const std::string name = "quillon-test-" + std::to_string(getpid()) + "-" + std::to_string(number++);
+    return std::filesystem::temp_directory_path() / name;
 }
 
 /// Waits for the line that the application prints when it is on the bus.
@@ -35,8 +36,9 @@ bool saysReady(int output) {
 
 } // namespace
 
-FakeAppProcess::FakeAppProcess(std::vector<std::string> arguments) : m_log(temporaryName()) {
-    arguments.insert(arguments.begin(), QUILLON_FAKE_APP);
+FakeAppProcess::FakeAppProcess(std::vector<std::string> arguments, std::string program)
+    : m_log(temporaryName()) {
+    arguments.insert(arguments.begin(), program);
     arguments.insert(arguments.end(), {"--log", m_log});
     std::vector<char*> raw;
     for (std::string& argument : arguments)
@@ -49,7 +51,7 @@ FakeAppProcess::FakeAppProcess(std::vector<std::string> arguments) : m_log(tempo
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, pipes[1], STDOUT_FILENO);
-    if (posix_spawn(&m_pid, QUILLON_FAKE_APP, &actions, nullptr, raw.data(), environ) != 0)
+    if (posix_spawn(&m_pid, program.c_str(), &actions, nullptr, raw.data(), environ) != 0)
         m_pid = -1;
     posix_spawn_file_actions_destroy(&actions);
     close(pipes[1]);

@@ -11,7 +11,8 @@ namespace quillon {
 /// the constructor returns, killed by the destructor.
 class FakeAppProcess {
   public:
-    explicit FakeAppProcess(std::vector<std::string> arguments);
+    /// `program` is the fake application or a link to it, whose name the process then bears.
+    explicit FakeAppProcess(std::vector<std::string> arguments, std::string program = QUILLON_FAKE_APP);
     ~FakeAppProcess();
     FakeAppProcess(const FakeAppProcess&) = delete;
     FakeAppProcess& operator=(const FakeAppProcess&) = delete;

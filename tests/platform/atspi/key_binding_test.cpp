@@ -191,6 +191,7 @@ TEST(QtKeyBinding, TheFirstSequenceThatCanBeExpressedCounts) {
     EXPECT_EQ(qt("Ctrl+Ins;Ctrl+C"), "⌃C");
     EXPECT_EQ(qt("Ctrl+K, Ctrl+C;F5"), "F5");
     EXPECT_EQ(qt("Media Play;Ctrl+P;F5"), "⌃P");
+    EXPECT_EQ(qt("Ins;Ins;Ins;Ins;Ins;Ins;Ins;Ins;F5"), "") << "only the first eight are looked at";
 }
 
 TEST(QtKeyBinding, ChordsAndKeysThatCannotBeExpressedGiveNoShortcut) {

@@ -9,6 +9,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <filesystem>
 #include <set>
 #include <thread>
 #include <unistd.h>
@@ -197,6 +198,25 @@ TEST(MenuReader, KnowsWhenAProcessIsNotOnTheBus) {
     RunningApp app;
     app.pid = getpid();
     EXPECT_EQ(read(app).outcome, ReadOutcome::noSuchApp);
+}
+
+TEST(MenuReader, KnowsASandboxedApplicationByItsWindows) {
+    // The bus knows the process of the sandbox's proxy only.
+    const auto folder =
+        std::filesystem::temp_directory_path() / ("quillon-proxy-" + std::to_string(getpid()));
+    std::filesystem::create_directory(folder);
+    std::filesystem::create_symlink(QUILLON_FAKE_APP, folder / "xdg-dbus-proxy");
+    const FakeAppProcess other({"--window", "Sketch"});
+    const FakeAppProcess proxied({"--window", "Sketch", "--items", "30"}, folder / "xdg-dbus-proxy");
+    RunningApp app;
+    app.pid = getpid();
+    app.windows = {{0, "Sketch"}};
+    EXPECT_EQ(count(read(app).menuBar), 30U);
+    app.windows = {{0, "Another"}};
+    EXPECT_EQ(read(app).outcome, ReadOutcome::noSuchApp);
+    app.windows = {};
+    EXPECT_EQ(read(app).outcome, ReadOutcome::noSuchApp);
+    std::filesystem::remove_all(folder);
 }
 
 TEST(MenuReader, ReadsSeveralApplicationsAtTheSameTime) {

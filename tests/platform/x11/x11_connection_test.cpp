@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <poll.h>
 
 namespace quillon {
 namespace {
@@ -52,6 +53,27 @@ TEST_F(X11ConnectionTest, SelectionsOfOneWindowDoNotDisturbEachOther) {
     settle();
     client->setNumbers(client->root(), "SOME_PROPERTY", "CARDINAL", {2});
     EXPECT_TRUE(waitFor([&] { return told == 1; }));
+}
+
+struct X11LateConnectionTest : X11Fixture {
+    X11LateConnectionTest() { patience = X11Connection::mainThreadPatience; }
+};
+
+TEST_F(X11LateConnectionTest, CatchesUpWhateverIsAskedBeforeItsAnswersAreRead) {
+    client->grabServer();
+    while (!x11->isLate())
+        x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root()));
+    client->ungrabServer();
+    pollfd socket{xcb_get_file_descriptor(x11->xcb()), POLLIN, 0};
+    ASSERT_EQ(::poll(&socket, 1, 10'000), 1);
+    int caughtUp = 0;
+    const auto listener = x11->onCaughtUp([&] { ++caughtUp; });
+    EXPECT_EQ(x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root())), nullptr);
+    EXPECT_TRUE(waitFor([&] { return caughtUp == 1; }));
+    EXPECT_FALSE(x11->isLate());
+    EXPECT_TRUE(waitFor([&] {
+        return x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root())) != nullptr;
+    }));
 }
 
 TEST(X11ConnectionWithoutServerTest, IsAbsent) {

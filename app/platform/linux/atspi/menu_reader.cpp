@@ -26,12 +26,12 @@ class Reading {
         const auto applications = applicationsOnBus(m_calls);
         if (!applications)
             return {{}, ReadOutcome::unavailable};
-        const std::vector<BusWindow> windows = windowsOfApp(*applications, app);
-        if (m_roots.empty())
+        const auto windows = windowsOfApp(*applications, app);
+        if (!windows)
             return {{}, ended(ReadOutcome::noSuchApp)};
-        for (const BusWindow& window : windows)
+        for (const BusWindow& window : *windows)
             if (const auto menuBar = findMenuBar(m_calls, window.object))
-                return readItems(*menuBar);
+                return readItems(*menuBar, window.toolkit);
         return {{}, ended(ReadOutcome::noMenuBar)};
     }
 
@@ -41,37 +41,36 @@ class Reading {
         return m_pipeline.missedAnswers() ? ReadOutcome::partial : outcome;
     }
 
-    /// The application's windows, best first; leaves its roots in `m_roots`.
-    std::vector<BusWindow>
+    /// The application's windows, best first; absent when it is not on the bus.
+    std::optional<std::vector<BusWindow>>
     windowsOfApp(const std::vector<BusApplication>& applications, const RunningApp& app) {
-        for (const BusApplication& application : applications)
-            if (application.pid == app.pid)
-                m_roots.push_back(application.root);
+        const auto isMeant = [&app](const BusApplication& one) { return app.pid > 0 && one.pid == app.pid; };
+        const auto isProxied = [](const BusApplication& one) { return isSandboxProxy(one.pid); };
         std::vector<BusWindow> windows;
-        if (!m_roots.empty())
-            windows = windowsOf(m_calls, m_roots);
-        else
-            windows = sandboxedWindows(applications, app);
+        if (std::ranges::any_of(applications, isMeant)) {
+            windows = windowsOf(m_calls, rootsOf(applications, isMeant));
+        } else {
+            windows = windowsOf(m_calls, rootsOf(applications, isProxied));
+            std::erase_if(
+                windows, [&app](const BusWindow& window) { return !isWanted(window, app.windows); });
+            if (windows.empty())
+                return std::nullopt;
+        }
         sortBestFirst(windows, app.windows);
         return windows;
     }
 
-    std::vector<BusWindow>
-    sandboxedWindows(const std::vector<BusApplication>& applications, const RunningApp& app) {
-        std::vector<ObjectRef> proxied;
+    template <class Condition>
+    static std::vector<ObjectRef>
+    rootsOf(const std::vector<BusApplication>& applications, Condition condition) {
+        std::vector<ObjectRef> roots;
         for (const BusApplication& application : applications)
-            if (isSandboxProxy(application.pid))
-                proxied.push_back(application.root);
-        std::vector<BusWindow> windows = windowsOf(m_calls, proxied);
-        std::erase_if(windows, [&app](const BusWindow& window) { return !isWanted(window, app.windows); });
-        for (const ObjectRef& root : proxied)
-            if (std::ranges::any_of(windows, [&root](auto& w) { return w.object.busName == root.busName; }))
-                m_roots.push_back(root);
-        return windows;
+            if (condition(application))
+                roots.push_back(application.root);
+        return roots;
     }
 
-    MenuReading readItems(const ObjectRef& menuBar) {
-        const ToolkitFamily family = familyOf(menuBar);
+    MenuReading readItems(const ObjectRef& menuBar, ToolkitFamily family) {
         std::optional<MenuOutline> outline;
         if (family != ToolkitFamily::qt)
             outline = MenuOutline::ask(m_calls, menuBar);
@@ -92,21 +91,8 @@ class Reading {
         return {walk.menuBar(), walk.isCut() ? ReadOutcome::partial : ended(ReadOutcome::complete)};
     }
 
-    ToolkitFamily familyOf(const ObjectRef& menuBar) {
-        const auto root = std::ranges::find(m_roots, menuBar.busName, &ObjectRef::busName);
-        ToolkitFamily family = ToolkitFamily::other;
-        if (root == m_roots.end())
-            return family;
-        m_calls.toolkitName(*root, [&family](std::optional<std::string> name) {
-            family = toolkitFamily(name.value_or(std::string()));
-        });
-        m_pipeline.run();
-        return family;
-    }
-
     CallPipeline& m_pipeline;
     AccessibilityCalls m_calls;
-    std::vector<ObjectRef> m_roots; ///< the application's, one for each of its connections
 };
 
 } // namespace

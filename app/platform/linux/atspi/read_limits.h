@@ -25,7 +25,7 @@ struct ReadLimits {
     /// Bytes of a title or a name; longer ones are cut between characters. Room for a file's whole path.
     std::size_t titleBytes = 4096;
     /// Bytes of a key binding; a longer one is none.
-    std::size_t bindingBytes = 4096;
+    std::size_t bindingBytes = 1024;
 };
 
 } // namespace quillon::atspi

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <deque>
+#include <iterator>
 #include <tuple>
 #include <unordered_set>
+#include <utility>
 
 namespace quillon::atspi {
 namespace {
@@ -76,27 +78,43 @@ std::deque<Found> nextLevel(
     return level;
 }
 
+/// Asks for title and states of an application's windows.
+void askWindows(AccessibilityCalls& calls, std::vector<ObjectRef> objects, std::vector<BusWindow>& windows) {
+    for (ObjectRef& object : objects)
+        windows.push_back({std::move(object), {}, {}, {}});
+    for (BusWindow& window : windows) {
+        calls.name(window.object, [&window](auto name) { window.title = name.value_or(std::string()); });
+        calls.states(window.object, [&window](auto states) { window.states = states.value_or(StateSet{}); });
+    }
+}
+
 } // namespace
 
 std::vector<BusWindow> windowsOf(AccessibilityCalls& calls, std::span<const ObjectRef> applicationRoots) {
-    std::deque<std::vector<BusWindow>> lists;
-    for (const ObjectRef& root : applicationRoots) {
-        std::vector<BusWindow>& list = lists.emplace_back();
-        calls.children(root, [&calls, &list](std::optional<std::vector<ObjectRef>> objects) {
-            for (ObjectRef& object : objects.value_or(std::vector<ObjectRef>()))
-                list.push_back({std::move(object), {}, {}});
-            for (BusWindow& window : list) {
-                calls.name(
-                    window.object, [&window](auto name) { window.title = name.value_or(std::string()); });
-                calls.states(
-                    window.object, [&window](auto states) { window.states = states.value_or(StateSet{}); });
-            }
+    struct Application {
+        ToolkitFamily toolkit = ToolkitFamily::other;
+        std::vector<BusWindow> windows;
+    };
+    std::vector<Application> applications(applicationRoots.size());
+    for (std::size_t i = 0; i < applications.size(); ++i) {
+        Application& application = applications[i];
+        calls.toolkitName(applicationRoots[i], [&application](const std::optional<std::string>& name) {
+            application.toolkit = name ? toolkitFamily(*name) : ToolkitFamily::other;
         });
+        calls.children(
+            applicationRoots[i], [&calls, &application](std::optional<std::vector<ObjectRef>> objects) {
+                if (objects)
+                    askWindows(calls, *std::move(objects), application.windows);
+            });
     }
     calls.pipeline().run();
+
     std::vector<BusWindow> windows;
-    for (auto& list : lists)
-        std::ranges::move(list, std::back_inserter(windows));
+    for (Application& application : applications) {
+        for (BusWindow& window : application.windows)
+            window.toolkit = application.toolkit;
+        std::ranges::move(application.windows, std::back_inserter(windows));
+    }
     return windows;
 }
 

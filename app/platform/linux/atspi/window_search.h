@@ -3,6 +3,7 @@
 #include "accessibility_calls.h"
 #include "object_ref.h"
 
+#include <quillon/key_binding/toolkit.h>
 #include <quillon/ports/running_app.h>
 
 #include <optional>
@@ -17,6 +18,7 @@ struct BusWindow {
     ObjectRef object;
     std::string title;
     StateSet states;
+    ToolkitFamily toolkit = ToolkitFamily::other;
 };
 
 /// The windows of the applications, each application's in its order. Waits; what is not answered is missing.

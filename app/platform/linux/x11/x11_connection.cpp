@@ -114,29 +114,35 @@ std::optional<void*> X11Connection::poll(unsigned sequence) {
 }
 
 void* X11Connection::waitForReply(unsigned sequence) {
+    if (m_late) {
+        // Only the pump reads now: what is read here would not wake it any more.
+        xcb_discard_reply(xcb(), sequence);
+        return nullptr;
+    }
     flush();
     const auto deadline = std::chrono::steady_clock::now() + m_patience;
     std::optional<void*> answer = poll(sequence);
-    while (!answer && !m_late && isAlive()) {
+    while (!answer && isAlive()) {
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         m_late = left.count() <= 0;
+        if (m_late)
+            break;
         pollfd waiting{xcb_get_file_descriptor(xcb()), POLLIN, 0};
-        if (!m_late)
-            ::poll(&waiting, 1, static_cast<int>(left.count()));
+        ::poll(&waiting, 1, static_cast<int>(left.count()));
         answer = poll(sequence);
     }
-    if (!answer && isAlive())
+    if (!answer)
         xcb_discard_reply(xcb(), sequence);
-    queueWhatWasReadBeside(answer.has_value());
+    queueWhatWasReadBeside();
     return answer.value_or(nullptr);
 }
 
-void X11Connection::queueWhatWasReadBeside(bool answered) {
+void X11Connection::queueWhatWasReadBeside() {
     while (auto* event = xcb_poll_for_queued_event(xcb()))
         keep(X11Reply<xcb_generic_event_t>(event));
     // None of this makes the socket readable again.
-    const bool somethingToTell = !m_queue.empty() || (m_late && answered) || !isAlive();
+    const bool somethingToTell = !m_queue.empty() || !isAlive();
     if (somethingToTell && !std::exchange(m_pumpQueued, true))
         QMetaObject::invokeMethod(
             m_notifier.get(), [this] { pump(); }, Qt::QueuedConnection);

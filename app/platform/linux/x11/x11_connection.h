@@ -32,10 +32,10 @@ struct X11Version {
 
 /// The extensions that this program uses; absent where the server lacks one or has it too old.
 struct X11Extensions {
-    std::optional<std::uint8_t> xinputOpcode;     ///< only where raw events reach us under grabs (2.2)
-    std::optional<X11Version> xinputVersion;      ///< whatever the server has
-    std::optional<std::uint8_t> xkbFirstEvent;    ///<
-    std::optional<std::uint8_t> xfixesFirstEvent; ///<
+    std::optional<std::uint8_t> xinputOpcode; ///< only where raw events reach us under grabs (2.2)
+    std::optional<X11Version> xinputVersion;  ///< whatever the server has
+    std::optional<std::uint8_t> xkbFirstEvent;
+    std::optional<std::uint8_t> xfixesFirstEvent;
     bool shape = false;
     bool clientPids = false; ///< XRes 1.2
 };
@@ -76,11 +76,6 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     X11Reply<T> reply(Cookie cookie) {
         return X11Reply<T>(static_cast<T*>(waitForReply(cookie.sequence)));
     }
-    /// The reply to a request if it is there already; absent otherwise. Never waits.
-    template <class T, class Cookie>
-    X11Reply<T> replyNow(Cookie cookie) {
-        return X11Reply<T>(static_cast<T*>(poll(cookie.sequence).value_or(nullptr)));
-    }
     /// Whether the server has let us wait and not answered since.
     bool isLate() const { return m_late; }
     /// Sends the requests that were made; once it answers again when the server is late.
@@ -115,7 +110,7 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     std::optional<void*> poll(unsigned sequence);
     void pump();
     void keep(X11Reply<xcb_generic_event_t> event);
-    void queueWhatWasReadBeside(bool answered);
+    void queueWhatWasReadBeside();
     void loseServer();
     void applySelection(xcb_window_t window);
 

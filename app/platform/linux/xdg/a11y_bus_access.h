@@ -14,7 +14,7 @@ namespace quillon {
 class A11yBusAccess final : public AccessibilityAccess {
   public:
     /// How long an answer holds before `isTrusted` asks for another.
-    static constexpr std::chrono::milliseconds defaultAskInterval{5000};
+    static constexpr std::chrono::milliseconds defaultAskInterval{10'000};
 
     explicit A11yBusAccess(
         QDBusConnection bus = QDBusConnection::sessionBus(),

@@ -13,7 +13,8 @@ namespace quillon {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "quillon-test-XXXXXX").string();
+        const auto pattern = "quillon-test-" + std::string(6, 'X');
+        std::string name = (std::filesystem::temp_directory_path() / pattern).string();
         if (::mkdtemp(name.data()) != nullptr)
             m_path = name;
     }

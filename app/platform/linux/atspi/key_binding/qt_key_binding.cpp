@@ -11,6 +11,9 @@
 namespace quillon::atspi {
 namespace {
 
+/// How many sequences of a list are looked at. Applications give a command two or three.
+constexpr int mostSequences = 8;
+
 /// Whether the binding is the item's mnemonic: nothing but Alt and one character of the title.
 bool isMnemonic(std::string_view text, std::string_view title) {
     constexpr std::string_view alt = "Alt+";
@@ -100,7 +103,7 @@ AxKeyEquivalent sequenceEquivalent(std::string_view text) {
 AxKeyEquivalent qtKeyEquivalent(std::string_view text, std::string_view title) {
     if (isMnemonic(text, title))
         return {};
-    while (!text.empty()) {
+    for (int tried = 0; tried < mostSequences && !text.empty(); ++tried) {
         const AxKeyEquivalent equivalent = sequenceEquivalent(takeSequence(text));
         if (equivalent.modifiers)
             return equivalent;
