@@ -17,7 +17,8 @@ import shlex
 import subprocess
 import sys
 
-CHECKED_FOLDERS = ("kit/", "app/")
+TIDIED_FOLDERS = ("kit/", "app/")
+BUILT_FOLDERS = (*TIDIED_FOLDERS, "tests/")  # by the development preset
 FINDING = re.compile(r"^(?P<where>[^\s:]+:\d+:\d+): (?P<what>(?:warning|error): .*)$", re.MULTILINE)
 
 
@@ -56,7 +57,8 @@ def findings_in(output, project):
 def headers(project):
     """The headers that no source of the same name includes first: those compile alone already."""
     lonely = [name for name in project.names
-              if name.endswith(".h") and name[:-2] + ".cpp" not in project.commands]
+              if name.endswith(".h") and name.startswith(BUILT_FOLDERS)
+              and name[:-2] + ".cpp" not in project.commands]
     return in_parallel(lambda header: compile_alone(project, header), lonely)
 
 
@@ -93,7 +95,7 @@ def module_paths(project, folder):
 
 
 def tidy(project):
-    sources = [name for name in project.names if name in project.commands and name.startswith(CHECKED_FOLDERS)]
+    sources = [name for name in project.names if name in project.commands and name.startswith(TIDIED_FOLDERS)]
     includes = included_files(project)
     return in_parallel(lambda source: tidy_source(project, source, includes.get(source, [])), sources)
 

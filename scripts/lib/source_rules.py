@@ -125,7 +125,7 @@ def unregistered_sources(tree):
 
 
 def unreached_lists(tree):
-    """A CMakeLists.txt that none above adds."""
+    """A CMakeLists.txt that none above adds, or builds as a project of its own."""
     for name in tree.cmake_lists():
         path = pathlib.PurePath(name)
         if path.name != "CMakeLists.txt" or path.parent == pathlib.PurePath("."):
@@ -136,7 +136,8 @@ def unreached_lists(tree):
 
 def adds_folder(tree, folder, added):
     lists = tree.texts.get(str(folder / "CMakeLists.txt"), "")
-    return f"add_subdirectory({added.relative_to(folder)})" in lists
+    name = re.escape(str(added.relative_to(folder)))
+    return re.search(rf"(add_subdirectory\(|\$\{{CMAKE_CURRENT_SOURCE_DIR\}}/){name}(?![\w.-])", lists) is not None
 
 
 def modules_of_folders(tree):

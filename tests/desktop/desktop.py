@@ -11,6 +11,7 @@ import pathlib
 import signal
 import subprocess
 import time
+import types
 import unittest
 
 from accessible import application_of
@@ -90,6 +91,15 @@ def differing_pixels(before, after):
     result = subprocess.run(["compare", "-metric", "AE", str(before), str(after), "null:"], text=True,
                             capture_output=True, stdin=subprocess.DEVNULL, check=False, timeout=30)
     return int(float(result.stderr.split()[0]))
+
+
+def brightness(picture, area):
+    """From 0, black, to 1, white: the mean of the area (x, y, width, height) of a picture."""
+    x, y, width, height = area
+    result = subprocess.run(["convert", str(picture), "-crop", f"{width}x{height}+{x}+{y}", "-colorspace", "Gray",
+                             "-format", "%[fx:mean]", "info:"], text=True, capture_output=True, check=True,
+                            stdin=subprocess.DEVNULL, timeout=30)
+    return float(result.stdout)
 
 
 def visible_windows(pid):
@@ -197,14 +207,14 @@ class DesktopTestCase(unittest.TestCase):
         super().__init__(name)
         test = getattr(self, name)
 
-        def test_with_picture():
+        def test_with_picture(self):
             try:
                 test()
             except Exception:
                 print(f"{self.id()} failed; the screen: {screenshot(self.id())}", flush=True)
                 raise
 
-        setattr(self, name, test_with_picture)
+        setattr(self, name, types.MethodType(test_with_picture, self))
 
     def setUp(self):
         self.addCleanup(self.release_everything)

@@ -42,6 +42,7 @@ class OverlayTest(QuillonTestCase):
             _, _, _, width, height = overlay.windows()[0]
             wait_until("the overlay's picture", lambda: desktop.differing_pixels(
                 before, desktop.screenshot("overlay")) > width * height / 4)
+            self.assertGreater(desktop.brightness(desktop.screenshot("overlay"), overlay.windows()[0][1:]), 0.8)
         self.wait_closed()
         wait_until("geany's picture", lambda: desktop.differing_pixels(
             before, desktop.screenshot("after")) < 2000)  # its text cursor blinks
