@@ -58,6 +58,8 @@ InstanceRequests Program::requests() {
 void Program::start(FirstShow firstShow) {
     m_model.start();
     m_tray.show();
+    // The first hold should not have to wait for what can be made while nobody waits.
+    m_preparation = m_timers.after(Seconds(0), [this] { m_panels.prepareOverlay(m_model); });
     switch (firstShow) {
     case FirstShow::nothing: break;
     case FirstShow::overlay: showOverlayOnceTrusted(); break;

@@ -50,6 +50,7 @@ class Program {
     StallMeter m_stalls;
     std::unique_ptr<Showcase> m_showcase;
     Subscription m_windowRequests;
+    Subscription m_preparation;
     Subscription m_firstShow;
     Subscription m_trustForFirstShow;
 };
