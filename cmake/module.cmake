@@ -6,6 +6,10 @@
 
 function(quillon_compile_settings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # False alarms at -O3 for a literal joined to a temporary string (GCC bug 105651, mended in 13).
+    target_compile_options(${target} PRIVATE -Wno-restrict)
+  endif()
   if(QUILLON_WARNINGS_AS_ERRORS)
     target_compile_options(${target} PRIVATE -Werror)
   endif()

@@ -11,7 +11,7 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <functional>
+#include <ctime>
 #include <optional>
 #include <vector>
 
@@ -30,31 +30,60 @@ QTextStream& out() {
     return stream;
 }
 
-double milliseconds(const QElapsedTimer& timer) {
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+/// What one frame took, in milliseconds.
+struct FrameTime {
+    double wall = 0;
+    double processor =
+        0; ///< of this program, all its threads; what is left on a machine that is busy otherwise
+};
+
+/// Times from its making on.
+class FrameTimer {
+  public:
+    FrameTimer() : m_processor(std::clock()) { m_wall.start(); }
+
+    FrameTime elapsed() const {
+        return {
+            static_cast<double>(m_wall.nsecsElapsed()) / 1e6,
+            static_cast<double>(std::clock() - m_processor) * 1000.0 / CLOCKS_PER_SEC};
+    }
+
+  private:
+    QElapsedTimer m_wall;
+    std::clock_t m_processor;
+};
+
+/// Absent for a frame that never came.
+using MaybeFrame = std::optional<FrameTime>;
+
+double quantile(const std::vector<MaybeFrame>& frames, double FrameTime::*part, std::size_t percent) {
+    std::vector<double> values;
+    for (const MaybeFrame& frame : frames)
+        values.push_back((*frame).*part);
+    std::ranges::sort(values);
+    return values[(values.size() - 1) * percent / 100];
 }
 
 /// One line of the report; false when the median is over the budget or a frame never came.
-bool report(const QString& what, std::vector<std::optional<double>> times) {
-    if (std::ranges::any_of(times, [](const auto& time) { return !time; })) {
-        out() << what << ": no frame" << Qt::endl;
+bool report(const QString& what, const std::vector<MaybeFrame>& frames) {
+    out() << qSetFieldWidth(48) << Qt::left << what << qSetFieldWidth(0);
+    if (std::ranges::any_of(frames, [](const MaybeFrame& frame) { return !frame; })) {
+        out() << "no frame" << Qt::endl;
         return false;
     }
-    std::ranges::sort(times);
-    const double median = *times[times.size() / 2];
-    const double high = *times[times.size() * 95 / 100];
-    out() << qSetFieldWidth(52) << Qt::left << what << qSetFieldWidth(0)
-          << QString::asprintf("median %6.2f ms   95 %% %6.2f ms   budget %.0f ms", median, high, budget)
+    const double median = quantile(frames, &FrameTime::wall, 50);
+    out() << QString::asprintf(
+        "median %6.2f ms   95 %% %6.2f ms   processor %6.2f ms   budget %.0f ms", median,
+        quantile(frames, &FrameTime::wall, 95), quantile(frames, &FrameTime::processor, 50), budget)
           << Qt::endl;
     return median <= budget;
 }
 
 /// From asking the model for the overlay to the frame on the screen.
-std::optional<double> timeShow(ViewDesk& desk, FrameWatch& watch) {
-    QElapsedTimer timer;
-    timer.start();
+MaybeFrame timeShow(ViewDesk& desk, FrameWatch& watch) {
+    const FrameTimer timer;
     desk.model.showOverlay(Stickiness::held);
-    return watch.wait(area) ? std::optional(milliseconds(timer)) : std::nullopt;
+    return watch.wait(area) ? MaybeFrame(timer.elapsed()) : std::nullopt;
 }
 
 void hide(ViewDesk& desk) {
@@ -67,13 +96,14 @@ bool benchShow(const QString& what, const AppSheet& sheet, FrameWatch& watch) {
     ViewDesk desk;
     desk.trust();
     desk.show(sheet);
+    desk.host.prepareOverlay(desk.model);
     const auto first = timeShow(desk, watch);
-    out() << qSetFieldWidth(52) << Qt::left << QString(u"show "_s + what + u", first time")
-          << qSetFieldWidth(0) << QString::asprintf("once   %6.2f ms", first.value_or(-1)) << Qt::endl;
+    // Once and with cold caches; told, but no median to be held against the budget.
+    report(u"show "_s + what + u", first time"_s, {first});
     hide(desk);
 
-    std::vector<std::optional<double>> same;
-    std::vector<std::optional<double>> changed;
+    std::vector<MaybeFrame> same;
+    std::vector<MaybeFrame> changed;
     for (int round = 0; round < rounds; ++round) {
         same.push_back(timeShow(desk, watch));
         hide(desk);
@@ -83,8 +113,8 @@ bool benchShow(const QString& what, const AppSheet& sheet, FrameWatch& watch) {
         changed.push_back(timeShow(desk, watch));
         hide(desk);
     }
-    const bool sameIsFast = report(u"show "_s + what + u", as before"_s, std::move(same));
-    return report(u"show "_s + what + u", another sheet"_s, std::move(changed)) && sameIsFast;
+    const bool sameIsFast = report(u"show "_s + what + u", as before"_s, same);
+    return report(u"show "_s + what + u", another sheet"_s, changed) && sameIsFast;
 }
 
 QLineEdit* searchField() {
@@ -95,12 +125,11 @@ QLineEdit* searchField() {
     return nullptr;
 }
 
-std::optional<double> timeKey(QLineEdit& field, FrameWatch& watch, int key, const QString& typed) {
-    QElapsedTimer timer;
-    timer.start();
+MaybeFrame timeKey(QLineEdit& field, FrameWatch& watch, int key, const QString& typed) {
+    const FrameTimer timer;
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, typed);
     QApplication::sendEvent(&field, &press);
-    return watch.wait(area) ? std::optional(milliseconds(timer)) : std::nullopt;
+    return watch.wait(area) ? MaybeFrame(timer.elapsed()) : std::nullopt;
 }
 
 /// Types and deletes letters over and over: the first finds nearly everything, the others fewer.
@@ -112,9 +141,9 @@ bool benchTyping(std::size_t entries, FrameWatch& watch) {
     QLineEdit* field = searchField();
     if (!field)
         return false;
-    std::vector<std::optional<double>> first;
-    std::vector<std::optional<double>> further;
-    std::vector<std::optional<double>> deleted;
+    std::vector<MaybeFrame> first;
+    std::vector<MaybeFrame> further;
+    std::vector<MaybeFrame> deleted;
     const auto untilPrepared = [] {
         QElapsedTimer timer;
         for (timer.start(); timer.elapsed() < 120;)
@@ -129,9 +158,9 @@ bool benchTyping(std::size_t entries, FrameWatch& watch) {
             deleted.push_back(timeKey(*field, watch, Qt::Key_Backspace, {}));
     }
     const QString of = QString::number(entries);
-    bool fast = report(u"type the first letter over "_s + of, std::move(first));
-    fast = report(u"type further letters over "_s + of, std::move(further)) && fast;
-    fast = report(u"delete letters over "_s + of, std::move(deleted)) && fast;
+    bool fast = report(u"type the first letter over "_s + of, first);
+    fast = report(u"type further letters over "_s + of, further) && fast;
+    fast = report(u"delete letters over "_s + of, deleted) && fast;
     hide(desk);
     return fast;
 }

@@ -38,6 +38,7 @@ std::vector<Column> columnsOf(const std::vector<Group>& groups, int linesPerColu
 
 std::vector<std::size_t> lengthsOf(const std::vector<Column>& columns) {
     std::vector<std::size_t> lengths;
+    lengths.reserve(columns.size());
     for (const Column& column : columns)
         lengths.push_back(column.size());
     return lengths;
@@ -113,6 +114,7 @@ TEST(Paginate, AnOverlongBlockRunsOverTheEndOfAFreshColumn) {
 
 TEST(Paginate, ColumnsMakePages) {
     std::vector<Group> groups;
+    groups.reserve(7);
     for (int i = 0; i < 7; ++i)
         groups.push_back(group(std::to_string(i), 29));
     EXPECT_THAT(paginate(groups, {30, 3}), ElementsAre(SizeIs(3), SizeIs(3), SizeIs(1)));

@@ -26,6 +26,7 @@ MenuEntry entry(const std::string& title, M modifiers = M::command, Key key = Ke
 
 std::vector<std::string> titlesOf(const std::vector<MenuEntry>& entries) {
     std::vector<std::string> titles;
+    titles.reserve(entries.size());
     for (const MenuEntry& one : entries)
         titles.emplace_back(one.title());
     return titles;
@@ -71,6 +72,7 @@ TEST(PracticeDeck, KeepsWhatIsWorthPractising) {
 TEST(PracticeDeck, LeavesOutExactlyWhatBelongsToTheSystem) {
     std::set<std::string> dropped;
     std::vector<Key> keys;
+    keys.reserve(200);
     for (const SpecialKey key : allSpecialKeys)
         keys.push_back(Key::special(key));
     for (char character = '!'; character < 0x7f; ++character)

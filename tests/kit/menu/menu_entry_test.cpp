@@ -95,6 +95,7 @@ TEST(MenuEntry, ElevenShortcutsBelongToTheSystem) {
                                          "⇧⌘3", "⇧⌘4", "⇧⌘5", "⌥⌘⎋",    "⌥⌘D"};
     std::set<std::string> found;
     std::vector<Key> keys;
+    keys.reserve(200);
     for (const SpecialKey key : allSpecialKeys)
         keys.push_back(Key::special(key));
     for (char character = '!'; character < 0x7f; ++character)

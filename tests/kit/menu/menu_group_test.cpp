@@ -19,6 +19,7 @@ MenuEntry entryAt(std::vector<std::string> path) {
 
 std::vector<std::string> idsOf(const MenuGroup& group) {
     std::vector<std::string> ids;
+    ids.reserve(group.entries.size());
     for (const MenuEntry& entry : group.entries)
         ids.push_back(entry.id());
     return ids;

@@ -79,6 +79,7 @@ const std::vector<std::pair<std::string, std::string>> allEntries{
 
 std::vector<std::string> titlesOf(const std::vector<MenuEntry>& entries) {
     std::vector<std::string> titles;
+    titles.reserve(entries.size());
     for (const MenuEntry& entry : entries)
         titles.emplace_back(entry.title());
     return titles;

@@ -65,6 +65,7 @@ TEST(SpecialKey, AFunctionKeyIsCalledByItsNumberEverywhere) {
 
 TEST(SpecialKey, AllOfThemComeInOrder) {
     std::vector<SpecialKey> expected;
+    expected.reserve(specialKeyCount);
     for (const Row& row : rows)
         expected.push_back(row.key);
     expected.insert(expected.end(), functionKeys.begin(), functionKeys.end());
