@@ -15,6 +15,7 @@ namespace {
 std::vector<ListedApp> withMenus(std::vector<ListedApp> apps) {
     AtspiMenuReader reader;
     std::vector<std::future<bool>> answers;
+    answers.reserve(apps.size());
     for (const ListedApp& listed : apps)
         answers.push_back(std::async(std::launch::async, [&reader, &app = listed.app] {
             return !reader.readMenus(app, {}).menuBar.empty();

@@ -27,7 +27,7 @@ class BadDaysTest(QuillonTestCase):
         self.mousepad.stop()
         self.start_quillon()
         with self.overlay_held_open() as overlay:
-            wait_until("the message", lambda: overlay.says("Reading Mousepad’s menus…"))
+            desktop.stays("the overlay is open", overlay.is_open, 0.5)
             desktop.activate("Geany")
             rows = self.wait_for_rows("geany's commands", lambda rows: len(rows) == len(expected))
             self.assertEqual(sorted(rows), expected)

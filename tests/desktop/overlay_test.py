@@ -169,10 +169,13 @@ class OverlayTest(QuillonTestCase):
         self.quillon.end()
         mousepad.stop()
         self.start_quillon()
-        with self.overlay_held_open() as overlay:
+        with self.overlay_held_open() as overlay:  # the reading that began with the program ends here
+            wait_until("the end of a reading", lambda: overlay.says("No menu shortcuts in Mousepad"))
+        self.wait_closed()
+        with self.overlay_held_open() as overlay:  # and another begins here
             wait_until("the message", lambda: overlay.says("Reading Mousepad’s menus…"))
-            window = overlay.windows()
             mousepad.go_on()
+            window = overlay.windows()
             self.wait_for_rows("mousepad's commands", lambda rows: "Save, ⌃S" in rows)
             self.assertEqual(overlay.windows(), window)
         self.wait_closed()

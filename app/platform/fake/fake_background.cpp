@@ -60,7 +60,7 @@ void FakeBackground::runAll() {
     }
 }
 
-void FakeBackground::finish(Job job) {
+void FakeBackground::finish(const Job& job) {
     if (const Continuation next = job(m_stop.get_token()))
         next();
 }

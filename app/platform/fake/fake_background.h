@@ -33,7 +33,7 @@ class FakeBackground final : public Background {
     void requestStop() { m_stop.request_stop(); }
 
   private:
-    void finish(Job job);
+    void finish(const Job& job);
 
     std::stop_source m_stop;
     std::deque<Job> m_jobs;

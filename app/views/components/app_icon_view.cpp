@@ -36,7 +36,8 @@ void AppIconView::showProductMark() {
 
 void AppIconView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QRectF square((width() - m_size) / 2, (height() - m_size) / 2, m_size, m_size);
+    const QRectF square(
+        QRect((width() - m_size) / 2, (height() - m_size) / 2, m_size, m_size)); // whole pixels
     const double ratio = devicePixelRatioF();
     const QPixmap icon =
         m_showsProductMark ? productMark(m_size, ratio) : m_icons.pixmap(m_bundleID, m_size, ratio);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <ranges>
+#include <span>
 #include <utility>
 
 namespace quillon {
@@ -40,7 +41,7 @@ void X11FrontApplication::seedHistory() {
     list.receive(*m_x11);
     const auto windows = list.numbers();
     const auto skipped = windows.size() > seedLimit ? windows.size() - seedLimit : 0;
-    for (const xcb_window_t window : windows | std::views::drop(skipped))
+    for (const xcb_window_t window : std::span(windows).subspan(skipped))
         m_history.activated(window);
 }
 

@@ -101,8 +101,8 @@ void X11Keyboard::selectXkbEvents() {
 
 const KeyboardMap& X11Keyboard::map() const {
     if (m_mapIsStale && !m_x11->isLate()) {
-        if (auto asked = KeyboardMap::ask(*m_x11)) {
-            m_map = *std::move(asked);
+        if (const auto asked = KeyboardMap::ask(*m_x11)) {
+            m_map = *asked;
             m_mapIsStale = false;
         }
     }
