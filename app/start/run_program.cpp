@@ -2,6 +2,9 @@
 #include "program.h"
 
 #include <QApplication>
+#include <QByteArray>
+#include <QDir>
+#include <QLibraryInfo>
 
 #include <xcb/xcb.h>
 
@@ -39,21 +42,30 @@ int failWithoutDisplay() {
     return static_cast<int>(ExitCode::failure);
 }
 
-/// Where an X server can be reached its windows can be placed freely, which Wayland does not allow.
-void preferX11() {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+bool hasWaylandPlugin() {
+    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    return plugins.exists(QStringLiteral("libqwayland-generic.so"));
+}
+
+/// The Qt platform to draw with; "" when there is none that would work. Where an X server can be reached
+/// windows can be placed freely, which Wayland does not allow.
+QByteArray usablePlatform() {
+    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
+    if (!chosen.isEmpty() && !chosen.startsWith("xcb"))
+        return chosen;
+    if (hasXServer())
+        return "xcb";
+    const bool wayland = chosen.isEmpty() && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    return wayland && hasWaylandPlugin() ? "wayland" : "";
 }
 
 } // namespace
 
 int runProgram(int argc, char** argv, FirstShow firstShow) {
-    const bool platformIsChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-    const bool x11 = hasXServer();
-    if (!x11 && !platformIsChosen && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    const QByteArray platform = usablePlatform();
+    if (platform.isEmpty())
         return failWithoutDisplay();
-    if (x11)
-        preferX11();
+    qputenv("QT_QPA_PLATFORM", platform);
 
     QApplication::setApplicationName(QStringLiteral("quillon"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));

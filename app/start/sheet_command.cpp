@@ -63,6 +63,13 @@ std::string nameOf(const RunningApp& app) {
     return app.name.empty() ? app.bundleID : app.name;
 }
 
+std::string whyNoShortcuts(const RunningApp& app, ReadOutcome outcome) {
+    if (outcome == ReadOutcome::partial)
+        return nameOf(app) + " does not answer; try again when it does";
+    return nameOf(app)
+           + " shares no menu shortcuts; if it was started before accessibility was on, restart it";
+}
+
 /// What the user has done and said of the applications so far.
 struct Records {
     UsageBook usage = JSONFile<UsageBook>(dataFolder() / "usage.json").load().value_or(UsageBook{});
@@ -107,10 +114,7 @@ ExitCode runSheet(const SheetCommand& command) {
         app->bundleID, app->name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
         SystemClock().now()};
     if (sheet.entries.empty())
-        return fail(
-            ExitCode::noShortcuts, nameOf(*app)
-                                       + " shares no menu shortcuts; if it was started before accessibility "
-                                         "was on, restart it");
+        return fail(ExitCode::noShortcuts, whyNoShortcuts(*app, reading.outcome));
     if (reading.outcome == ReadOutcome::partial)
         std::cerr << "quillon: " << nameOf(*app) << " stopped answering; the sheet is not complete\n";
     const Records records;

@@ -1,9 +1,9 @@
 # Short runs of the fuzz targets. Sourced, never run.
 # shellcheck shell=bash disable=SC2154 # root is set by common.sh
 
-# build_fuzzers: builds them into build/fuzz/bin. They need the kit alone.
+# build_fuzzers: builds them into build/fuzz/bin.
 build_fuzzers() {
-    build fuzz
+    build fuzz fuzzers
 }
 
 # run_fuzzers SECONDS: runs each target for that long, two at a time as processors allow; fails when one does.

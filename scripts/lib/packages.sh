@@ -9,7 +9,8 @@ packages_of() {
         test) test_packages && desktop_packages ;;
         desktop) desktop_packages ;;
         lint) lint_packages ;;
-        bench) echo libbenchmark-dev ;;
+        bench) echo libbenchmark-dev libatspi2.0-dev && desktop_packages ;;
+        coverage) kit_packages && echo gcovr ;;
         *) return 1 ;;
     esac
 }
@@ -23,7 +24,7 @@ app_packages() {
     echo pkg-config qt6-base-dev qt6-svg-dev \
         libsystemd-dev libglib2.0-dev libxkbcommon-dev libxkbcommon-x11-dev \
         libxcb1-dev libxcb-xinput-dev libxcb-xkb-dev libxcb-shape0-dev libxcb-res0-dev \
-        libxcb-icccm4-dev libxcb-ewmh-dev libxcb-randr0-dev libxcb-xtest0-dev
+        libxcb-icccm4-dev libxcb-ewmh-dev libxcb-randr0-dev libxcb-xfixes0-dev libxcb-xtest0-dev
 }
 
 # clang and its run-time libraries for the fuzzers; the validators of the files in packaging/.

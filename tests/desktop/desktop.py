@@ -16,7 +16,8 @@ import unittest
 
 from accessible import application_of
 
-PROGRAMS = pathlib.Path(os.environ.get("QUILLON_BIN", "build/dev/bin")).resolve()
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+PROGRAMS = pathlib.Path(os.environ.get("QUILLON_BIN", ROOT / "build/dev/bin")).resolve()
 SCREENSHOTS = PROGRAMS.parent / "desktop-tests"
 
 
