@@ -27,11 +27,26 @@ AppModel::AppModel(AppServices services)
 
 AppModel::~AppModel() = default;
 
+/// Tells what `change` changed of the sheet and its reading when all of it is done, so that nobody sees one
+/// without the other.
+template <class Change>
+void AppModel::changeSheet(Change change) {
+    const bool wasReading = reading();
+    const auto before = m_sheetChanges;
+    change();
+    if (m_sheetChanges != before)
+        changed.emit(ModelField::current);
+    if (reading() != wasReading)
+        changed.emit(ModelField::reading);
+}
+
 TriggerKey AppModel::trigger() const {
     return m_services.settings.trigger();
 }
 
 void AppModel::setTrigger(TriggerKey trigger) {
+    if (trigger == this->trigger())
+        return;
     m_services.settings.setTrigger(trigger);
     m_hold.replaceDetector(HoldDetector(modifier(trigger), holdDelay()));
     changed.emit(ModelField::trigger);
@@ -42,9 +57,34 @@ Seconds AppModel::holdDelay() const {
 }
 
 void AppModel::setHoldDelay(Seconds delay) {
+    if (delay == holdDelay())
+        return;
     m_services.settings.setHoldDelay(delay);
     m_hold.replaceDetector(HoldDetector(modifier(trigger()), delay));
     changed.emit(ModelField::holdDelay);
+}
+
+void AppModel::setNudgesOn(bool on) {
+    if (on == nudgesOn())
+        return;
+    m_services.settings.setNudgesOn(on);
+    applyWatchers();
+    changed.emit(ModelField::nudgesOn);
+}
+
+void AppModel::setCountTyped(bool on) {
+    if (on == countTyped())
+        return;
+    m_services.settings.setCountTyped(on);
+    applyWatchers();
+    changed.emit(ModelField::countTyped);
+}
+
+void AppModel::setOnboarded(bool onboarded) {
+    if (onboarded == this->onboarded())
+        return;
+    m_services.settings.setOnboarded(onboarded);
+    changed.emit(ModelField::onboarded);
 }
 
 void AppModel::setQuery(std::string query) {
@@ -55,8 +95,8 @@ void AppModel::setQuery(std::string query) {
 }
 
 bool AppModel::reading() const {
-    return std::ranges::any_of(m_underWay, [this](const RunningApp& app) {
-        return !m_current || app.bundleID == m_current->bundleID;
+    return std::ranges::any_of(m_underWay, [this](const Reading& reading) {
+        return !m_current || reading.app.bundleID == m_current->bundleID;
     });
 }
 
@@ -95,21 +135,33 @@ void AppModel::applyWatchers() {
 void AppModel::frontAppChanged(const RunningApp& app) {
     if (app.pid == m_services.ownPid)
         return;
-    const auto cached = m_sheets.find(app.bundleID);
-    if (cached != m_sheets.end())
-        setCurrent(cached->second);
-    else
-        setCurrent(AppSheet{app.bundleID, app.name, {}, distantPast});
-    read(app);
+    changeSheet([&] {
+        const auto cached = m_sheets.find(app.bundleID);
+        setCurrent(
+            cached != m_sheets.end() ? cached->second : AppSheet{app.bundleID, app.name, {}, distantPast});
+        queueReading(app);
+    });
 }
 
 void AppModel::read(const RunningApp& app) {
-    const bool alreadyUnderWay = std::ranges::find(m_underWay, app) != m_underWay.end();
-    if (!m_trusted || app.pid == m_services.ownPid || alreadyUnderWay)
-        return;
-    m_underWay.push_back(app);
-    changed.emit(ModelField::reading);
+    changeSheet([&] { queueReading(app); });
+}
 
+void AppModel::queueReading(const RunningApp& app) {
+    if (!m_trusted || app.pid == m_services.ownPid)
+        return;
+    const auto underWay = std::ranges::find_if(
+        m_underWay, [&app](const Reading& reading) { return isSameApp(reading.app, app); });
+    if (underWay == m_underWay.end())
+        startReading(app);
+    else if (underWay->app == app)
+        underWay->next.reset();
+    else
+        underWay->next = app;
+}
+
+void AppModel::startReading(const RunningApp& app) {
+    m_underWay.push_back({app, std::nullopt});
     MenuReader& reader = m_services.menuReader;
     const Clock& clock = m_services.clock;
     m_services.background.run(
@@ -126,9 +178,18 @@ void AppModel::read(const RunningApp& app) {
 }
 
 void AppModel::readArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
-    std::erase(m_underWay, app);
-    changed.emit(ModelField::reading);
+    changeSheet([&] {
+        const auto ended =
+            std::ranges::find_if(m_underWay, [&app](const Reading& reading) { return reading.app == app; });
+        const std::optional<RunningApp> next = ended->next;
+        m_underWay.erase(ended);
+        takeArrival(app, std::move(sheet), outcome);
+        if (next)
+            queueReading(*next);
+    });
+}
 
+void AppModel::takeArrival(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
     const auto cached = m_sheets.find(app.bundleID);
     const auto front = m_services.frontApplication.current();
     const SheetArrival arrival = decideSheetArrival({
@@ -136,6 +197,7 @@ void AppModel::readArrived(const RunningApp& app, AppSheet sheet, ReadOutcome ou
         .complete = outcome != ReadOutcome::partial,
         .entries = sheet.entries.size(),
         .cachedEntries = cached == m_sheets.end() ? 0 : cached->second.entries.size(),
+        .isIdentified = !app.bundleID.empty(),
         .anythingCurrent = m_current.has_value(),
         .currentIsThatApp = m_current && m_current->bundleID == app.bundleID,
         .thatAppIsInFront = front && isSameApp(*front, app),
@@ -182,14 +244,14 @@ void AppModel::showSample(AppSheet sheet, UsageRecords usage, Annotations annota
     m_annotations.apps.insert_or_assign(sheet.bundleID, std::move(annotations));
     changed.emit(ModelField::usage);
     changed.emit(ModelField::annotations);
-    setCurrent(std::move(sheet));
+    changeSheet([&] { setCurrent(std::move(sheet)); });
 }
 
-void AppModel::setCurrent(std::optional<AppSheet> sheet) {
-    if (sheet == m_current)
+void AppModel::setCurrent(AppSheet sheet) {
+    if (m_current == sheet)
         return;
     m_current = std::move(sheet);
-    changed.emit(ModelField::current);
+    ++m_sheetChanges;
 }
 
 void AppModel::setSticky(bool sticky) {

@@ -78,6 +78,15 @@ class AppModel {
     void setTrigger(TriggerKey trigger);
     Seconds holdDelay() const;
     void setHoldDelay(Seconds delay);
+    /// Whether clicks on menu commands are answered by nudges.
+    bool nudgesOn() const { return m_services.settings.nudgesOn(); }
+    void setNudgesOn(bool on);
+    /// Whether typed shortcuts are counted.
+    bool countTyped() const { return m_services.settings.countTyped(); }
+    void setCountTyped(bool on);
+    /// Whether the welcome was completed.
+    bool onboarded() const { return m_services.settings.onboarded(); }
+    void setOnboarded(bool onboarded);
 
     /// Whether other applications' menus may be read.
     bool trusted() const { return m_trusted; }
@@ -100,7 +109,8 @@ class AppModel {
     /// One look at the accessibility permission; what follows from a change is done at once.
     void refreshTrust();
     void frontAppChanged(const RunningApp& app);
-    /// Reads the application's menus in the background.
+    /// Reads the application's menus in the background. One reading of an application is under way at a time;
+    /// another that is asked for meanwhile, of other windows, follows it.
     void read(const RunningApp& app);
 
     void showOverlay(Stickiness stickiness);
@@ -126,8 +136,19 @@ class AppModel {
     std::function<bool(WindowName)> canOpenWindow;
 
   private:
+    /// A reading under way, and what is to be read when it has ended.
+    struct Reading {
+        RunningApp app;
+        std::optional<RunningApp> next;
+    };
+
     void applyWatchers();
-    void setCurrent(std::optional<AppSheet> sheet);
+    template <class Change>
+    void changeSheet(Change change);
+    void setCurrent(AppSheet sheet);
+    void queueReading(const RunningApp& app);
+    void startReading(const RunningApp& app);
+    void takeArrival(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
     void setSticky(bool sticky);
     void readArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
 
@@ -137,7 +158,8 @@ class AppModel {
     bool m_trusted = false;
     std::optional<AppSheet> m_current;
     SheetMap m_sheets;
-    std::vector<RunningApp> m_underWay; ///< applications whose menus are being read
+    std::uint64_t m_sheetChanges = 0; ///< how often `m_current` became another one
+    std::vector<Reading> m_underWay;
     UsageBook m_usage;
     AnnotationBook m_annotations;
     std::string m_query;

@@ -12,8 +12,9 @@ SheetArrival decideSheetArrival(const SheetArrivalFacts& facts) {
     if (worseThanCached)
         return {facts.currentIsThatApp ? Current::takeCached : Current::keep, false};
 
-    const bool wanted = facts.thatAppIsInFront || !facts.anythingCurrent || facts.currentIsThatApp;
-    return {wanted ? Current::takeNew : Current::keep, facts.entries > 0};
+    const bool refreshes = facts.currentIsThatApp && facts.isIdentified;
+    const bool wanted = facts.thatAppIsInFront || !facts.anythingCurrent || refreshes;
+    return {wanted ? Current::takeNew : Current::keep, facts.entries > 0 && facts.isIdentified};
 }
 
 } // namespace quillon

@@ -10,6 +10,7 @@ struct SheetArrivalFacts {
     bool complete = true;          ///< it was not cut short
     std::size_t entries = 0;       ///< of the new sheet
     std::size_t cachedEntries = 0; ///< of the sheet kept for that application; 0 when none is
+    bool isIdentified = true;      ///< the application has an identifier to keep its sheet under
     bool anythingCurrent = false;
     bool currentIsThatApp = false; ///< the current sheet is of that application
     bool thatAppIsInFront = false; ///< still, at the end of the reading

@@ -19,6 +19,7 @@ Showcase::Showcase(
                                                                    .panels = m_panels,
                                                                    .settings = settings,
                                                                }) {
+    m_model.canOpenWindow = [](WindowName) { return false; };
     m_model.showSample(SampleMenus::sheet(), SampleMenus::usage(), SampleMenus::annotations());
 }
 

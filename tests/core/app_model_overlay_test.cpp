@@ -121,6 +121,29 @@ TEST_F(AppModelTest, ANewTriggerKeyIsStoredAndWorksAtOnce) {
     EXPECT_TRUE(panels.overlay->visible);
 }
 
+TEST_F(AppModelTest, SettingsAreStoredAndToldOnce) {
+    startWith(sketch);
+    std::vector<ModelField> told;
+    const auto subscription = model.changed.subscribe([&](ModelField field) { told.push_back(field); });
+    for (int twice = 0; twice < 2; ++twice) {
+        model.setTrigger(TriggerKey::control);
+        model.setHoldDelay(Seconds(1.2));
+        model.setNudgesOn(false);
+        model.setCountTyped(false);
+        model.setOnboarded(true);
+    }
+    const std::vector expected{
+        ModelField::trigger, ModelField::holdDelay, ModelField::nudgesOn, ModelField::countTyped,
+        ModelField::onboarded};
+    EXPECT_EQ(told, expected);
+    EXPECT_EQ(settings.trigger(), TriggerKey::control);
+    EXPECT_EQ(settings.holdDelay(), Seconds(1.2));
+    EXPECT_FALSE(settings.nudgesOn());
+    EXPECT_FALSE(settings.countTyped());
+    EXPECT_TRUE(settings.onboarded());
+    EXPECT_EQ(desktop.keyboard.monitors(), 1U);
+}
+
 TEST_F(AppModelTest, PinsAreToggledAndTold) {
     startWith(sketch);
     int told = 0;

@@ -180,6 +180,48 @@ TEST_F(AppModelTest, ReadsAnApplicationOnlyOnceAtATime) {
     EXPECT_EQ(desktop.background.waiting(), 1U);
 }
 
+TEST_F(AppModelTest, ReadsAnotherWindowAfterTheOneUnderWay) {
+    RunningApp otherWindow = sketch;
+    otherWindow.windows = {{99, "another window"}};
+    answer(sketch, 3);
+    desktop.access.setTrusted(true);
+    desktop.front.setCurrent(sketch);
+    model.start();
+    desktop.front.activate(otherWindow);
+    EXPECT_EQ(desktop.background.waiting(), 1U);
+    EXPECT_TRUE(desktop.background.workNext());
+    answer(sketch, 5);
+    EXPECT_TRUE(desktop.background.deliverNext());
+    EXPECT_EQ(entriesShown(), 3U);
+    EXPECT_TRUE(model.reading());
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 5U);
+    EXPECT_EQ(desktop.menus.asked().back(), otherWindow);
+    EXPECT_FALSE(model.reading());
+}
+
+TEST_F(AppModelTest, ShowsTheSheetAndTheEndOfItsReadingTogether) {
+    answer(sketch, 3);
+    desktop.access.setTrusted(true);
+    desktop.front.setCurrent(sketch);
+    int seenEmptyAndNotRead = 0;
+    const auto subscription = model.changed.subscribe([&](ModelField) {
+        seenEmptyAndNotRead += model.current() && entriesShown() == 0 && !model.reading() ? 1 : 0;
+    });
+    model.start();
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 3U);
+    EXPECT_EQ(seenEmptyAndNotRead, 0);
+}
+
+TEST_F(AppModelTest, KeepsNoSheetOfAnApplicationWithoutAnIdentifier) {
+    const RunningApp nameless{30, "", "", {}};
+    desktop.menus.answer(nameless.pid, {menuBarOf(2), ReadOutcome::complete});
+    startWith(nameless);
+    EXPECT_EQ(entriesShown(), 2U);
+    EXPECT_TRUE(model.sheets().empty());
+}
+
 TEST_F(AppModelTest, IsReadingOnlyWhatIsShown) {
     answer(writer, 5);
     desktop.access.setTrusted(true);
@@ -198,8 +240,8 @@ TEST_F(AppModelTest, TellsWhatChanged) {
     const auto subscription = model.changed.subscribe([&](ModelField field) { seen.push_back(field); });
     startWith(sketch);
     const std::vector expected{
-        ModelField::trusted, ModelField::current, ModelField::reading, ModelField::reading,
-        ModelField::current};
+        ModelField::trusted, ModelField::current, ModelField::reading, ModelField::current,
+        ModelField::reading};
     EXPECT_EQ(seen, expected);
 }
 

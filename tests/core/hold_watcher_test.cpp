@@ -81,6 +81,22 @@ TEST_F(HoldWatcherTest, IsNotSpoiledByInputTogetherWithThePress) {
     EXPECT_EQ(m_shown, 1);
 }
 
+TEST_F(HoldWatcherTest, TellsInputWithThePressFromInputAfterItByTwentyMilliseconds) {
+    m_watcher.start();
+    m_keyboard.press(Modifiers::command);
+    m_timers.advance(Seconds(0.018));
+    m_keyboard.input(InputKind::keyDown);
+    m_timers.advance(Seconds(1));
+    EXPECT_EQ(m_shown, 1);
+    m_keyboard.release(Modifiers::command);
+
+    m_keyboard.press(Modifiers::command);
+    m_timers.advance(Seconds(0.022));
+    m_keyboard.input(InputKind::keyDown);
+    m_timers.advance(Seconds(1));
+    EXPECT_EQ(m_shown, 1);
+}
+
 TEST_F(HoldWatcherTest, IsNotSpoiledByInputBeforeThePress) {
     m_watcher.start();
     const auto observation = m_keyboard.observeInput();

@@ -69,6 +69,17 @@ TEST(SheetArrival, CutShortIsBetterThanNothing) {
         (SheetArrival{Current::takeNew, true}));
 }
 
+TEST(SheetArrival, OfAnApplicationWithoutAnIdentifierIsOnlyShownWhileItIsInFront) {
+    EXPECT_EQ(
+        decideSheetArrival(
+            {.entries = 3, .isIdentified = false, .anythingCurrent = true, .thatAppIsInFront = true}),
+        (SheetArrival{Current::takeNew, false}));
+    EXPECT_EQ(
+        decideSheetArrival(
+            {.entries = 3, .isIdentified = false, .anythingCurrent = true, .currentIsThatApp = true}),
+        (SheetArrival{Current::keep, false}));
+}
+
 TEST(SheetArrival, WithoutASheetChangesNothing) {
     EXPECT_EQ(
         decideSheetArrival({.produced = false, .anythingCurrent = true, .thatAppIsInFront = true}),
