@@ -49,9 +49,9 @@ bool FakeBackground::runNext() {
 bool FakeBackground::runLast() {
     if (m_jobs.empty())
         return false;
-    Job last = std::move(m_jobs.back());
+    const Job last = std::move(m_jobs.back());
     m_jobs.pop_back();
-    finish(std::move(last));
+    finish(last);
     return true;
 }
 
