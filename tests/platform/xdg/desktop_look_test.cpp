@@ -1,3 +1,4 @@
+#include "support/lonely_pipe.h"
 #include "support/temporary_folder.h"
 
 #include <quillon/xdg/desktop_look.h>
