@@ -124,5 +124,21 @@ TEST(GtkSettingsTest, AMissingOrBrokenFileTellsNothing) {
     EXPECT_EQ(readGtkSettings(folder.path()), DesktopSettings());
 }
 
+TEST(GtkSettingsTest, AFileThatIsFarTooLongTellsNothing) {
+    const TemporaryFolder folder;
+    const std::string text = "[Settings]\ngtk-theme-name=Arc-Dark\n#";
+    EXPECT_EQ(readGtkSettings(folder.write("long.ini", text)).gtkTheme, "Arc-Dark");
+    EXPECT_EQ(
+        readGtkSettings(folder.write("long.ini", text + std::string(1'000'000, 'x'))), DesktopSettings());
+}
+
+TEST(GtkSettingsTest, APipeIsNotWaitedFor) {
+    const TemporaryFolder folder;
+    const auto file = folder.path() / "settings.ini";
+    const LonelyPipe pipe(file);
+    ASSERT_TRUE(pipe.exists());
+    EXPECT_TRUE(pipe.resultOf([&file] { return readGtkSettings(file); }) == DesktopSettings());
+}
+
 } // namespace
 } // namespace quillon
