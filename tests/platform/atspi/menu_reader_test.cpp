@@ -201,8 +201,8 @@ TEST(MenuReader, ADeepLayerThatIsLeftShutForTheBudgetIsMissing) {
 
 TEST(MenuReader, ItemsThatRefuseTheirNameUseNothingOfTheBudget) {
     const std::vector<json> submenus(3, item("Submenu", leaves(5)));
-    const TemporaryFile file = recording(
-        "Qt", {item("Nameless", std::vector<json>(30, item("Refused"))), item("Menu", submenus)});
+    const TemporaryFile file =
+        recording("Qt", {item("Nameless", std::vector<json>(30, item("Refused"))), item("Menu", submenus)});
     const FakeAppProcess process({"--recording", file.path(), "--refuse-name", "Refused"});
     atspi::ReadLimits limits;
     limits.items = 40;
