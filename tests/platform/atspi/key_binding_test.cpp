@@ -62,6 +62,12 @@ TEST(GtkKeyBinding, ModifiersMapByTheirPlaceOnTheKeyboard) {
         EXPECT_EQ(gtk(c.text), c.shown) << c.text;
 }
 
+TEST(GtkKeyBinding, ModifiersAreRecognisedWhateverTheirCase) {
+    EXPECT_EQ(gtk("<PRIMARY><SHIFT>s"), "⌃⇧S");
+    EXPECT_EQ(gtk("<pRIMARY>s"), "⌃S");
+    EXPECT_EQ(gtk("<Pr\u0130mary>s"), "") << "a letter that only resembles one of ASCII";
+}
+
 TEST(GtkKeyBinding, ModifiersWithoutANameHereGiveNoShortcut) {
     for (const char* text :
          {"<Hyper>s", "<Release>s", "<Mod2>s", "<Mod3>s", "<Mod5>s", "<Primary><Hyper>s", "<>s", "<Bogus>s",

@@ -9,6 +9,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <set>
 #include <thread>
@@ -169,6 +170,67 @@ TEST(MenuReader, OpensNoListOnceTheBudgetIsSpent) {
     EXPECT_EQ(reading.menuBar[0].children[0].children.size(), 1U);
     EXPECT_TRUE(reading.menuBar[3].children[9].children.empty());
     EXPECT_LT(count(reading.menuBar), 4U + 40U + 20U);
+}
+
+std::vector<json> leaves(int number) {
+    return std::vector<json>(static_cast<std::size_t>(number), item("Leaf"));
+}
+
+/// Two branches in depth three: what stands in a layer of its own below the first is deeper than any list
+/// that is opened, what stands below the second uses up the budget before the layer is known to be one.
+json deepLayerBesideLongList(int longList) {
+    json inner =
+        item("Depth 3", {item("In a layer", {popup({item("Hidden")})}), item("Long", leaves(longList))});
+    for (int depth = 2; depth >= 0; --depth)
+        inner = item("Depth " + std::to_string(depth), {inner});
+    return inner;
+}
+
+TEST(MenuReader, ADeepLayerThatIsLeftShutForTheBudgetIsMissing) {
+    for (const int longList : {2, 20}) {
+        const TemporaryFile file = recording("Qt", {deepLayerBesideLongList(longList)});
+        const FakeAppProcess process({"--recording", file.path()});
+        atspi::ReadLimits limits;
+        limits.items = 12;
+        const MenuReading reading = read(appOf(process), limits);
+        const bool isAllRead = longList == 2;
+        EXPECT_EQ(reading.outcome, isAllRead ? ReadOutcome::complete : ReadOutcome::partial) << longList;
+        EXPECT_EQ(count(reading.menuBar), 6U + static_cast<std::size_t>(longList) + (isAllRead ? 1 : 0));
+    }
+}
+
+TEST(MenuReader, ItemsThatRefuseTheirNameUseNothingOfTheBudget) {
+    const std::vector<json> submenus(3, item("Submenu", leaves(5)));
+    const TemporaryFile file =
+        recording("Qt", {item("Nameless", std::vector<json>(30, item("Refused"))), item("Menu", submenus)});
+    const FakeAppProcess process({"--recording", file.path(), "--refuse-name", "Refused"});
+    atspi::ReadLimits limits;
+    limits.items = 40;
+    const MenuReading reading = read(appOf(process), limits);
+    EXPECT_EQ(reading.outcome, ReadOutcome::complete);
+    EXPECT_EQ(count(reading.menuBar), 2U + 3 + 3 * 5);
+}
+
+TEST(MenuReader, MenusDeeperThanTheLimitDoNotMakeItReadTwice) {
+    // So long that the application's outline is worth asking for.
+    const TemporaryFile file = recording("gtk", {nested(8, "gtk"), item("Long", leaves(500))});
+    const FakeAppProcess process({"--recording", file.path()});
+    const MenuReading reading = read(appOf(process));
+    EXPECT_EQ(reading.outcome, ReadOutcome::complete);
+    EXPECT_EQ(count(reading.menuBar), 6U + 1 + 500);
+    const auto calls = process.calls();
+    EXPECT_EQ(std::ranges::count(calls, "GetKeyBinding"), 1 + 500) << "one for each item without children";
+}
+
+TEST(MenuReader, ASubmenuWithTheRoleOfAnItemIsReadBesideMenusDeeperThanTheLimit) {
+    const std::vector<json> menus{
+        item("Menu", {item("Stale", leaves(3))}), nested(8, "gtk"), item("Long", leaves(500))};
+    const TemporaryFile file = recording("gtk", menus);
+    const FakeAppProcess process({"--recording", file.path(), "--stale-role"});
+    const MenuReading reading = read(appOf(process));
+    ASSERT_EQ(reading.menuBar.size(), 3U);
+    ASSERT_EQ(reading.menuBar[0].children.size(), 1U);
+    EXPECT_EQ(reading.menuBar[0].children[0].children.size(), 3U);
 }
 
 TEST(MenuReader, TakesTheWindowThatIsNamedFirst) {

@@ -226,6 +226,14 @@ TEST_F(X11FrontApplicationTest, OldTitlesAreRead) {
     EXPECT_EQ(told.back().windows.at(0).title, "thé");
 }
 
+TEST_F(X11FrontApplicationTest, AnOldTitleInAnEncodingOfItsOwnIsNone) {
+    startWithManager();
+    const xcb_window_t window = client->makeWindow({.instance = "xedit", .className = "Xedit"});
+    client->setText(window, "WM_NAME", "COMPOUND_TEXT", "\x1b$(B4A;z\x1b(B");
+    activate(window);
+    EXPECT_EQ(told.back().windows.at(0).title, "");
+}
+
 TEST_F(X11FrontApplicationTest, PropertiesOfTheWrongKindDoNoHarm) {
     startWithManager();
     const xcb_window_t window = client->makeWindow({});

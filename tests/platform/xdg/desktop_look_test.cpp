@@ -1,3 +1,4 @@
+#include "support/lonely_pipe.h"
 #include "support/temporary_folder.h"
 
 #include <quillon/xdg/desktop_look.h>
@@ -121,6 +122,22 @@ TEST(GtkSettingsTest, AMissingOrBrokenFileTellsNothing) {
     EXPECT_EQ(readGtkSettings(folder.write("a.ini", "gtk-theme-name=Arc-Dark\n")), DesktopSettings());
     EXPECT_EQ(readGtkSettings(folder.write("b.ini", "\xff\xfe[[[")), DesktopSettings());
     EXPECT_EQ(readGtkSettings(folder.path()), DesktopSettings());
+}
+
+TEST(GtkSettingsTest, AFileThatIsFarTooLongTellsNothing) {
+    const TemporaryFolder folder;
+    const std::string text = "[Settings]\ngtk-theme-name=Arc-Dark\n#";
+    EXPECT_EQ(readGtkSettings(folder.write("long.ini", text)).gtkTheme, "Arc-Dark");
+    EXPECT_EQ(
+        readGtkSettings(folder.write("long.ini", text + std::string(1'000'000, 'x'))), DesktopSettings());
+}
+
+TEST(GtkSettingsTest, APipeIsNotWaitedFor) {
+    const TemporaryFolder folder;
+    const auto file = folder.path() / "settings.ini";
+    const LonelyPipe pipe(file);
+    ASSERT_TRUE(pipe.exists());
+    EXPECT_TRUE(pipe.resultOf([&file] { return readGtkSettings(file); }) == DesktopSettings());
 }
 
 } // namespace

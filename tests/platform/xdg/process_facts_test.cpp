@@ -1,3 +1,4 @@
+#include "support/lonely_pipe.h"
 #include "support/temporary_folder.h"
 
 #include <quillon/xdg/process_facts.h>
@@ -8,6 +9,8 @@
 
 namespace quillon {
 namespace {
+
+using namespace std::string_view_literals;
 
 TEST(FlatpakInfoTest, TheNameIsThatOfTheApplicationGroup) {
     EXPECT_EQ(
@@ -25,6 +28,11 @@ TEST(SnapLabelTest, NamesTheSnapAndItsCommand) {
     EXPECT_EQ(snapEntryIDFrom("/usr/bin/evince (enforce)"), "");
     EXPECT_EQ(snapEntryIDFrom("snap.one"), "");
     EXPECT_EQ(snapEntryIDFrom(""), "");
+}
+
+TEST(SnapLabelTest, MayEndInANul) {
+    EXPECT_EQ(snapEntryIDFrom("snap.gimp.gimp\0"sv), "gimp_gimp");
+    EXPECT_EQ(snapEntryIDFrom("snap.gimp.gimp\n\0"sv), "gimp_gimp");
 }
 
 TEST(ControlGroupTest, NamesTheApplicationOfADesktopUnit) {
@@ -94,10 +102,20 @@ TEST_F(ReadProcessTest, AProgramThatMayNotBeLookedAtGoesByItsShortName) {
     EXPECT_EQ(read(12).executable, "secretive");
 }
 
-TEST_F(ReadProcessTest, AFileThatIsFarTooLongIsCut) {
-    folder.write("12/comm", "x");
-    folder.write("12/cgroup", std::string(1'000'000, 'x') + "/app-a-7.scope");
+TEST_F(ReadProcessTest, AFileThatIsFarTooLongTellsNothing) {
+    folder.write("12/cgroup", "0::/app-a-7.scope\n");
+    EXPECT_EQ(read(12).controlGroupID, "a");
+    folder.write("12/cgroup", "0::/app-a-7.scope\n" + std::string(1'000'000, 'x'));
     EXPECT_EQ(read(12).controlGroupID, "");
+}
+
+TEST_F(ReadProcessTest, APipeIsNotWaitedFor) {
+    std::int64_t pid = 12;
+    for (const char* file : {"root/.flatpak-info", "attr/current", "cgroup", "comm"}) {
+        const LonelyPipe pipe(folder.path() / std::to_string(++pid) / file);
+        ASSERT_TRUE(pipe.exists());
+        EXPECT_TRUE(pipe.resultOf([this, pid] { return read(pid); }) == ProcessFacts()) << file;
+    }
 }
 
 TEST(ReadThisProcessTest, ItsProgramIsThisTest) {

@@ -8,7 +8,7 @@
 namespace quillon::atspi {
 namespace {
 
-using Objects = std::unordered_set<ObjectRef>;
+using Objects = std::vector<ObjectRef>;
 
 /// What asking an application for the states and the children of one item takes, which the outline saves.
 constexpr std::chrono::microseconds worthOfItem{40};
@@ -21,8 +21,7 @@ std::optional<Objects>
 search(AccessibilityCalls& calls, const ObjectRef& menuBar, const Condition& condition, std::size_t most) {
     std::optional<Objects> objects;
     calls.descendants(menuBar, condition, most, [&objects](std::optional<std::vector<ObjectRef>> found) {
-        if (found)
-            objects.emplace(std::make_move_iterator(found->begin()), std::make_move_iterator(found->end()));
+        objects = std::move(found);
     });
     calls.pipeline().run();
     return objects;
@@ -35,6 +34,18 @@ std::optional<Objects> searchAll(AccessibilityCalls& calls, const ObjectRef& men
     const auto took = CallPipeline::Clock::now() - start;
     const bool isWorthIt = all && took < worthOfItem * all->size();
     return isWorthIt ? all : std::nullopt;
+}
+
+std::unordered_set<ObjectRef> setOf(Objects objects) {
+    return {std::make_move_iterator(objects.begin()), std::make_move_iterator(objects.end())};
+}
+
+std::unordered_map<ObjectRef, std::size_t> placesOf(Objects objects) {
+    std::unordered_map<ObjectRef, std::size_t> places;
+    places.reserve(objects.size());
+    for (ObjectRef& object : objects)
+        places.emplace(std::move(object), places.size());
+    return places;
 }
 
 } // namespace
@@ -51,7 +62,7 @@ std::optional<MenuOutline> MenuOutline::ask(AccessibilityCalls& calls, const Obj
         menus ? search(calls, menuBar, {{}, {State::enabled, State::sensitive}}, most) : std::nullopt;
     if (!usable)
         return std::nullopt;
-    return MenuOutline{*std::move(all), *std::move(menus), *std::move(usable)};
+    return MenuOutline{placesOf(*std::move(all)), setOf(*std::move(menus)), setOf(*std::move(usable))};
 }
 
 } // namespace quillon::atspi

@@ -3,7 +3,9 @@
 #include "accessibility_calls.h"
 #include "object_ref.h"
 
+#include <cstddef>
 #include <optional>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace quillon::atspi {
@@ -12,7 +14,9 @@ namespace quillon::atspi {
 /// (`org.a11y.atspi.Collection`): three requests that replace two for every item. GTK 2 and 3 answer them,
 /// looking through the menus alone; Qt does not know them.
 struct MenuOutline {
-    std::unordered_set<ObjectRef> all;    ///< every object, at any depth
+    /// Every object, at any depth, with its place in the order in which they are told: each before what is
+    /// below it, and that before its next sibling. Places count from 0.
+    std::unordered_map<ObjectRef, std::size_t> all;
     std::unordered_set<ObjectRef> menus;  ///< those with the role of a menu: only they have children
     std::unordered_set<ObjectRef> usable; ///< those that are enabled and sensitive
 

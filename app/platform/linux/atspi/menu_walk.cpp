@@ -2,6 +2,7 @@
 
 #include <quillon/key_binding/key_binding.h>
 
+#include <cstdint>
 #include <utility>
 
 namespace quillon::atspi {
@@ -78,8 +79,10 @@ void MenuWalk::learnFromOutline(Node& node) {
 
 void MenuWalk::askName(Node& node) {
     m_calls.name(node.object, [this, &node](std::optional<std::string> name) {
-        if (!name)
+        if (!name) {
+            --m_itemCount; // it will not be shown
             return;
+        }
         node.name = std::move(name);
         if (!node.states && !node.name->empty())
             m_calls.states(node.object, [&node](auto states) { node.states = states; });
@@ -89,7 +92,7 @@ void MenuWalk::askName(Node& node) {
 
 /// Whether the item's children may be read: it is not too deep, and the budget has something left.
 bool MenuWalk::mayOpen(const Node& node) {
-    if (node.depth > m_limits.depth)
+    if (isTooDeep(node))
         return false;
     const bool hasBudget = m_itemCount < m_limits.items;
     m_isCut = m_isCut || !hasBudget;
@@ -116,8 +119,7 @@ void MenuWalk::askBinding(Node& node) {
 void MenuWalk::settle(Node& node) {
     if (!node.name || !node.unopened)
         return;
-    const bool isTooDeep = node.depth > m_limits.depth;
-    if (node.name->empty() && node.depth > 0 && (isTooDeep || !node.unopened->empty())) {
+    if (node.name->empty() && node.depth > 0 && (isTooDeep(node) || !node.unopened->empty())) {
         m_calls.role(node.object, [this, &node](auto role) { settleUnnamed(node, role); });
         return;
     }
@@ -137,21 +139,42 @@ void MenuWalk::settleUnnamed(Node& node, std::optional<Role> role) {
     auto children = std::exchange(node.unopened, std::nullopt);
     if (children && !children->empty()) {
         addChildren(node, *children);
-    } else if (isLayer && m_itemCount < m_limits.items) {
-        m_calls.children(node.object, [this, &node](auto objects) {
-            if (objects)
-                addChildren(node, *objects);
-        });
+    } else if (isLayer) {
+        openDeepLayer(node);
     }
+}
+
+/// Reads a layer that counted as too deep before it was known to be one.
+void MenuWalk::openDeepLayer(Node& node) {
+    if (m_itemCount >= m_limits.items) {
+        m_isCut = true;
+        return;
+    }
+    m_calls.children(node.object, [this, &node](auto objects) {
+        if (objects)
+            addChildren(node, *objects);
+    });
 }
 
 bool MenuWalk::agreesWithOutline() const {
     if (!m_outline)
         return true;
-    std::unordered_set<ObjectRef> unmet = m_outline->all;
+    enum class Mark : std::uint8_t { unmet, met, tooDeepMenu };
+    std::vector<Mark> marks(m_outline->all.size(), Mark::unmet);
     for (const Node& node : m_nodes)
-        unmet.erase(node.object);
-    return unmet.empty();
+        if (const auto place = m_outline->all.find(node.object); place != m_outline->all.end())
+            marks[place->second] =
+                isTooDeep(node) && m_outline->menus.contains(node.object) ? Mark::tooDeepMenu : Mark::met;
+    // What was met had all of its children met too, unless it stayed shut. So unmet objects are below the
+    // last one that was met before them.
+    bool mayBeUnmet = false;
+    for (const Mark mark : marks) {
+        if (mark == Mark::unmet && !mayBeUnmet)
+            return false;
+        if (mark != Mark::unmet)
+            mayBeUnmet = mark == Mark::tooDeepMenu;
+    }
+    return true;
 }
 
 std::vector<RawMenuItem> MenuWalk::menuBar() const {

@@ -28,8 +28,8 @@ class MenuWalk {
     /// The top-level menus, as far as they were read. Untitled items (separators) have nothing but children,
     /// and those that hold others have no key equivalent: neither can be a command.
     std::vector<RawMenuItem> menuBar() const;
-    /// Whether every object of the outline was met. When not, some object has children without being a menu.
-    /// True without an outline.
+    /// Whether every object of the outline was met, but for those below menus that are too deep to be read.
+    /// When not, some object has children without being a menu. True without an outline.
     bool agreesWithOutline() const;
     /// Whether the limits left anything out.
     bool isCut() const { return m_isCut; }
@@ -54,11 +54,13 @@ class MenuWalk {
     void learn(Node& node);
     void learnFromOutline(Node& node);
     void askName(Node& node);
+    bool isTooDeep(const Node& node) const { return node.depth > m_limits.depth; }
     bool mayOpen(const Node& node);
     void askChildren(Node& node);
     void askBinding(Node& node);
     void settle(Node& node);
     void settleUnnamed(Node& node, std::optional<Role> role);
+    void openDeepLayer(Node& node);
     RawMenuItem item(const Node& node) const;
     void appendItems(const Node& node, std::vector<RawMenuItem>& items) const;
 

@@ -3,7 +3,6 @@
 #include <xcb/xinput.h>
 
 #include <algorithm>
-
 #include <utility>
 #include <vector>
 

@@ -49,9 +49,10 @@ class Question {
         const std::string modern = m_title.text();
         if (!modern.empty())
             return unicode::repaired(modern);
-        const std::string old = m_oldTitle.text();
-        return m_oldTitle.type() == x11.atom(X11Name::utf8String) ? unicode::repaired(old)
-                                                                  : latin1ToUtf8(old);
+        if (m_oldTitle.type() == x11.atom(X11Name::utf8String))
+            return unicode::repaired(m_oldTitle.text());
+        // Other types, such as COMPOUND_TEXT, change their encoding as they go.
+        return m_oldTitle.type() == XCB_ATOM_STRING ? latin1ToUtf8(m_oldTitle.text()) : std::string();
     }
 
     WindowFacts facts() const {

@@ -13,7 +13,7 @@ namespace quillon {
 /// What a window tells of itself.
 struct SurveyedWindow {
     xcb_window_t id = XCB_NONE;
-    std::string title;                    ///< UTF-8; cut after 1,024 bytes
+    std::string title;                    ///< UTF-8; cut after 1,024 bytes; "" also when in another encoding
     xcb_window_t transientFor = XCB_NONE; ///< the window that it belongs to
     WindowFacts facts;
 };

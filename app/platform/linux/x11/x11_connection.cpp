@@ -4,10 +4,10 @@
 
 #include <QSocketNotifier>
 
-#include <xcb/xcbext.h>
-
 #include <chrono>
+
 #include <poll.h>
+#include <xcb/xcbext.h>
 
 namespace quillon {
 

@@ -1,8 +1,11 @@
 #include "gtk_settings.h"
 
+#include "short_file.h"
+
 #include <glib.h>
 
 #include <memory>
+#include <string>
 
 namespace quillon {
 
@@ -33,7 +36,8 @@ std::optional<bool> flag(GKeyFile* file, const char* key) {
 DesktopSettings readGtkSettings(const std::filesystem::path& path) {
     const std::unique_ptr<GKeyFile, Unref> file(g_key_file_new());
     DesktopSettings settings;
-    if (g_key_file_load_from_file(file.get(), path.c_str(), G_KEY_FILE_NONE, nullptr) == FALSE)
+    const std::string bytes = readShortFile(path).value_or(std::string());
+    if (g_key_file_load_from_data(file.get(), bytes.data(), bytes.size(), G_KEY_FILE_NONE, nullptr) == FALSE)
         return settings;
     settings.gtkTheme = text(file.get(), "gtk-theme-name");
     settings.preferDarkTheme = flag(file.get(), "gtk-application-prefer-dark-theme");

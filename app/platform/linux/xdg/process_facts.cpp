@@ -1,31 +1,26 @@
 #include "process_facts.h"
 
+#include "short_file.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <filesystem>
-#include <fstream>
-#include <optional>
 #include <system_error>
 #include <vector>
 
 namespace quillon {
 
+using namespace std::string_view_literals;
+
 namespace {
 
-/// These files are short; one that is not is not what it seems.
-constexpr std::size_t fileLimit = 65536;
-
 std::string readFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string text(fileLimit, '\0');
-    file.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(std::max<std::streamsize>(0, file.gcount())));
-    return text;
+    return readShortFile(path).value_or(std::string());
 }
 
 std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r\n\0";
+    constexpr std::string_view blanks = " \t\r\n\0"sv; // a label may end in a NUL
     const auto begin = text.find_first_not_of(blanks);
     if (begin == std::string_view::npos)
         return {};

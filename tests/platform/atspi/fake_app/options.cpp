@@ -28,6 +28,7 @@ const std::map<std::string_view, Setter> valued{
     {"--errors-after", [](Options& o, const char* v) { o.errorsAfter = number(v); }},
     {"--mute-path", [](Options& o, const char* v) { o.mutePath = v; }},
     {"--mute-member", [](Options& o, const char* v) { o.muteMember = v; }},
+    {"--refuse-name", [](Options& o, const char* v) { o.refusedName = v; }},
     {"--delay", [](Options& o, const char* v) { o.delay = static_cast<int>(number(v)); }},
     {"--title-bytes", [](Options& o, const char* v) { o.titleBytes = number(v); }},
 };

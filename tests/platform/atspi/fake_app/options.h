@@ -26,6 +26,7 @@ struct Options {
     std::optional<std::size_t> errorsAfter; ///< answers with errors from then on
     std::string mutePath;                   ///< calls to this object are never answered
     std::string muteMember;                 ///< and of those, only this one when it is not empty
+    std::string refusedName;                ///< objects of this name answer with an error when asked for it
     int delay = 0;                          ///< milliseconds before each answer
     bool hasCycle = false;                  ///< the first menu holds itself and the menu bar
     bool hasStaleRole = false;              ///< a submenu claims to be a plain item

@@ -179,6 +179,8 @@ int Service::answerProperty(sd_bus_message* call, const Object& object) {
     if (sd_bus_message_read(call, "ss", &interface, &propertyText) < 0)
         return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_INVALID_ARGS, "two texts, please");
     const std::string property = propertyText;
+    if (property == "Name" && !object.name.empty() && object.name == m_options.refusedName)
+        return sd_bus_reply_method_errorf(call, errorName, "as was asked for");
     if (property == "Name")
         return replyTextProperty(call, object.name);
     if (property == "ToolkitName")

@@ -1,10 +1,9 @@
+#include "ascii_case.h"
 #include "key_equivalents.h"
 
 #include <xkbcommon/xkbcommon.h>
 
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <optional>
 #include <string>
 #include <utility>
@@ -22,12 +21,6 @@ std::string_view acceleratorPart(std::string_view text) {
         text.remove_prefix(separator + 1);
     }
     return text.substr(0, text.find(';'));
-}
-
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return std::tolower(c); });
-    return lower;
 }
 
 /// The modifier behind a name in angle brackets, as gtk_accelerator_parse knows them. `<Meta>` is a virtual
@@ -48,7 +41,7 @@ std::optional<Modifiers> modifierNamed(std::string_view name) {
         {"super", Modifiers::command},
         {"mod4", Modifiers::command},
     }};
-    const std::string lower = lowerCase(name);
+    const std::string lower = asciiLowerCase(name);
     for (const auto& [known, modifier] : table)
         if (known == lower)
             return modifier;

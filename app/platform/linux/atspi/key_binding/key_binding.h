@@ -23,9 +23,8 @@ struct KeyBinding {
 /// their private-use code points; only Eject, which has none, is told by its menu glyph number. The virtual
 /// key is never used. The mask is always present with a key.
 ///
-/// - GTK writes `mnemonic;full path;accelerator`; only the third part counts. So do Gecko and Java, so this
-/// is
-///   the form expected of unknown toolkits too.
+/// - GTK writes `mnemonic;full path;accelerator`; only the third part counts. So do Gecko and Java, so
+///   unknown toolkits are expected to as well.
 /// - Qt writes portable key sequences joined by ";". The first one that can be expressed counts. An item
 ///   without a shortcut tells its mnemonic instead, in the case it has in the title ("Alt+n"), so a binding
 ///   that is nothing but Alt and one character of the title is none.

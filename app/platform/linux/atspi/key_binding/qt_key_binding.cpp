@@ -5,8 +5,10 @@
 #include <QKeySequence>
 #include <QString>
 
+#include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace quillon::atspi {
 namespace {

@@ -1,14 +1,11 @@
 #include "toolkit.h"
 
-#include <algorithm>
-#include <cctype>
-#include <string>
+#include "ascii_case.h"
 
 namespace quillon::atspi {
 
 ToolkitFamily toolkitFamily(std::string_view toolkitName) {
-    std::string lower(toolkitName);
-    std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return std::tolower(c); });
+    const std::string lower = asciiLowerCase(toolkitName);
     if (lower == "gtk" || lower == "gail")
         return ToolkitFamily::gtk;
     if (lower == "qt")
