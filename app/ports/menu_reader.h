@@ -12,7 +12,8 @@ namespace quillon {
 /// How a reading of menus ended.
 enum class ReadOutcome {
     complete,    ///< everything that the application shares within the limits
-    partial,     ///< the application stopped answering, died, or had more than the limits allow
+    limited,     ///< as much as the limits allow of an application that shares more
+    partial,     ///< the application stopped answering or died
     noMenuBar,   ///< the application answered and has no menu bar that it shares
     noSuchApp,   ///< the application is not on the accessibility bus
     unavailable, ///< the accessibility bus could not be reached

@@ -117,6 +117,8 @@ ExitCode runSheet(const SheetCommand& command) {
         return fail(ExitCode::noShortcuts, whyNoShortcuts(*app, reading.outcome));
     if (reading.outcome == ReadOutcome::partial)
         std::cerr << "quillon: " << nameOf(*app) << " stopped answering; the sheet is not complete\n";
+    if (reading.outcome == ReadOutcome::limited)
+        std::cerr << "quillon: " << nameOf(*app) << " has more menu items than are read\n";
     const Records records;
     sheet.entries =
         ShortcutSearch::filter(sheet.entries, command.query, records.annotations.notes(sheet.bundleID));

@@ -152,6 +152,15 @@ TEST_F(AppModelTest, KeepsAGoodSheetWhenTheApplicationStopsAnswering) {
     EXPECT_EQ(entriesShown(), 3U);
 }
 
+TEST_F(AppModelTest, TakesAShorterSheetOfAnApplicationThatSharesMoreThanIsRead) {
+    answer(sketch, 3, ReadOutcome::limited);
+    startWith(sketch);
+    answer(sketch, 2, ReadOutcome::limited);
+    desktop.front.activate(sketch);
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 2U);
+}
+
 TEST_F(AppModelTest, NeverKeepsAnEmptySheet) {
     answer(sketch, 0);
     startWith(sketch);

@@ -163,7 +163,7 @@ TEST(MenuReader, OpensNoListOnceTheBudgetIsSpent) {
     atspi::ReadLimits limits;
     limits.items = 20;
     const MenuReading reading = read(appOf(process), limits);
-    EXPECT_EQ(reading.outcome, ReadOutcome::partial);
+    EXPECT_EQ(reading.outcome, ReadOutcome::limited);
     ASSERT_EQ(reading.menuBar.size(), 4U);
     for (const RawMenuItem& menu : reading.menuBar)
         EXPECT_EQ(menu.children.size(), 10U); // these lists were open already
@@ -194,7 +194,7 @@ TEST(MenuReader, ADeepLayerThatIsLeftShutForTheBudgetIsMissing) {
         limits.items = 12;
         const MenuReading reading = read(appOf(process), limits);
         const bool isAllRead = longList == 2;
-        EXPECT_EQ(reading.outcome, isAllRead ? ReadOutcome::complete : ReadOutcome::partial) << longList;
+        EXPECT_EQ(reading.outcome, isAllRead ? ReadOutcome::complete : ReadOutcome::limited) << longList;
         EXPECT_EQ(count(reading.menuBar), 6U + static_cast<std::size_t>(longList) + (isAllRead ? 1 : 0));
     }
 }

@@ -88,7 +88,7 @@ class Reading {
     }
 
     MenuReading readingOf(const MenuWalk& walk) const {
-        return {walk.menuBar(), walk.isCut() ? ReadOutcome::partial : ended(ReadOutcome::complete)};
+        return {walk.menuBar(), ended(walk.isCut() ? ReadOutcome::limited : ReadOutcome::complete)};
     }
 
     CallPipeline& m_pipeline;
