@@ -7,12 +7,18 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <chrono>
+#include <utility>
+
 namespace quillon {
 
 namespace {
 
 constexpr auto panelFlags = Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint
                             | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint;
+
+/// Long enough for a window manager to give the keyboard to the window that was pressed on.
+constexpr std::chrono::milliseconds returnDelay{100};
 
 } // namespace
 
@@ -27,6 +33,9 @@ FloatingPanelWindow::FloatingPanelWindow(
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
     m_compositing = windows.onCompositedChanged([this] { followCompositing(); });
+    m_return.setSingleShot(true);
+    m_return.setInterval(returnDelay);
+    m_return.callOnTimeout(this, [this] { returnKeyboard(); });
     m_theme = themes.changed.subscribe([this] { update(); });
     followCompositing();
 }
@@ -71,6 +80,8 @@ void FloatingPanelWindow::prepareWindow() {
 
 void FloatingPanelWindow::orderFront() {
     prepareWindow();
+    if (m_return.isActive())
+        returnKeyboard();
     show();
     raise();
 }
@@ -87,16 +98,24 @@ void FloatingPanelWindow::makeKey() {
 
 void FloatingPanelWindow::takeKeyboard() {
     m_keyboard = isActiveWindow() ? Keyboard::here : Keyboard::asked;
+    m_owesKeyboard = true;
     m_windows.takeKeyboard(static_cast<std::uintptr_t>(winId()));
 }
 
 void FloatingPanelWindow::orderOut() {
-    const bool tookKeyboard = m_keyboard == Keyboard::asked || m_keyboard == Keyboard::here;
-    m_keyboard = Keyboard::elsewhere;
+    const bool hasResigned = std::exchange(m_keyboard, Keyboard::elsewhere) == Keyboard::elsewhere;
     m_presses.reset();
-    if (tookKeyboard)
-        m_windows.returnKeyboard(static_cast<std::uintptr_t>(winId()));
+    if (m_owesKeyboard && hasResigned)
+        m_return.start();
+    else
+        returnKeyboard();
     hide();
+}
+
+void FloatingPanelWindow::returnKeyboard() {
+    m_return.stop();
+    if (std::exchange(m_owesKeyboard, false))
+        m_windows.returnKeyboard(static_cast<std::uintptr_t>(winId()));
 }
 
 void FloatingPanelWindow::resign() {
