@@ -118,6 +118,14 @@ void FloatingPanelWindow::returnKeyboard() {
         m_windows.returnKeyboard(static_cast<std::uintptr_t>(winId()));
 }
 
+/// While a menu of ours is open, what to make of it shows when the menu closes.
+void FloatingPanelWindow::loseKeyboard() {
+    if (QWidget* menu = QApplication::activePopupWidget())
+        menu->installEventFilter(this);
+    else if (m_keyboard == Keyboard::here && !isActiveWindow())
+        resign();
+}
+
 void FloatingPanelWindow::resign() {
     const bool ownMenuIsOpen = QApplication::activePopupWidget() != nullptr;
     if (m_keyboard == Keyboard::elsewhere || ownMenuIsOpen)
@@ -132,6 +140,8 @@ bool FloatingPanelWindow::eventFilter(QObject* watched, QEvent* event) {
     const bool isOnScreen = event->type() == QEvent::Expose && windowHandle() && windowHandle()->isExposed();
     if (isOnScreen && m_keyboard == Keyboard::wanted)
         takeKeyboard();
+    if (event->type() == QEvent::Hide && watched != windowHandle())
+        QTimer::singleShot(0, this, [this] { loseKeyboard(); });
     return QWidget::eventFilter(watched, event);
 }
 
@@ -140,7 +150,7 @@ bool FloatingPanelWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && m_keyboard == Keyboard::asked)
         m_keyboard = Keyboard::here;
     else if (event->type() == QEvent::WindowDeactivate && m_keyboard == Keyboard::here)
-        resign();
+        loseKeyboard();
     return result;
 }
 

@@ -50,6 +50,7 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     void followCompositing();
     void takeKeyboard();
     void returnKeyboard();
+    void loseKeyboard();
     void resign();
     int shadowReach() const;
 

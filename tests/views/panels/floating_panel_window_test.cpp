@@ -196,6 +196,20 @@ TEST_F(FloatingPanelWindowTest, ItsOwnMenuIsNotElsewhere) {
     EXPECT_EQ(resigns, 1);
 }
 
+TEST_F(FloatingPanelWindowTest, KeyboardLostUnderItsOwnMenuIsToldWhenTheMenuCloses) {
+    QWidget other;
+    other.show();
+    showWithKeyboard();
+    QMenu menu(&panel);
+    menu.addAction(QStringLiteral("Pin"));
+    menu.popup(QPoint(150, 150));
+    QApplication::setActiveWindow(&other);
+    EXPECT_EQ(resigns, 0);
+    menu.close();
+    QApplication::processEvents();
+    EXPECT_EQ(resigns, 1);
+}
+
 TEST_F(FloatingPanelWindowTest, CanBeShownWithTheKeyboardAgain) {
     showWithKeyboard();
     panel.orderOut();
