@@ -4,6 +4,8 @@ import desktop
 from desktop import wait_until
 from quillon import QuillonTestCase
 
+SHADOW_REACH = 36  # pixels of the panel's window around the panel itself
+
 
 class DarkTest(QuillonTestCase):
     def setUp(self):
@@ -22,8 +24,10 @@ class DarkTest(QuillonTestCase):
         before = desktop.screenshot("dark-before")
         with self.overlay_held_open() as overlay:
             self.wait_for_rows("geany's commands", bool)
-            _, x, y, _, _ = overlay.windows()[0]
-            corner = (x, y, 3, 3)
+            _, x, y, width, height = overlay.windows()[0]
+            wait_until("the overlay's picture", lambda: desktop.differing_pixels(
+                before, desktop.screenshot("dark-corner")) > width * height / 4)
+            corner = (x + SHADOW_REACH, y + SHADOW_REACH, 3, 3)
             self.assertAlmostEqual(desktop.brightness(desktop.screenshot("dark-corner"), corner),
                                    desktop.brightness(before, corner), delta=0.05)
 

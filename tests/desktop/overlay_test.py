@@ -139,6 +139,7 @@ class OverlayTest(QuillonTestCase):
         self.keep_open()
         desktop.click(5, 790)
         self.wait_closed()
+        self.assertTrue(self.typing_reaches_geany())
 
     def test_the_search_is_empty_when_it_opens_again(self):
         self.keep_open()

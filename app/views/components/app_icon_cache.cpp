@@ -53,14 +53,18 @@ QPixmap load(const AppIcon& icon, int size, double ratio) {
 
 } // namespace
 
-const QPixmap& AppIconCache::pixmap(const std::string& bundleID, int size, double ratio) {
+QPixmap AppIconCache::pixmap(const std::string& bundleID, int size, double ratio) {
     const QString key = u"%1/%2/%3"_s.arg(size).arg(std::lround(ratio * 1000)).arg(text(bundleID));
     if (const auto known = m_pixmaps.constFind(key); known != m_pixmaps.constEnd())
         return *known;
+    const std::optional<AppIcon> icon = m_icons.icon(bundleID);
+    QPixmap pixmap = icon ? load(*icon, size, ratio) : QPixmap();
+    if (pixmap.isNull())
+        return pixmap;
     if (m_pixmaps.size() >= mostKept)
         m_pixmaps.clear();
-    const std::optional<AppIcon> icon = m_icons.icon(bundleID);
-    return *m_pixmaps.insert(key, icon ? load(*icon, size, ratio) : QPixmap());
+    m_pixmaps.insert(key, pixmap);
+    return pixmap;
 }
 
 } // namespace quillon

@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// Applications' icons as pixmaps, looked up once each.
+/// Applications' icons as pixmaps, looked up until they are found.
 class AppIconCache {
   public:
     /// `icons` outlives this.
@@ -17,7 +17,7 @@ class AppIconCache {
 
     /// The icon of an application, `size` logical pixels square, for a screen with `ratio` device pixels
     /// each. Null for an unknown application or an icon that cannot be read.
-    const QPixmap& pixmap(const std::string& bundleID, int size, double ratio);
+    QPixmap pixmap(const std::string& bundleID, int size, double ratio);
 
   private:
     const AppIcons& m_icons;

@@ -9,17 +9,19 @@
 namespace quillon {
 
 KeysView::KeysView(
-    ThemeSource& themeSource, Shortcut shortcut, double size, CapEmphasis emphasis, QWidget* parent)
+    ThemeSource& themeSource, std::optional<Shortcut> shortcut, double size, CapEmphasis emphasis,
+    QWidget* parent)
     : ThemedWidget(themeSource, parent), m_shortcut(std::move(shortcut)), m_size(size), m_emphasis(emphasis),
       m_caps(theme(), size, emphasis) {
     installAccessibleRoles();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setAccessibleName(text(m_shortcut.display()));
+    if (m_shortcut)
+        setAccessibleName(text(m_shortcut->display()));
 }
 
 void KeysView::setShortcut(Shortcut shortcut) {
     m_shortcut = std::move(shortcut);
-    setAccessibleName(text(m_shortcut.display()));
+    setAccessibleName(text(m_shortcut->display()));
     updateGeometry();
     update();
 }
@@ -30,12 +32,14 @@ void KeysView::setSize(double size) {
 }
 
 QSize KeysView::sizeHint() const {
-    return QSizeF(m_caps.width(m_shortcut), m_caps.height()).toSize();
+    return QSizeF(m_shortcut ? m_caps.width(*m_shortcut) : 0, m_caps.height()).toSize();
 }
 
 void KeysView::paintEvent(QPaintEvent*) {
+    if (!m_shortcut)
+        return;
     QPainter painter(this);
-    m_caps.paint(painter, QPointF(0, std::floor((height() - m_caps.height()) / 2)), m_shortcut);
+    m_caps.paint(painter, QPointF(0, std::floor((height() - m_caps.height()) / 2)), *m_shortcut);
 }
 
 void KeysView::themeChanged() {

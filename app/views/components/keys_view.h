@@ -12,12 +12,13 @@ class KeysView : public ThemedWidget {
     Q_OBJECT
 
   public:
-    /// `size` is the caps' font size in logical pixels.
+    /// `size` is the caps' font size in logical pixels. Without a shortcut there are no caps, but their
+    /// height.
     KeysView(
-        ThemeSource& themes, Shortcut shortcut, double size, CapEmphasis emphasis = CapEmphasis::plain,
-        QWidget* parent = nullptr);
+        ThemeSource& themes, std::optional<Shortcut> shortcut, double size,
+        CapEmphasis emphasis = CapEmphasis::plain, QWidget* parent = nullptr);
 
-    const Shortcut& shortcut() const { return m_shortcut; }
+    const std::optional<Shortcut>& shortcut() const { return m_shortcut; }
     void setShortcut(Shortcut shortcut);
     void setSize(double size);
 
@@ -28,7 +29,7 @@ class KeysView : public ThemedWidget {
     void themeChanged() override;
 
   private:
-    Shortcut m_shortcut;
+    std::optional<Shortcut> m_shortcut;
     double m_size;
     CapEmphasis m_emphasis;
     KeyCaps m_caps;

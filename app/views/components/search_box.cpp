@@ -1,5 +1,8 @@
 #include "search_box.h"
 
+#include "styled_menu.h"
+
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -100,7 +103,25 @@ void SearchBox::mousePressEvent(QMouseEvent* event) {
     event->ignore();
 }
 
+void SearchBox::showMenu(const QPoint& globalPosition) {
+    Q_EMIT menuOpening();
+    closeMenu();
+    m_menu = m_field->createStandardContextMenu();
+    m_menu->setAttribute(Qt::WA_DeleteOnClose);
+    styleMenu(*m_menu, theme());
+    m_menu->popup(globalPosition);
+}
+
+void SearchBox::closeMenu() {
+    if (m_menu)
+        m_menu->close();
+}
+
 bool SearchBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ContextMenu) {
+        showMenu(static_cast<QContextMenuEvent*>(event)->globalPos());
+        return true;
+    }
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         update();
     return ThemedWidget::eventFilter(watched, event);

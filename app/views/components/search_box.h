@@ -4,6 +4,8 @@
 #include "themed_widget.h"
 
 #include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
 #include <QToolButton>
 
 namespace quillon {
@@ -24,7 +26,12 @@ class SearchBox : public ThemedWidget {
     /// Gives the field a key that was pressed elsewhere, as if it had been typed into it.
     void type(QKeyEvent* event);
 
+    /// Takes an open menu of the field off the screen.
+    void closeMenu();
+
   Q_SIGNALS:
+    /// The field's menu is about to open.
+    void menuOpening();
     /// The user typed or cleared.
     void textEdited(const QString& text);
 
@@ -38,10 +45,12 @@ class SearchBox : public ThemedWidget {
     void followText(const QString& text);
     void follow();
     void clear();
+    void showMenu(const QPoint& globalPosition);
 
     SymbolView* m_magnifier;
     QLineEdit* m_field;
     QToolButton* m_clear;
+    QPointer<QMenu> m_menu;
 };
 
 } // namespace quillon

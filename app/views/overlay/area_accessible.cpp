@@ -6,7 +6,6 @@
 #include <QAccessibleWidget>
 
 #include <algorithm>
-#include <limits>
 #include <vector>
 
 namespace quillon {

@@ -1,5 +1,7 @@
 #include "area_content.h"
 
+#include <utility>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;

@@ -19,8 +19,7 @@ MessageView::MessageView(ThemeSource& themeSource, QWidget* parent)
     : ThemedWidget(themeSource, parent),
       m_symbol(new SymbolView(themeSource, Symbol::keyboard, symbolSize, &Palette::secondary, this)),
       m_title(new ThemedLabel(
-          themeSource, [](const TextStyles& styles) { return semibold(styles.title); }, &Palette::primary,
-          this)),
+          themeSource, [](const TextStyles& styles) { return styles.title; }, &Palette::primary, this)),
       m_body(new ThemedLabel(
           themeSource, [](const TextStyles& styles) { return styles.body; }, &Palette::secondary, this)),
       m_action(new ProminentButton(themeSource, {}, this)) {

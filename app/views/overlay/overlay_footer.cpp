@@ -29,9 +29,7 @@ OverlayFooter::OverlayFooter(ThemeSource& themeSource, QWidget* parent)
       m_command(new ThemedLabel(
           themeSource, [](const TextStyles& styles) { return semibold(styles.callout); }, &Palette::primary,
           this)),
-      m_keys(new KeysView(
-          themeSource, Shortcut{{}, Key::special(SpecialKey::space)}, theme().keySize(), CapEmphasis::plain,
-          this)) {
+      m_keys(new KeysView(themeSource, std::nullopt, theme().keySize(), CapEmphasis::plain, this)) {
     m_mostClicked->setText(u"You click this one most:"_s);
 
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

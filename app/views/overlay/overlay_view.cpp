@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 #include <numeric>
+#include <utility>
 
 namespace quillon {
 
@@ -23,6 +24,13 @@ constexpr int headerGap = 14;
 constexpr int footerGap = 12;
 /// Soon after the overlay is on the screen, before anyone can have typed.
 constexpr std::chrono::milliseconds searchPreparationDelay{40};
+
+/// Whether two readings of menus came to the same.
+bool showTheSame(const std::optional<AppSheet>& a, const std::optional<AppSheet>& b) {
+    if (!a || !b)
+        return a.has_value() == b.has_value();
+    return a->bundleID == b->bundleID && a->appName == b->appName && a->entries == b->entries;
+}
 
 bool isTyping(const QKeyEvent& event) {
     const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
@@ -59,7 +67,7 @@ void OverlayView::layOut() {
         main->addWidget(page, 0, 0);
     }
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, padding, 0, padding - 4);
+    column->setContentsMargins(0, padding, 0, padding);
     column->setSpacing(0);
     m_header->setContentsMargins(padding, 0, padding, 0);
     m_footer->setContentsMargins(padding, 0, padding, 0);
@@ -75,11 +83,14 @@ void OverlayView::connectParts() {
     connect(&search(), &SearchBox::textEdited, this, [this](const QString& text) {
         m_model.setQuery(utf8(text));
     });
+    connect(&search(), &SearchBox::menuOpening, this, [this] { keepOpen(); });
     connect(
         m_message, &MessageView::actionPressed, this, [this] { m_model.requestWindow(WindowName::welcome); });
-    connect(m_area, &ShortcutArea::pinToggled, this, [this](const std::string& entryID) {
-        m_model.togglePin(m_sheet->bundleID, entryID);
-    });
+    connect(
+        m_area, &ShortcutArea::pinToggled, this,
+        [this](const std::string& bundleID, const std::string& entryID) {
+            m_model.togglePin(bundleID, entryID);
+        });
     connect(m_area, &ShortcutArea::libraryRequested, this, [this] {
         m_model.requestWindow(WindowName::library);
     });
@@ -95,9 +106,9 @@ QString OverlayView::triggerGlyph() const {
 
 void OverlayView::modelChanged(ModelField field) {
     switch (field) {
-    case ModelField::current: m_indexIsStale = true; [[fallthrough]];
+    case ModelField::current: m_currentIsStale = true; break;
     case ModelField::annotations:
-    case ModelField::usage: m_sheetIsStale = true; break;
+    case ModelField::usage: m_recordsAreStale = true; break;
     default: break;
     }
     if (!isVisible())
@@ -105,6 +116,8 @@ void OverlayView::modelChanged(ModelField field) {
     if (field == ModelField::overlaySticky && m_model.overlaySticky())
         search().focus();
     refresh();
+    if (field == ModelField::query)
+        m_area->scrollToTop();
 }
 
 void OverlayView::refresh() {
@@ -116,10 +129,15 @@ void OverlayView::refresh() {
 }
 
 void OverlayView::refreshSheet() {
-    if (!m_sheetIsStale && m_sheet)
-        return;
-    m_sheetIsStale = false;
     const auto& current = m_model.current();
+    const bool isOther = std::exchange(m_currentIsStale, false) && !showTheSame(m_source, current);
+    const bool hasOtherRecords = std::exchange(m_recordsAreStale, false);
+    if (m_sheet && !isOther && !hasOtherRecords)
+        return;
+    if (isOther) {
+        m_source = current;
+        m_indexIsStale = true;
+    }
     m_sheet = std::make_shared<const PreparedSheet>(
         current ? PreparedSheet::prepare(*current, m_model.annotations(), m_model.usage()) : PreparedSheet{});
     Notes notes = m_model.annotations().notes(m_sheet->bundleID);
@@ -195,8 +213,11 @@ void OverlayView::refreshShortcuts() {
         return;
     }
     AreaContent content = AreaContent::of(*m_sheet, m_matches);
+    const bool isOtherApp = m_area->sheet().bundleID != m_sheet->bundleID;
     if (&m_area->sheet() != m_sheet.get() || m_area->content() != content)
         m_area->setContent(m_sheet, std::move(content));
+    if (isOtherApp)
+        m_area->scrollToTop();
     showInMain(m_area);
 }
 
@@ -215,7 +236,6 @@ bool OverlayView::keepOpen() {
     if (m_mode != Mode::live || m_model.overlaySticky())
         return false;
     m_model.keepOverlayOpen();
-    search().focus();
     return true;
 }
 
@@ -228,6 +248,7 @@ void OverlayView::showEvent(QShowEvent* event) {
 
 void OverlayView::hideEvent(QHideEvent* event) {
     m_area->closeRowMenu();
+    search().closeMenu();
     m_prepareSearch.stop();
     ThemedWidget::hideEvent(event);
 }

@@ -77,9 +77,11 @@ class OverlayView : public ThemedWidget {
     std::optional<NinePatch> m_background;
 
     std::shared_ptr<const PreparedSheet> m_sheet;
-    bool m_sheetIsStale = true; ///< the sheet, the annotations or the counts changed
-    bool m_indexIsStale = true; ///< the sheet or the notes changed
-    Notes m_notes;              ///< those that the index was made with
+    std::optional<AppSheet> m_source; ///< what `m_sheet` was made of
+    bool m_currentIsStale = true;     ///< the model has read menus
+    bool m_recordsAreStale = true;    ///< the annotations or the counts changed
+    bool m_indexIsStale = true;       ///< the sheet or the notes changed
+    Notes m_notes;                    ///< those that the index was made with
     SearchIndex m_index;
     std::vector<std::size_t> m_matches;
     OverlayState m_state = OverlayState::noSheet;

@@ -42,7 +42,7 @@ std::size_t vertically(const AreaLayout& layout, std::size_t from, bool down) {
         const double distance = down ? rect.top() - start.bottom() : start.top() - rect.bottom();
         if (distance < -0.5 || sidewaysDistance(start, rect) > 0)
             return never;
-        // Of several below a wide row, the one under its middle's side that it shares most with.
+        // Of several equally far, the one whose left edge is nearest.
         return distance * 1000 + std::abs(rect.left() - start.left());
     });
 }

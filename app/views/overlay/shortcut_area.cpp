@@ -221,7 +221,8 @@ void ShortcutArea::showRowMenu(std::size_t row, const QPoint& globalPosition) {
     m_menu->setAttribute(Qt::WA_DeleteOnClose);
     styleMenu(*m_menu, m_themes.theme());
     m_menu->addAction(
-        entry.pinned ? u"Unpin"_s : u"Pin"_s, this, [this, id = entry.id] { Q_EMIT pinToggled(id); });
+        entry.pinned ? u"Unpin"_s : u"Pin"_s, this,
+        [this, bundleID = m_sheet->bundleID, id = entry.id] { Q_EMIT pinToggled(bundleID, id); });
     QAction* const library = m_menu->addAction(u"Open in Library"_s, this, &ShortcutArea::libraryRequested);
     library->setEnabled(m_libraryIsOffered);
     m_menu->popup(globalPosition);

@@ -53,7 +53,8 @@ class ShortcutArea : public QAbstractScrollArea {
     void closeRowMenu();
 
   Q_SIGNALS:
-    void pinToggled(const std::string& entryID);
+    /// Of the application that the menu was opened for, which may be another than is shown now.
+    void pinToggled(const std::string& bundleID, const std::string& entryID);
     void libraryRequested();
     /// A row's menu is about to open.
     void rowMenuOpening();

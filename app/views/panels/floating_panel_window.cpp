@@ -7,12 +7,18 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <chrono>
+#include <utility>
+
 namespace quillon {
 
 namespace {
 
 constexpr auto panelFlags = Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint
                             | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint;
+
+/// Long enough for a window manager to give the keyboard to the window that was pressed on.
+constexpr std::chrono::milliseconds returnDelay{100};
 
 } // namespace
 
@@ -27,6 +33,9 @@ FloatingPanelWindow::FloatingPanelWindow(
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
     m_compositing = windows.onCompositedChanged([this] { followCompositing(); });
+    m_return.setSingleShot(true);
+    m_return.setInterval(returnDelay);
+    m_return.callOnTimeout(this, [this] { returnKeyboard(); });
     m_theme = themes.changed.subscribe([this] { update(); });
     followCompositing();
 }
@@ -71,6 +80,8 @@ void FloatingPanelWindow::prepareWindow() {
 
 void FloatingPanelWindow::orderFront() {
     prepareWindow();
+    if (m_return.isActive())
+        returnKeyboard();
     show();
     raise();
 }
@@ -87,16 +98,32 @@ void FloatingPanelWindow::makeKey() {
 
 void FloatingPanelWindow::takeKeyboard() {
     m_keyboard = isActiveWindow() ? Keyboard::here : Keyboard::asked;
+    m_owesKeyboard = true;
     m_windows.takeKeyboard(static_cast<std::uintptr_t>(winId()));
 }
 
 void FloatingPanelWindow::orderOut() {
-    const bool tookKeyboard = m_keyboard == Keyboard::asked || m_keyboard == Keyboard::here;
-    m_keyboard = Keyboard::elsewhere;
+    const bool hasResigned = std::exchange(m_keyboard, Keyboard::elsewhere) == Keyboard::elsewhere;
     m_presses.reset();
-    if (tookKeyboard)
-        m_windows.returnKeyboard(static_cast<std::uintptr_t>(winId()));
+    if (m_owesKeyboard && hasResigned)
+        m_return.start();
+    else
+        returnKeyboard();
     hide();
+}
+
+void FloatingPanelWindow::returnKeyboard() {
+    m_return.stop();
+    if (std::exchange(m_owesKeyboard, false))
+        m_windows.returnKeyboard(static_cast<std::uintptr_t>(winId()));
+}
+
+/// While a menu of ours is open, what to make of it shows when the menu closes.
+void FloatingPanelWindow::loseKeyboard() {
+    if (QWidget* menu = QApplication::activePopupWidget())
+        menu->installEventFilter(this);
+    else if (m_keyboard == Keyboard::here && !isActiveWindow())
+        resign();
 }
 
 void FloatingPanelWindow::resign() {
@@ -113,6 +140,8 @@ bool FloatingPanelWindow::eventFilter(QObject* watched, QEvent* event) {
     const bool isOnScreen = event->type() == QEvent::Expose && windowHandle() && windowHandle()->isExposed();
     if (isOnScreen && m_keyboard == Keyboard::wanted)
         takeKeyboard();
+    if (event->type() == QEvent::Hide && watched != windowHandle())
+        QTimer::singleShot(0, this, [this] { loseKeyboard(); });
     return QWidget::eventFilter(watched, event);
 }
 
@@ -121,7 +150,7 @@ bool FloatingPanelWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && m_keyboard == Keyboard::asked)
         m_keyboard = Keyboard::here;
     else if (event->type() == QEvent::WindowDeactivate && m_keyboard == Keyboard::here)
-        resign();
+        loseKeyboard();
     return result;
 }
 

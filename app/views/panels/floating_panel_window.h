@@ -6,6 +6,7 @@
 #include <quillon/core/panel_host.h>
 #include <quillon/ports/panel_windows.h>
 
+#include <QTimer>
 #include <QWidget>
 
 namespace quillon {
@@ -48,6 +49,8 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
 
     void followCompositing();
     void takeKeyboard();
+    void returnKeyboard();
+    void loseKeyboard();
     void resign();
     int shadowReach() const;
 
@@ -58,6 +61,8 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     Rect m_frame;
     bool m_isPrepared = false;
     Keyboard m_keyboard = Keyboard::elsewhere;
+    bool m_owesKeyboard = false; ///< took it and has not given it back, even if it has lost it since
+    QTimer m_return;
     PanelShadow m_shadow;
     Subscription m_compositing;
     Subscription m_presses;

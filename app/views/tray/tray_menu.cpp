@@ -43,7 +43,8 @@ void TrayMenu::build() {
     m_hint = m_menu.addAction(QString());
     m_hint->setEnabled(false);
     m_menu.addSeparator();
-    m_menu.addAction(u"Quit Quillon"_s, this, [this] { m_quit(); });
+    QAction* const quit = m_menu.addAction(u"Quit Quillon"_s, this, [this] { m_quit(); });
+    quit->setShortcut(QKeySequence::Quit);
 }
 
 QAction* TrayMenu::addWindowItem(const QString& label, WindowName window) {

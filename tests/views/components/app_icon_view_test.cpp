@@ -77,6 +77,14 @@ TEST_F(AppIconViewTest, BrokenIconsAreThePlaceholder) {
     }
 }
 
+TEST_F(AppIconViewTest, AnIconThatAppearsLaterIsShown) {
+    AppIconView view(themes, cache, 40);
+    view.setBundleID("org.example.App");
+    drawnOf(view);
+    icons.set("org.example.App", square(8, 0xff3366cc));
+    EXPECT_EQ(drawnOf(view).pixelColor(20, 20), QColor(0x33, 0x66, 0xcc));
+}
+
 TEST_F(AppIconViewTest, OneApplicationsIconIsLookedUpOnce) {
     icons.set("org.example.App", square(8, 0xff112233));
     const QPixmap first = cache.pixmap("org.example.App", 40, 1);

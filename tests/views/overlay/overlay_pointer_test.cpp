@@ -86,6 +86,25 @@ TEST_F(OverlayPointerTest, TheMenuGoesWithTheOverlay) {
     EXPECT_EQ(rowMenu(), nullptr);
 }
 
+TEST_F(OverlayPointerTest, AMenuThatIsStillOpenPinsInTheApplicationThatItWasOpenedFor) {
+    rightClick(row(u"Save"_s));
+    desk.show(sheetOfMany(100));
+    choose(u"Pin"_s);
+    EXPECT_TRUE(desk.model.annotations().get(SampleMenus::bundleID, "File › Save").pinned);
+    EXPECT_FALSE(desk.model.annotations().get("org.example.Atelier", "File › Save").pinned);
+}
+
+TEST_F(OverlayPointerTest, TheMenuOfTheSearchKeepsAHeldOverlayOpenAndGoesWithIt) {
+    const QPoint at = field().rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, field().mapToGlobal(at));
+    QApplication::sendEvent(&field(), &event);
+    EXPECT_TRUE(desk.model.overlaySticky());
+    ASSERT_NE(rowMenu(), nullptr);
+    EXPECT_FALSE(rowMenu()->styleSheet().isEmpty()) << "looks like the rows' menus";
+    view->hide();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 TEST_F(OverlayPointerTest, BetweenTheRowsThereIsNoMenu) {
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2), rows()->mapToGlobal(QPoint(2, 2)));
     QApplication::sendEvent(rows(), &event);

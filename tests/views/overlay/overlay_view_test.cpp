@@ -2,6 +2,8 @@
 
 #include <quillon/menu/sample_menus.h>
 
+#include <QScrollBar>
+
 namespace quillon {
 namespace {
 
@@ -198,6 +200,55 @@ TEST_F(OverlayTest, EachOpeningBeginsAtTheTopWithTheQueryOfTheModel) {
     EXPECT_EQ(field().text(), QString());
     EXPECT_EQ(cards().first(), u"# File"_s);
     EXPECT_TRUE(view->area().viewport()->rect().contains(middleOf(0)));
+}
+
+TEST_F(OverlayTest, ReadingTheSameMenusAgainRebuildsNothingAndScrollsNowhere) {
+    desk.trust();
+    desk.desktop.menus.answer("org.example.Writer", {SampleMenus::menuBar(), ReadOutcome::complete});
+    desk.beginReading("Writer");
+    desk.desktop.background.runAll();
+    view->resize(1180, 400);
+    view->area().scrollByPage(1);
+    const int scrolled = view->area().verticalScrollBar()->value();
+    ASSERT_GT(scrolled, 0);
+    const int before = view->area().generation();
+    const Instant readBefore = desk.model.current()->readAt;
+    desk.desktop.clock.advance(Seconds(30));
+    desk.beginReading("Writer");
+    desk.desktop.background.runAll();
+    ASSERT_NE(desk.model.current()->readAt, readBefore);
+    EXPECT_EQ(view->area().generation(), before);
+    EXPECT_EQ(view->area().verticalScrollBar()->value(), scrolled);
+}
+
+TEST_F(OverlayTest, MenusThatHaveChangedAreShown) {
+    desk.trust();
+    desk.show(sheetOfMany(100));
+    desk.show(sheetOfMany(101));
+    EXPECT_THAT(texts(), Contains(u"101 shortcuts from its menus"_s));
+    type(u"e"_s);
+    desk.show(sheetOfMany(102));
+    EXPECT_EQ(texts().filter(u" of 102 shortcuts"_s).size(), 1);
+}
+
+TEST_F(OverlayTest, AnotherQueryBeginsAtTheTop) {
+    desk.trust();
+    desk.show(sheetOfMany(300));
+    view->area().scrollByPage(2);
+    type(u"e"_s);
+    EXPECT_EQ(view->area().verticalScrollBar()->value(), 0);
+    ASSERT_GT(view->area().verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(OverlayTest, AnotherApplicationBeginsAtTheTop) {
+    desk.trust();
+    desk.show(sheetOfMany(300));
+    view->area().scrollByPage(1);
+    AppSheet other = sheetOfMany(300);
+    other.bundleID = "org.example.Other";
+    desk.show(other);
+    EXPECT_EQ(view->area().verticalScrollBar()->value(), 0);
+    ASSERT_GT(view->area().verticalScrollBar()->maximum(), 0);
 }
 
 TEST_F(OverlayTest, FontsAndColoursFollowTheDesktopWhileItIsOpen) {

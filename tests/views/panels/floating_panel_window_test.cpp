@@ -26,6 +26,12 @@ class FloatingPanelWindowTest : public testing::Test {
         panel.makeKey();
         QApplication::setActiveWindow(&panel);
     }
+    void closeOnResign() {
+        panel.onResign = [this] {
+            ++resigns;
+            panel.orderOut();
+        };
+    }
     std::uintptr_t window() { return static_cast<std::uintptr_t>(panel.winId()); }
 
     FakeAppearance appearance;
@@ -142,6 +148,41 @@ TEST_F(FloatingPanelWindowTest, APressOnTheShadowIsAPressElsewhere) {
     EXPECT_EQ(resigns, 1);
 }
 
+TEST_F(FloatingPanelWindowTest, APressElsewhereGivesTheKeyboardBackAfterTheWindowManagerHadItsTurn) {
+    closeOnResign();
+    showWithKeyboard();
+    desktop.pressElsewhere();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(desktop.keyboardOwner(), window());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.keyboardOwner(); }));
+}
+
+TEST_F(FloatingPanelWindowTest, APressOnTheShadowGivesTheKeyboardBack) {
+    closeOnResign();
+    showWithKeyboard();
+    QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.keyboardOwner(); }));
+}
+
+TEST_F(FloatingPanelWindowTest, ShownAgainAtOnceItHasGivenTheKeyboardBack) {
+    closeOnResign();
+    showWithKeyboard();
+    desktop.pressElsewhere();
+    panel.orderFront();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    EXPECT_FALSE(desktop.keyboardOwner());
+}
+
+TEST_F(FloatingPanelWindowTest, GivesTheKeyboardBackOnlyOnce) {
+    showWithKeyboard();
+    panel.orderOut();
+    desktop.takeKeyboard(window());
+    panel.orderOut();
+    panel.orderFront();
+    EXPECT_EQ(desktop.keyboardOwner(), window());
+}
+
 TEST_F(FloatingPanelWindowTest, ItsOwnMenuIsNotElsewhere) {
     showWithKeyboard();
     QMenu menu(&panel);
@@ -152,6 +193,20 @@ TEST_F(FloatingPanelWindowTest, ItsOwnMenuIsNotElsewhere) {
     EXPECT_EQ(resigns, 0);
     menu.close();
     desktop.pressElsewhere();
+    EXPECT_EQ(resigns, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, KeyboardLostUnderItsOwnMenuIsToldWhenTheMenuCloses) {
+    QWidget other;
+    other.show();
+    showWithKeyboard();
+    QMenu menu(&panel);
+    menu.addAction(QStringLiteral("Pin"));
+    menu.popup(QPoint(150, 150));
+    QApplication::setActiveWindow(&other);
+    EXPECT_EQ(resigns, 0);
+    menu.close();
+    QApplication::processEvents();
     EXPECT_EQ(resigns, 1);
 }
 
