@@ -118,6 +118,8 @@ class AppModel {
     void closeOverlay();
     /// The user started to use a held overlay: it stays, and takes the keyboard.
     void keepOverlayOpen();
+    /// Whether holding the trigger key is noticed.
+    bool isWatching() const { return m_hold.isWatching(); }
     bool overlayVisible() const { return m_overlay.isVisible(); }
 
     /// Pins or unpins a command of an application.

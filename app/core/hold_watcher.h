@@ -26,6 +26,7 @@ class HoldWatcher {
     void replaceDetector(HoldDetector detector);
 
     const HoldDetector& detector() const { return m_detector; }
+    bool isWatching() const { return static_cast<bool>(m_monitor); }
     bool isTiming() const { return static_cast<bool>(m_holdTimer); }
 
   private:

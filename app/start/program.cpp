@@ -49,6 +49,7 @@ InstanceRequests Program::requests() {
         .showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
         .showSample = [this] { showSample(); },
         .quit = [] { QApplication::quit(); },
+        .isWatching = [this] { return m_model.isWatching(); },
         .measureStalls = [this] { m_stalls.start(); },
         .longestStall =
             [this] { return std::chrono::duration<double, std::milli>(m_stalls.longest()).count(); },

@@ -22,6 +22,7 @@ TEST_F(AppModelTest, ReadsNothingWithoutPermission) {
     EXPECT_EQ(desktop.background.waiting(), 0U);
     EXPECT_FALSE(model.current());
     EXPECT_EQ(desktop.keyboard.monitors(), 0U);
+    EXPECT_FALSE(model.isWatching());
 }
 
 TEST_F(AppModelTest, NoticesThePermissionAtTheNextPoll) {
@@ -34,6 +35,7 @@ TEST_F(AppModelTest, NoticesThePermissionAtTheNextPoll) {
     EXPECT_TRUE(model.trusted());
     EXPECT_EQ(entriesShown(), 3U);
     EXPECT_EQ(desktop.keyboard.monitors(), 1U);
+    EXPECT_TRUE(model.isWatching());
 }
 
 TEST_F(AppModelTest, NoticesThePermissionAtOnceWhereTheDesktopTells) {

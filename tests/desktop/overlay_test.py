@@ -13,6 +13,7 @@ class OverlayTest(QuillonTestCase):
         self.geany = self.start_application("geany", "--new-instance", "--no-session")
         desktop.press("ctrl+n")
         self.start_quillon()
+        self.wait_watching()
 
     def rows_of_geany(self):
         return sorted(row(entry) for entry in entries(read_menu_bar(application_of(self.geany.pid)), "gtk"))
@@ -139,7 +140,6 @@ class OverlayTest(QuillonTestCase):
         self.keep_open()
         desktop.click(5, 790)
         self.wait_closed()
-        self.assertTrue(self.typing_reaches_geany())
 
     def test_the_search_is_empty_when_it_opens_again(self):
         self.keep_open()

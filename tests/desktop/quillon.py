@@ -120,6 +120,10 @@ class QuillonTestCase(desktop.DesktopTestCase):
         self.quillon, self.overlay = program, Overlay(program.pid)
         return program
 
+    def wait_watching(self):
+        """Until held keys are noticed: what is pressed before takes a quarter of a second to be found."""
+        wait_until("quillon to watch the keyboard", lambda: request("IsWatching")[0])
+
     @contextlib.contextmanager
     def overlay_held_open(self):
         with desktop.held("Super_L"):

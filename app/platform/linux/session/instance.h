@@ -14,6 +14,7 @@ struct InstanceRequests {
     std::function<void()> showOverlay;
     std::function<void()> showSample;
     std::function<void()> quit;
+    std::function<bool()> isWatching;     ///< holding the trigger key is noticed
     std::function<void()> measureStalls;  ///< begin to measure how long the main thread is ever busy
     std::function<double()> longestStall; ///< in milliseconds, since measureStalls
 };
@@ -40,6 +41,7 @@ class InstanceService final : public QObject {
     Q_SCRIPTABLE void ShowOverlay() { call(m_requests.showOverlay); }
     Q_SCRIPTABLE void ShowSample() { call(m_requests.showSample); }
     Q_SCRIPTABLE void Quit() { call(m_requests.quit); }
+    Q_SCRIPTABLE bool IsWatching() { return m_requests.isWatching && m_requests.isWatching(); }
     Q_SCRIPTABLE void MeasureStalls() { call(m_requests.measureStalls); }
     Q_SCRIPTABLE double LongestStallMilliseconds() {
         return m_requests.longestStall ? m_requests.longestStall() : 0;
