@@ -1,8 +1,8 @@
 # One folder, one target, and nothing to include but what it names.
 #
-# Every module's headers are reached as <quillon/MODULE/file.h> through a folder of its own in the build
-# tree that holds one link to the source folder. A target sees the folders of the modules it links and no
-# others, so an include over a forbidden edge does not compile.
+# A folder's public headers are reached as <quillon/PATH/OF/FOLDER/file.h> through a folder of links of their
+# own in the build tree. A target sees the public headers of the modules it links and no others, so an include
+# over a forbidden edge, or of a header that is another module's own affair, does not compile.
 
 function(quillon_compile_settings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow)
@@ -29,14 +29,19 @@ function(quillon_qt_settings target)
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
 endfunction()
 
-# quillon_module(NAME [QT] SOURCES... [PUBLIC targets...] [PRIVATE targets...])
-# Makes the static library quillon_NAME (alias quillon::NAME) of the current folder. PUBLIC names the
-# modules that its headers mention, PRIVATE those that only its sources use.
-function(quillon_module name)
-  cmake_parse_arguments(arg "QT" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
-  set(target quillon_${name})
+# quillon_module([QT] [HEADERS...] [SOURCES...] [PUBLIC targets...] [PRIVATE targets...])
+# Makes the static library of the current folder: the folder app/core becomes quillon_app_core, alias
+# quillon::app::core. HEADERS are what others may include; every other header of the folder is its own affair.
+# PUBLIC names the modules that the public headers mention, PRIVATE those that only the sources use.
+#
+# quillon::app::core::internals reaches all headers of the folder: for its own tests.
+function(quillon_module)
+  cmake_parse_arguments(arg "QT" "" "HEADERS;SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+  string(REPLACE "/" "_" target quillon_${folder})
+  string(REPLACE "/" "::" alias quillon::${folder})
   if(arg_SOURCES)
-    add_library(${target} STATIC ${arg_SOURCES})
+    add_library(${target} STATIC ${arg_SOURCES} ${arg_HEADERS})
     set(scope PUBLIC)
     quillon_compile_settings(${target})
     target_link_libraries(${target} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
@@ -49,12 +54,26 @@ function(quillon_module name)
     set(scope INTERFACE)
     target_link_libraries(${target} INTERFACE ${arg_PUBLIC})
   endif()
-  add_library(quillon::${name} ALIAS ${target})
+  add_library(${alias} ALIAS ${target})
+  set_target_properties(${target} PROPERTIES QUILLON_FOLDER ${folder} QUILLON_HEADERS "${arg_HEADERS}")
 
-  set(root ${PROJECT_BINARY_DIR}/include/${name})
-  file(MAKE_DIRECTORY ${root}/quillon)
-  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/quillon/${name} SYMBOLIC)
+  set(root ${PROJECT_BINARY_DIR}/include/${target})
+  file(REMOVE_RECURSE ${root})
+  file(MAKE_DIRECTORY ${root}/quillon/${folder})
+  foreach(header IN LISTS arg_HEADERS)
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${root}/quillon/${folder}/${header} SYMBOLIC)
+  endforeach()
   target_include_directories(${target} ${scope} $<BUILD_INTERFACE:${root}>)
+
+  set(root ${PROJECT_BINARY_DIR}/include/${target}_internals)
+  cmake_path(GET folder PARENT_PATH above)
+  file(REMOVE_RECURSE ${root})
+  file(MAKE_DIRECTORY ${root}/quillon/${above})
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/quillon/${folder} SYMBOLIC)
+  add_library(${target}_internals INTERFACE)
+  target_include_directories(${target}_internals INTERFACE ${root})
+  target_link_libraries(${target}_internals INTERFACE ${target})
+  add_library(${alias}::internals ALIAS ${target}_internals)
 endfunction()
 
 # quillon_program(NAME [QT] SOURCES... LIBRARIES...) makes one program in build/<preset>/bin.
@@ -69,14 +88,20 @@ function(quillon_program name)
   endif()
 endfunction()
 
-# quillon_test(NAME [QT] SOURCES... LIBRARIES... [LABELS...]) makes a GoogleTest program and registers it.
+# quillon_test(NAME [QT] SOURCES... LIBRARIES... [LABELS...] [PRECOMPILED tests|view_tests]) makes a GoogleTest
+# program and registers it. It is compiled with the headers that tests/precompiled makes ready.
 function(quillon_test name)
-  cmake_parse_arguments(arg "QT" "" "SOURCES;LIBRARIES;LABELS;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(arg "QT" "PRECOMPILED" "SOURCES;LIBRARIES;LABELS;ENVIRONMENT" ${ARGN})
   set(qt "")
   if(arg_QT)
     set(qt QT)
   endif()
+  if(NOT arg_PRECOMPILED)
+    set(arg_PRECOMPILED tests)
+  endif()
   quillon_program(${name} ${qt} SOURCES ${arg_SOURCES} LIBRARIES ${arg_LIBRARIES} GTest::gmock GTest::gtest)
+  target_compile_options(${name} PRIVATE -fPIC) # as Qt asks of programs, and the precompiled headers of all
+  target_precompile_headers(${name} REUSE_FROM quillon_precompiled_${arg_PRECOMPILED})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT}" TIMEOUT 300)

@@ -1,6 +1,6 @@
 #include "app_choice.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <algorithm>
 #include <string>

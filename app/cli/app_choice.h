@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/running_app.h>
+#include <quillon/app/ports/running_app.h>
 
 #include <cstdint>
 #include <optional>

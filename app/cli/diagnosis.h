@@ -2,7 +2,7 @@
 
 #include "checkup.h"
 
-#include <quillon/ports/running_app.h>
+#include <quillon/app/ports/running_app.h>
 
 #include <optional>
 #include <string>

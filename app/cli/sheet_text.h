@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/menu/app_sheet.h>
+#include <quillon/kit/menu/app_sheet.h>
 
 #include <string>
 #include <vector>

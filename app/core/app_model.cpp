@@ -2,7 +2,7 @@
 
 #include "sheet_arrival.h"
 
-#include <quillon/menu/menu_parser.h>
+#include <quillon/kit/menu/menu_parser.h>
 
 #include <algorithm>
 #include <utility>

@@ -4,17 +4,17 @@
 #include "overlay_controller.h"
 #include "settings.h"
 
-#include <quillon/menu/app_sheet.h>
-#include <quillon/ports/accessibility_access.h>
-#include <quillon/ports/background.h>
-#include <quillon/ports/clock.h>
-#include <quillon/ports/front_application.h>
-#include <quillon/ports/keyboard.h>
-#include <quillon/ports/menu_reader.h>
-#include <quillon/ports/timers.h>
-#include <quillon/records/annotations.h>
-#include <quillon/records/json_codec.h>
-#include <quillon/records/usage.h>
+#include <quillon/app/ports/accessibility_access.h>
+#include <quillon/app/ports/background.h>
+#include <quillon/app/ports/clock.h>
+#include <quillon/app/ports/front_application.h>
+#include <quillon/app/ports/keyboard.h>
+#include <quillon/app/ports/menu_reader.h>
+#include <quillon/app/ports/timers.h>
+#include <quillon/kit/menu/app_sheet.h>
+#include <quillon/kit/records/annotations.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/kit/records/usage.h>
 
 #include <cstdint>
 #include <functional>

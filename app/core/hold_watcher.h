@@ -1,9 +1,9 @@
 #pragma once
 
-#include <quillon/coach/hold_detector.h>
-#include <quillon/ports/clock.h>
-#include <quillon/ports/keyboard.h>
-#include <quillon/ports/timers.h>
+#include <quillon/app/ports/clock.h>
+#include <quillon/app/ports/keyboard.h>
+#include <quillon/app/ports/timers.h>
+#include <quillon/kit/coach/hold_detector.h>
 
 #include <functional>
 #include <memory>

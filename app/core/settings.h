@@ -2,7 +2,7 @@
 
 #include "trigger_key.h"
 
-#include <quillon/base/instant.h>
+#include <quillon/kit/base/instant.h>
 
 #include <QSettings>
 #include <QString>

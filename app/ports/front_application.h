@@ -1,7 +1,7 @@
 #pragma once
 
 #include "running_app.h"
-#include "subscription.h"
+#include <quillon/kit/base/subscription.h>
 
 #include <functional>
 #include <optional>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "subscription.h"
+#include <quillon/kit/base/subscription.h>
 
-#include <quillon/base/instant.h>
-#include <quillon/shortcut/modifiers.h>
+#include <quillon/kit/base/instant.h>
+#include <quillon/kit/shortcut/modifiers.h>
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "running_app.h"
 
-#include <quillon/menu/raw_menu_item.h>
+#include <quillon/kit/menu/raw_menu_item.h>
 
 #include <stop_token>
 #include <vector>

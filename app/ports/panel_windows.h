@@ -1,6 +1,6 @@
 #pragma once
 
-#include "subscription.h"
+#include <quillon/kit/base/subscription.h>
 
 #include <cstdint>
 #include <functional>

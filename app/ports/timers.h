@@ -1,8 +1,8 @@
 #pragma once
 
-#include "subscription.h"
+#include <quillon/kit/base/subscription.h>
 
-#include <quillon/base/instant.h>
+#include <quillon/kit/base/instant.h>
 
 #include <functional>
 

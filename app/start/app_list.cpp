@@ -2,12 +2,12 @@
 
 #include "inline_background.h"
 
-#include <quillon/qt/system_clock.h>
-#include <quillon/x11/open_windows.h>
-#include <quillon/x11/x11_connection.h>
-#include <quillon/x11/x11_front_application.h>
-#include <quillon/xdg/app_identifier.h>
-#include <quillon/xdg/process_facts.h>
+#include <quillon/app/platform/linux/applications/app_identifier.h>
+#include <quillon/app/platform/linux/applications/process_facts.h>
+#include <quillon/app/platform/linux/x11/open_windows.h>
+#include <quillon/app/platform/linux/x11/x11_connection.h>
+#include <quillon/app/platform/linux/x11/x11_front_application.h>
+#include <quillon/app/platform/qt/system_clock.h>
 
 #include <algorithm>
 #include <chrono>

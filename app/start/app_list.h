@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/atspi/running_apps.h>
-#include <quillon/ports/running_app.h>
+#include <quillon/app/platform/linux/atspi/running_apps.h>
+#include <quillon/app/ports/running_app.h>
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "app_list.h"
 #include "commands.h"
 
-#include <quillon/atspi/menu_reader.h>
-#include <quillon/cli/sheet_text.h>
+#include <quillon/app/cli/sheet_text.h>
+#include <quillon/app/platform/linux/atspi/menu_reader.h>
 
 #include <future>
 #include <iostream>

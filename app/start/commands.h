@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/cli/command_line.h>
+#include <quillon/app/cli/command_line.h>
 
 namespace quillon {
 

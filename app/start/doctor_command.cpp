@@ -1,12 +1,12 @@
 #include "app_list.h"
 #include "commands.h"
 
-#include <quillon/atspi/accessibility_bus.h>
-#include <quillon/cli/diagnosis.h>
-#include <quillon/session/instance.h>
-#include <quillon/x11/x11_report.h>
-#include <quillon/xdg/session_kind.h>
-#include <quillon/xdg/tray_host.h>
+#include <quillon/app/cli/diagnosis.h>
+#include <quillon/app/platform/linux/atspi/accessibility_bus.h>
+#include <quillon/app/platform/linux/session/instance.h>
+#include <quillon/app/platform/linux/session/session_kind.h>
+#include <quillon/app/platform/linux/session/tray_host.h>
+#include <quillon/app/platform/linux/x11/x11_report.h>
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/background.h>
+#include <quillon/app/ports/background.h>
 
 namespace quillon {
 

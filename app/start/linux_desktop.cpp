@@ -1,18 +1,18 @@
 #include "linux_desktop.h"
 
-#include <quillon/x11/raw_input.h>
-#include <quillon/x11/x11_connection.h>
-#include <quillon/x11/x11_front_application.h>
-#include <quillon/x11/x11_keyboard.h>
-#include <quillon/x11/x11_panel_windows.h>
-#include <quillon/xdg/a11y_bus_access.h>
-#include <quillon/xdg/xdg_app_icons.h>
-#include <quillon/xdg/xdg_appearance.h>
+#include <quillon/app/platform/linux/access/accessibility_bus_access.h>
+#include <quillon/app/platform/linux/applications/xdg_app_icons.h>
+#include <quillon/app/platform/linux/look/xdg_appearance.h>
+#include <quillon/app/platform/linux/x11/raw_input.h>
+#include <quillon/app/platform/linux/x11/x11_connection.h>
+#include <quillon/app/platform/linux/x11/x11_front_application.h>
+#include <quillon/app/platform/linux/x11/x11_keyboard.h>
+#include <quillon/app/platform/linux/x11/x11_panel_windows.h>
 
 namespace quillon {
 
 LinuxDesktop::LinuxDesktop(Background& background, const Clock& clock)
-    : m_identifier(background, clock), m_access(std::make_unique<A11yBusAccess>()),
+    : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>()),
       m_appearance(std::make_unique<XdgAppearance>()), m_icons(std::make_unique<XdgAppIcons>(m_identifier)),
       m_x11(X11Connection::open()) {
     if (!m_x11)

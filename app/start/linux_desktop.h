@@ -1,16 +1,16 @@
 #pragma once
 
-#include <quillon/atspi/menu_reader.h>
-#include <quillon/none/no_desktop.h>
-#include <quillon/ports/accessibility_access.h>
-#include <quillon/ports/app_icons.h>
-#include <quillon/ports/appearance.h>
-#include <quillon/ports/background.h>
-#include <quillon/ports/clock.h>
-#include <quillon/ports/front_application.h>
-#include <quillon/ports/keyboard.h>
-#include <quillon/ports/panel_windows.h>
-#include <quillon/xdg/app_identifier.h>
+#include <quillon/app/platform/linux/applications/app_identifier.h>
+#include <quillon/app/platform/linux/atspi/menu_reader.h>
+#include <quillon/app/platform/none/no_desktop.h>
+#include <quillon/app/ports/accessibility_access.h>
+#include <quillon/app/ports/app_icons.h>
+#include <quillon/app/ports/appearance.h>
+#include <quillon/app/ports/background.h>
+#include <quillon/app/ports/clock.h>
+#include <quillon/app/ports/front_application.h>
+#include <quillon/app/ports/keyboard.h>
+#include <quillon/app/ports/panel_windows.h>
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 
 #include "showcase.h"
 
-#include <quillon/xdg/paths.h>
+#include <quillon/app/platform/linux/session/paths.h>
 
 #include <QApplication>
 #include <QCursor>

@@ -3,16 +3,16 @@
 #include "commands.h"
 #include "linux_desktop.h"
 
-#include <quillon/components/app_icon_cache.h>
-#include <quillon/components/theme_source.h>
-#include <quillon/core/app_model.h>
-#include <quillon/panels/qt_panel_host.h>
-#include <quillon/qt/qt_timers.h>
-#include <quillon/qt/stall_meter.h>
-#include <quillon/qt/system_clock.h>
-#include <quillon/qt/thread_background.h>
-#include <quillon/session/instance.h>
-#include <quillon/tray/tray_menu.h>
+#include <quillon/app/core/app_model.h>
+#include <quillon/app/platform/linux/session/instance.h>
+#include <quillon/app/platform/qt/qt_timers.h>
+#include <quillon/app/platform/qt/stall_meter.h>
+#include <quillon/app/platform/qt/system_clock.h>
+#include <quillon/app/platform/qt/thread_background.h>
+#include <quillon/app/views/components/app_icon_cache.h>
+#include <quillon/app/views/components/theme_source.h>
+#include <quillon/app/views/panels/qt_panel_host.h>
+#include <quillon/app/views/tray/tray_menu.h>
 
 #include <memory>
 

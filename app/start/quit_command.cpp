@@ -1,6 +1,6 @@
 #include "commands.h"
 
-#include <quillon/session/instance.h>
+#include <quillon/app/platform/linux/session/instance.h>
 
 #include <iostream>
 

@@ -1,19 +1,19 @@
 #include "app_list.h"
 #include "commands.h"
 
-#include <quillon/atspi/accessibility_bus.h>
-#include <quillon/atspi/menu_reader.h>
-#include <quillon/cheatsheet/cheat_sheet.h>
-#include <quillon/cli/app_choice.h>
-#include <quillon/cli/sheet_text.h>
-#include <quillon/coach/practice_deck.h>
-#include <quillon/coach/seeded_generator.h>
-#include <quillon/menu/menu_parser.h>
-#include <quillon/menu/shortcut_search.h>
-#include <quillon/qt/system_clock.h>
-#include <quillon/records/json_codec.h>
-#include <quillon/records/json_file.h>
-#include <quillon/xdg/paths.h>
+#include <quillon/app/cli/app_choice.h>
+#include <quillon/app/cli/sheet_text.h>
+#include <quillon/app/platform/linux/atspi/accessibility_bus.h>
+#include <quillon/app/platform/linux/atspi/menu_reader.h>
+#include <quillon/app/platform/linux/session/paths.h>
+#include <quillon/app/platform/qt/system_clock.h>
+#include <quillon/kit/cheatsheet/cheat_sheet.h>
+#include <quillon/kit/coach/practice_deck.h>
+#include <quillon/kit/coach/seeded_generator.h>
+#include <quillon/kit/menu/menu_parser.h>
+#include <quillon/kit/menu/shortcut_search.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/kit/records/json_file.h>
 
 #include <QRandomGenerator>
 

@@ -1,7 +1,7 @@
 #include "showcase.h"
 
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/sample_records.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/sample_records.h>
 
 namespace quillon {
 

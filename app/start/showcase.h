@@ -1,8 +1,8 @@
 #pragma once
 
-#include <quillon/core/app_model.h>
-#include <quillon/none/no_desktop.h>
-#include <quillon/panels/qt_panel_host.h>
+#include <quillon/app/core/app_model.h>
+#include <quillon/app/platform/none/no_desktop.h>
+#include <quillon/app/views/panels/qt_panel_host.h>
 
 namespace quillon {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <quillon/menu/app_sheet.h>
-#include <quillon/menu/raw_menu_item.h>
-#include <quillon/records/json_codec.h>
+#include <quillon/kit/menu/app_sheet.h>
+#include <quillon/kit/menu/raw_menu_item.h>
+#include <quillon/kit/records/json_codec.h>
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "made_up_menus.h"
 
-#include <quillon/menu/menu_parser.h>
-#include <quillon/menu/shortcut_search.h>
+#include <quillon/kit/menu/menu_parser.h>
+#include <quillon/kit/menu/shortcut_search.h>
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #include "made_up_menus.h"
 
-#include <quillon/records/json_file.h>
+#include <quillon/kit/records/json_file.h>
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/base/program_error.h>
+#include "program_error.h"
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
 #include "cheat_sheet.h"
 
-#include <quillon/base/hash.h>
+#include <quillon/kit/base/hash.h>
 
 #include <optional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/menu/app_sheet.h>
-#include <quillon/records/annotations.h>
+#include <quillon/kit/menu/app_sheet.h>
+#include <quillon/kit/records/annotations.h>
 
 #include <cstddef>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "cheat_sheet.h"
 
-#include <quillon/base/program_error.h>
+#include <quillon/kit/base/program_error.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/base/instant.h>
-#include <quillon/shortcut/modifiers.h>
+#include <quillon/kit/base/instant.h>
+#include <quillon/kit/shortcut/modifiers.h>
 
 #include <optional>
 

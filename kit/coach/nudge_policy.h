@@ -1,9 +1,9 @@
 #pragma once
 
-#include <quillon/base/checked.h>
-#include <quillon/base/instant.h>
-#include <quillon/records/annotations.h>
-#include <quillon/records/usage.h>
+#include <quillon/kit/base/checked.h>
+#include <quillon/kit/base/instant.h>
+#include <quillon/kit/records/annotations.h>
+#include <quillon/kit/records/usage.h>
 
 #include <optional>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <quillon/base/checked.h>
-#include <quillon/menu/menu_entry.h>
-#include <quillon/records/usage.h>
+#include <quillon/kit/base/checked.h>
+#include <quillon/kit/menu/menu_entry.h>
+#include <quillon/kit/records/usage.h>
 
 #include <cstdint>
 #include <functional>

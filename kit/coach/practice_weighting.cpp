@@ -1,6 +1,6 @@
 #include "practice_weighting.h"
 
-#include <quillon/base/checked.h>
+#include <quillon/kit/base/checked.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/records/usage.h>
+#include <quillon/kit/records/usage.h>
 
 #include <optional>
 

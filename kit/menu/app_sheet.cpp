@@ -1,6 +1,6 @@
 #include "app_sheet.h"
 
-#include <quillon/base/hash.h>
+#include <quillon/kit/base/hash.h>
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/base/instant.h>
-#include <quillon/menu/menu_group.h>
+#include "menu_group.h"
+#include <quillon/kit/base/instant.h>
 
 #include <functional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "menu_entry.h"
 
-#include <quillon/base/hash.h>
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/hash.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <algorithm>
 #include <array>

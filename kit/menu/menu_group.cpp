@@ -1,6 +1,6 @@
 #include "menu_group.h"
 
-#include <quillon/base/hash.h>
+#include <quillon/kit/base/hash.h>
 
 #include <unordered_map>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/menu/menu_entry.h>
+#include "menu_entry.h"
 
 #include <functional>
 #include <span>

@@ -1,6 +1,6 @@
 #include "menu_parser.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <cstddef>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/menu/menu_entry.h>
-#include <quillon/menu/raw_menu_item.h>
+#include "menu_entry.h"
+#include "raw_menu_item.h"
 
 #include <span>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "raw_menu_item.h"
 
-#include <quillon/base/hash.h>
+#include <quillon/kit/base/hash.h>
 
 std::size_t std::hash<quillon::RawMenuItem>::operator()(const quillon::RawMenuItem& item) const noexcept {
     return quillon::hashOf(

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/menu/app_sheet.h>
-#include <quillon/menu/raw_menu_item.h>
+#include "app_sheet.h"
+#include "raw_menu_item.h"
 
 #include <string_view>
 #include <vector>

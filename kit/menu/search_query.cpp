@@ -1,7 +1,7 @@
 #include "search_query.h"
 
-#include <quillon/base/unicode.h>
-#include <quillon/shortcut/special_key.h>
+#include <quillon/kit/base/unicode.h>
+#include <quillon/kit/shortcut/special_key.h>
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "search_query.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <algorithm>
 

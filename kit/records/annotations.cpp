@@ -1,6 +1,6 @@
 #include "annotations.h"
 
-#include <quillon/base/hash.h>
+#include <quillon/kit/base/hash.h>
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/base/instant.h>
+#include <quillon/kit/base/instant.h>
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <quillon/menu/app_sheet.h>
-#include <quillon/records/annotations.h>
-#include <quillon/records/usage.h>
+#include "annotations.h"
+#include "usage.h"
+#include <quillon/kit/menu/app_sheet.h>
 
 #include <map>
 #include <optional>

@@ -2,7 +2,7 @@
 #include "json_codec.h"
 #include "json_reader.h"
 
-#include <quillon/shortcut/shortcut.h>
+#include <quillon/kit/shortcut/shortcut.h>
 
 namespace quillon::Json {
 

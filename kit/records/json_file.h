@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/records/data_file.h>
-#include <quillon/records/json_codec.h>
+#include "data_file.h"
+#include "json_codec.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "json_writer.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <array>
 #include <charconv>

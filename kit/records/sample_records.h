@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/records/annotations.h>
-#include <quillon/records/usage.h>
+#include "annotations.h"
+#include "usage.h"
 
 /// What the user of the sample application (menu/sample_menus.h) has done and said so far.
 namespace quillon::SampleMenus {

@@ -1,7 +1,7 @@
 #include "usage.h"
 
-#include <quillon/base/hash.h>
-#include <quillon/base/program_error.h>
+#include <quillon/kit/base/hash.h>
+#include <quillon/kit/base/program_error.h>
 
 #include <algorithm>
 #include <cstddef>

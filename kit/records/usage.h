@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/base/checked.h>
-#include <quillon/base/instant.h>
+#include <quillon/kit/base/checked.h>
+#include <quillon/kit/base/instant.h>
 
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
 #include "key.h"
 
-#include <quillon/base/hash.h>
+#include <quillon/kit/base/hash.h>
 
 #include <algorithm>
 #include <array>

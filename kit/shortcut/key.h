@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/shortcut/special_key.h>
+#include "special_key.h"
 
 #include <functional>
 #include <string>

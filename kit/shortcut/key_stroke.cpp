@@ -1,7 +1,7 @@
 #include "key_stroke.h"
 
-#include <quillon/base/hash.h>
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/hash.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <array>
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/shortcut/key.h>
-#include <quillon/shortcut/modifiers.h>
+#include "key.h"
+#include "modifiers.h"
 
 #include <cstdint>
 #include <functional>

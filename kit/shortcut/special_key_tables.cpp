@@ -1,6 +1,6 @@
 #include "special_key.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <algorithm>
 #include <span>

@@ -30,11 +30,11 @@ class Project:
                          for entry in database}
 
     def flags_of(self, source):
-        """The compiler and its flags without input and output."""
+        """The compiler and its flags without input, output and precompiled headers."""
         words = iter(self.commands[source][:])
         flags = []
         for word in words:
-            if word in ("-o", "-c"):
+            if word in ("-o", "-c", "-include"):
                 next(words)
             else:
                 flags.append(word)
@@ -79,16 +79,13 @@ def neighbour_of(project, header):
     folder = os.path.dirname(header)
     same = [source for source in project.commands if os.path.dirname(source) == folder]
     paths = module_paths(project, folder)
-    using = [source for source, command in project.commands.items() if paths and paths <= set(command)]
+    using = [source for source, command in project.commands.items() if paths <= set(command)]
     return next(iter(same + using), None)
 
 
 def module_paths(project, folder):
     """The -I of a module that has no sources itself."""
-    for link in (project.build / "include").glob("*/quillon/*"):
-        if link.resolve() == project.root / folder:
-            return {f"-I{link.parent.parent}"}
-    return set()
+    return {f"-I{project.build / 'include' / ('quillon_' + folder.replace('/', '_'))}"}
 
 
 # --- clang-tidy ----------------------------------------------------------------------------------------------

@@ -45,7 +45,8 @@ finish_fuzzers() {
 start_fuzzer() {
     local target=$1 seconds=$2 found=$3
     local name=${target##*/} corpus status=0
-    local seeds=$root/fuzz/corpus/$name words=$root/fuzz/${name#fuzz_}.dict
+    local seeds=$root/fuzz/corpus/$name words
+    words=$(find "$root/fuzz" -name "${name#fuzz_}.dict")
     [[ -d $seeds ]] || seeds=
     [[ -f $words ]] || words=
     corpus=$(mktemp -d)

@@ -9,26 +9,15 @@ import pathlib
 import re
 import sys
 
-KIT = ("base", "shortcut", "menu", "records", "coach", "cheatsheet")
-
-# Which modules' headers a folder may include; its own come on top. The longest prefix counts.
-EDGES = {
-    "kit/base": (),
-    "kit/shortcut": ("base",),
-    "kit/menu": ("base", "shortcut"),
-    "kit/records": ("base", "shortcut", "menu"),
-    "kit/coach": ("base", "shortcut", "menu", "records"),
-    "kit/cheatsheet": ("base", "shortcut", "menu", "records"),
-    "app/ports": KIT,
-    "app/core": (*KIT, "ports"),
-    "app/views/components": (*KIT, "ports", "core"),
-    "app/views/overlay": (*KIT, "ports", "core", "components"),
-    "app/views/panels": (*KIT, "ports", "core", "components", "overlay"),
-    "app/views/tray": (*KIT, "ports", "core", "components"),
-    "app/cli": (*KIT, "ports"),
-    "app/platform": (*KIT, "ports"),
-    "app/platform/linux/atspi": (*KIT, "ports", "key_binding"),
-    "app/platform/linux/x11": (*KIT, "ports", "xdg"),  # a window's facts tell which application it is
+# The floors of the house: what the modules below a folder may link at all. What each of them may include is
+# what its own quillon_module() names.
+FLOORS = {
+    "kit": ("kit",),
+    "app/ports": ("kit",),
+    "app/core": ("kit", "app/ports"),
+    "app/views": ("kit", "app/ports", "app/core", "app/views"),
+    "app/cli": ("kit", "app/ports"),
+    "app/platform": ("kit", "app/ports", "app/platform"),
 }
 SEES_EVERYTHING = ("app/start", "tests", "bench", "fuzz")
 
@@ -41,7 +30,8 @@ TEXT = (*CODE, ".txt", ".cmake", ".py", ".md", ".json", ".xml", ".desktop", ".1"
 RECORDED = "tests/data/"
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]+([<"])([^>"]+)[>"]', re.MULTILINE)
-MODULE = re.compile(r"^quillon_module\((\w+)", re.MULTILINE)
+MODULE = re.compile(r"^quillon_module\(([^)]*)\)", re.MULTILINE)
+LISTS = ("HEADERS", "SOURCES", "PUBLIC", "PRIVATE")
 
 
 class Tree:
@@ -85,7 +75,7 @@ def climbing_includes(tree):
     for name, text in tree.of_suffix(*CODE).items():
         for match in INCLUDE.finditer(text):
             if match[2].startswith("../"):
-                yield name, line_of(text, match.start()), "another folder's header is included as <quillon/MODULE/file.h>"
+                yield name, line_of(text, match.start()), "another folder's header is included as <quillon/FOLDER/file.h>"
 
 
 def own_header_first(tree):
@@ -116,8 +106,9 @@ def unregistered_sources(tree):
     registered = set()
     for name, text in tree.cmake_lists().items():
         folder = os.path.dirname(name)
-        for match in re.finditer(r"[\w./-]+\.(?:cpp|py)\b", text.replace("${CMAKE_CURRENT_SOURCE_DIR}/", "")):
-            registered.add(os.path.normpath(os.path.join(folder, match[0])))
+        for match in re.finditer(r"(\$\{PROJECT_SOURCE_DIR\}/)?([\w./-]+\.(?:cpp|py))\b",
+                                 text.replace("${CMAKE_CURRENT_SOURCE_DIR}/", "")):
+            registered.add(match[2] if match[1] else os.path.normpath(os.path.join(folder, match[2])))
     for name in tree.texts:
         is_test = name.startswith("tests/") and name.endswith("_test.py")
         if (name.endswith(".cpp") or is_test) and name not in registered:
@@ -140,37 +131,93 @@ def adds_folder(tree, folder, added):
     return re.search(rf"(add_subdirectory\(|\$\{{CMAKE_CURRENT_SOURCE_DIR\}}/){name}(?![\w.-])", lists) is not None
 
 
-def modules_of_folders(tree):
+class Module:
+    """What a folder's quillon_module() says: its public headers, and the folders of the modules it links."""
+
+    def __init__(self, arguments):
+        lists, current = {name: [] for name in LISTS}, None
+        for word in re.sub(r"#.*", "", arguments).split():
+            if word in LISTS:
+                current = lists[word]
+            elif current is not None:
+                current.append(word)
+        self.headers = set(lists["HEADERS"])
+        self.public = folders_of(lists["PUBLIC"])
+        self.links = self.public | folders_of(lists["PRIVATE"])
+
+
+def folders_of(targets):
+    return {target.removeprefix("quillon::").replace("::", "/") for target in targets if target.startswith("quillon::")}
+
+
+def modules_of(tree):
     found = {}
     for name, text in tree.cmake_lists().items():
         match = MODULE.search(text)
-        if match:
-            found[str(pathlib.PurePath(name).parent)] = match[1]
+        if match and not under(name, SEES_EVERYTHING):
+            found[str(pathlib.PurePath(name).parent)] = Module(match[1])
     return found
 
 
-def forbidden_edges(tree):
-    modules = modules_of_folders(tree)
+def included_folders(text):
+    for match in INCLUDE.finditer(text):
+        if match[2].startswith("quillon/"):
+            yield line_of(text, match.start()), os.path.dirname(match[2].removeprefix("quillon/"))
+
+
+def unlinked_includes(tree):
+    """An include over an edge that the module has only through others, or that its headers keep to themselves."""
+    modules = modules_of(tree)
     for name, text in tree.of_suffix(*CODE).items():
-        if under(name, SEES_EVERYTHING):
+        module = modules.get(os.path.dirname(name))
+        if module is None:
             continue
-        allowed = allowed_modules(name, modules)
-        for match in INCLUDE.finditer(text):
-            parts = match[2].split("/")
-            if parts[0] == "quillon" and parts[1] not in allowed:
-                yield name, line_of(text, match.start()), f"may not see {parts[1]}, only {', '.join(sorted(allowed))}"
+        is_public = os.path.basename(name) in module.headers
+        for line, folder in included_folders(text):
+            if folder not in module.links:
+                yield name, line, f"{os.path.dirname(name)} does not link {folder}"
+            elif is_public and folder not in module.public:
+                yield name, line, f"a public header mentions {folder}: link it as PUBLIC"
 
 
-def allowed_modules(name, modules):
-    folder = str(pathlib.PurePath(name).parent)
-    prefixes = [prefix for prefix in EDGES if under(name, (prefix,))]
-    if not prefixes:
-        return {f"what EDGES in {pathlib.PurePath(__file__).name} names"}
-    return {*EDGES[max(prefixes, key=len)], modules.get(folder, pathlib.PurePath(folder).name)}
+def unused_links(tree):
+    """A link along which nothing is included."""
+    for folder, module in modules_of(tree).items():
+        used = {target for name, text in tree.of_suffix(*CODE).items() if os.path.dirname(name) == folder
+                for _, target in included_folders(text)}
+        for link in sorted(module.links - used):
+            yield f"{folder}/CMakeLists.txt", 1, f"links {link} and includes nothing of it"
+
+
+def links_off_their_floor(tree):
+    for folder, module in modules_of(tree).items():
+        floors = [floor for floor in FLOORS if folder == floor or under(folder, (floor,))]
+        allowed = FLOORS[floors[0]] if floors else ()
+        for link in sorted(module.links):
+            if link not in allowed and not under(link, allowed):
+                yield f"{folder}/CMakeLists.txt", 1, f"may not link {link}, only {', '.join(allowed) or 'what FLOORS names'}"
+
+
+def circles(tree):
+    modules = modules_of(tree)
+    done, path = set(), []
+
+    def visit(folder):
+        if folder in path:
+            yield f"{folder}/CMakeLists.txt", 1, f"a circle of links: {' → '.join([*path[path.index(folder):], folder])}"
+        elif folder not in done and folder in modules:
+            path.append(folder)
+            for link in sorted(modules[folder].links):
+                yield from visit(link)
+            path.pop()
+            done.add(folder)
+
+    for folder in sorted(modules):
+        yield from visit(folder)
 
 
 RULES = (forbidden_words, globs, climbing_includes, own_header_first, guarded_headers, long_sources,
-         unregistered_sources, unreached_lists, forbidden_edges)
+         unregistered_sources, unreached_lists, unlinked_includes, unused_links, links_off_their_floor, circles)
 
 
 def main():

@@ -8,10 +8,13 @@ import unittest
 SCRIPT = pathlib.Path(__file__).resolve().parents[2] / "scripts/lib/source_rules.py"
 
 CLEAN = {
-    "kit/menu/CMakeLists.txt": "quillon_module(menu SOURCES parser.cpp)\n",
+    "kit/shortcut/CMakeLists.txt": "quillon_module(HEADERS key.h)\n",
+    "kit/shortcut/key.h": "#pragma once\n",
+    "kit/menu/CMakeLists.txt": "quillon_module(HEADERS item.h SOURCES parser.cpp PRIVATE quillon::kit::shortcut)\n",
+    "kit/menu/item.h": "#pragma once\n",
     "kit/menu/parser.h": "#pragma once\n",
-    "kit/menu/parser.cpp": '#include "parser.h"\n\n#include <quillon/shortcut/key.h>\n',
-    "kit/CMakeLists.txt": "add_subdirectory(menu)\n",
+    "kit/menu/parser.cpp": '#include "parser.h"\n\n#include <quillon/kit/shortcut/key.h>\n',
+    "kit/CMakeLists.txt": "add_subdirectory(shortcut)\nadd_subdirectory(menu)\n",
     "CMakeLists.txt": "add_subdirectory(kit)\n",
 }
 
@@ -73,9 +76,30 @@ class SourceRulesTest(unittest.TestCase):
     def test_folders_that_are_not_added(self):
         self.assert_found("kit/coach/CMakeLists.txt", "\n", "kit/coach/CMakeLists.txt:1: ")
 
-    def test_edges(self):
-        self.assert_found("kit/menu/parser.h", "#pragma once\n#include <quillon/records/usage.h>\n",
-                          "kit/menu/parser.h:2: may not see records")
+    def test_a_shared_source_is_named_from_the_top(self):
+        shared = {"tests/support/main.cpp": "\n", "tests/CMakeLists.txt": "f(${PROJECT_SOURCE_DIR}/tests/support/main.cpp)\n",
+                  "CMakeLists.txt": "add_subdirectory(kit)\nadd_subdirectory(tests)\n"}
+        self.assertEqual(findings(shared), [])
+
+    def test_includes_of_what_is_not_linked(self):
+        self.assert_found("kit/menu/parser.h", "#pragma once\n#include <quillon/kit/records/usage.h>\n",
+                          "kit/menu/parser.h:2: kit/menu does not link kit/records")
+
+    def test_public_headers_that_mention_what_only_the_sources_link(self):
+        self.assert_found("kit/menu/item.h", "#pragma once\n#include <quillon/kit/shortcut/key.h>\n",
+                          "kit/menu/item.h:2: a public header mentions kit/shortcut")
+
+    def test_links_of_which_nothing_is_included(self):
+        self.assert_found("kit/menu/parser.cpp", '#include "parser.h"\n',
+                          "kit/menu/CMakeLists.txt:1: links kit/shortcut and includes nothing of it")
+
+    def test_links_up_to_a_higher_floor(self):
+        self.assert_found("kit/shortcut/CMakeLists.txt", "quillon_module(HEADERS key.h PRIVATE quillon::app::ports)\n",
+                          "kit/shortcut/CMakeLists.txt:1: may not link app/ports")
+
+    def test_circles(self):
+        self.assert_found("kit/shortcut/CMakeLists.txt", "quillon_module(HEADERS key.h PRIVATE quillon::kit::menu)\n",
+                          "kit/menu/CMakeLists.txt:1: a circle of links: kit/menu → kit/shortcut → kit/menu")
 
 
 if __name__ == "__main__":

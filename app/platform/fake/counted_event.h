@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/subscription.h>
+#include <quillon/kit/base/subscription.h>
 
 #include <cstddef>
 #include <functional>

@@ -2,7 +2,7 @@
 
 #include "counted_event.h"
 
-#include <quillon/ports/accessibility_access.h>
+#include <quillon/app/ports/accessibility_access.h>
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 
 #include "counted_event.h"
 
-#include <quillon/ports/appearance.h>
+#include <quillon/app/ports/appearance.h>
 
 #include <utility>
 

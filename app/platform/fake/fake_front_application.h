@@ -2,7 +2,7 @@
 
 #include "counted_event.h"
 
-#include <quillon/ports/front_application.h>
+#include <quillon/app/ports/front_application.h>
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include "counted_event.h"
 #include "fake_clock.h"
 
-#include <quillon/ports/keyboard.h>
+#include <quillon/app/ports/keyboard.h>
 
 #include <cstddef>
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/menu_reader.h>
+#include <quillon/app/ports/menu_reader.h>
 
 #include <cstdint>
 #include <map>

@@ -2,7 +2,7 @@
 
 #include "counted_event.h"
 
-#include <quillon/ports/panel_windows.h>
+#include <quillon/app/ports/panel_windows.h>
 
 #include <optional>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include "fake_clock.h"
 
-#include <quillon/ports/timers.h>
+#include <quillon/app/ports/timers.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/accessibility_access.h>
+#include <quillon/app/ports/accessibility_access.h>
 
 namespace quillon {
 

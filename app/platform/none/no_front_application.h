@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/front_application.h>
+#include <quillon/app/ports/front_application.h>
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/keyboard.h>
+#include <quillon/app/ports/keyboard.h>
 
 #include <limits>
 #include <memory>

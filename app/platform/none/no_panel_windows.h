@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/panel_windows.h>
+#include <quillon/app/ports/panel_windows.h>
 
 namespace quillon {
 

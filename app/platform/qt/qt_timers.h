@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/timers.h>
+#include <quillon/app/ports/timers.h>
 
 namespace quillon {
 

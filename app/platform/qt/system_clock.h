@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/clock.h>
+#include <quillon/app/ports/clock.h>
 
 namespace quillon {
 

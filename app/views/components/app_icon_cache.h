@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/app_icons.h>
+#include <quillon/app/ports/app_icons.h>
 
 #include <QHash>
 #include <QPixmap>

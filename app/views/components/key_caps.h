@@ -2,7 +2,7 @@
 
 #include "theme.h"
 
-#include <quillon/shortcut/shortcut.h>
+#include <quillon/kit/shortcut/shortcut.h>
 
 #include <QFontMetricsF>
 #include <QHash>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/ports/appearance.h>
+#include <quillon/app/ports/appearance.h>
 
 #include <QColor>
 #include <QPalette>

@@ -3,7 +3,7 @@
 #include "palette.h"
 #include "text_styles.h"
 
-#include <quillon/ports/appearance.h>
+#include <quillon/app/ports/appearance.h>
 
 namespace quillon {
 

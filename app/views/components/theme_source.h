@@ -2,7 +2,7 @@
 
 #include "theme.h"
 
-#include <quillon/ports/subscription.h>
+#include <quillon/kit/base/subscription.h>
 
 namespace quillon {
 

@@ -2,7 +2,7 @@
 
 #include "prepared_sheet.h"
 
-#include <quillon/components/symbols.h>
+#include <quillon/app/views/components/symbols.h>
 
 #include <QString>
 

@@ -2,8 +2,8 @@
 
 #include "area_layout.h"
 
-#include <quillon/components/nine_patch.h>
-#include <quillon/components/theme.h>
+#include <quillon/app/views/components/nine_patch.h>
+#include <quillon/app/views/components/theme.h>
 
 #include <QPainter>
 

@@ -2,10 +2,10 @@
 
 #include "overlay_state.h"
 
-#include <quillon/components/prominent_button.h>
-#include <quillon/components/symbol_view.h>
-#include <quillon/components/themed_label.h>
-#include <quillon/components/themed_widget.h>
+#include <quillon/app/views/components/prominent_button.h>
+#include <quillon/app/views/components/symbol_view.h>
+#include <quillon/app/views/components/themed_label.h>
+#include <quillon/app/views/components/themed_widget.h>
 
 namespace quillon {
 

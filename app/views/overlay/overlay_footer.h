@@ -1,9 +1,9 @@
 #pragma once
 
-#include <quillon/components/keys_view.h>
-#include <quillon/components/symbol_view.h>
-#include <quillon/components/themed_label.h>
-#include <quillon/components/themed_widget.h>
+#include <quillon/app/views/components/keys_view.h>
+#include <quillon/app/views/components/symbol_view.h>
+#include <quillon/app/views/components/themed_label.h>
+#include <quillon/app/views/components/themed_widget.h>
 
 #include <optional>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <quillon/components/app_icon_view.h>
-#include <quillon/components/search_box.h>
-#include <quillon/components/themed_label.h>
+#include <quillon/app/views/components/app_icon_view.h>
+#include <quillon/app/views/components/search_box.h>
+#include <quillon/app/views/components/themed_label.h>
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/components/symbols.h>
-#include <quillon/components/vocabulary.h>
+#include <quillon/app/views/components/symbols.h>
+#include <quillon/app/views/components/vocabulary.h>
 
 #include <QString>
 

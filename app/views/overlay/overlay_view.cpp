@@ -1,7 +1,7 @@
 #include "overlay_view.h"
 
-#include <quillon/components/text.h>
-#include <quillon/components/thin_scroll_bar.h>
+#include <quillon/app/views/components/text.h>
+#include <quillon/app/views/components/thin_scroll_bar.h>
 
 #include <QGridLayout>
 #include <QKeyEvent>

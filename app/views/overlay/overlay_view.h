@@ -6,9 +6,9 @@
 #include "overlay_state.h"
 #include "shortcut_area.h"
 
-#include <quillon/components/nine_patch.h>
-#include <quillon/core/app_model.h>
-#include <quillon/menu/shortcut_search.h>
+#include <quillon/app/core/app_model.h>
+#include <quillon/app/views/components/nine_patch.h>
+#include <quillon/kit/menu/shortcut_search.h>
 
 #include <QTimer>
 

@@ -1,6 +1,6 @@
 #include "prepared_sheet.h"
 
-#include <quillon/components/text.h>
+#include <quillon/app/views/components/text.h>
 
 #include <string_view>
 #include <unordered_map>

@@ -4,9 +4,9 @@
 #include "area_painter.h"
 #include "overlay_state.h"
 
-#include <quillon/components/styled_menu.h>
-#include <quillon/components/text.h>
-#include <quillon/components/thin_scroll_bar.h>
+#include <quillon/app/views/components/styled_menu.h>
+#include <quillon/app/views/components/text.h>
+#include <quillon/app/views/components/thin_scroll_bar.h>
 
 #include <QAccessible>
 #include <QContextMenuEvent>

@@ -3,8 +3,8 @@
 #include "area_layout.h"
 #include "row_steps.h"
 
-#include <quillon/components/nine_patch.h>
-#include <quillon/components/theme_source.h>
+#include <quillon/app/views/components/nine_patch.h>
+#include <quillon/app/views/components/theme_source.h>
 
 #include <QAbstractScrollArea>
 #include <QHelpEvent>

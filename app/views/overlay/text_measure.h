@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/components/key_caps.h>
-#include <quillon/components/theme.h>
+#include <quillon/app/views/components/key_caps.h>
+#include <quillon/app/views/components/theme.h>
 
 #include <QFontMetricsF>
 #include <QHash>

@@ -2,9 +2,9 @@
 
 #include "panel_shadow.h"
 
-#include <quillon/components/theme_source.h>
-#include <quillon/core/panel_host.h>
-#include <quillon/ports/panel_windows.h>
+#include <quillon/app/core/panel_host.h>
+#include <quillon/app/ports/panel_windows.h>
+#include <quillon/app/views/components/theme_source.h>
 
 #include <QTimer>
 #include <QWidget>

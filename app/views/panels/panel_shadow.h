@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/components/nine_patch.h>
+#include <quillon/app/views/components/nine_patch.h>
 
 #include <QColor>
 #include <QPainter>

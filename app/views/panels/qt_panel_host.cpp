@@ -2,7 +2,7 @@
 
 #include "floating_panel_window.h"
 
-#include <quillon/overlay/overlay_view.h>
+#include <quillon/app/views/overlay/overlay_view.h>
 
 #include <QCursor>
 #include <QGuiApplication>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <quillon/components/app_icon_cache.h>
-#include <quillon/components/theme_source.h>
-#include <quillon/core/panel_host.h>
-#include <quillon/overlay/overlay_state.h>
-#include <quillon/ports/panel_windows.h>
+#include <quillon/app/core/panel_host.h>
+#include <quillon/app/ports/panel_windows.h>
+#include <quillon/app/views/components/app_icon_cache.h>
+#include <quillon/app/views/components/theme_source.h>
+#include <quillon/app/views/overlay/overlay_state.h>
 
 namespace quillon {
 

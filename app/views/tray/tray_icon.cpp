@@ -1,6 +1,6 @@
 #include "tray_icon.h"
 
-#include <quillon/components/symbols.h>
+#include <quillon/app/views/components/symbols.h>
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/components/palette.h>
+#include <quillon/app/views/components/palette.h>
 
 #include <QIcon>
 

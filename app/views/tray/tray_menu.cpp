@@ -2,7 +2,7 @@
 
 #include "tray_icon.h"
 
-#include <quillon/components/text.h>
+#include <quillon/app/views/components/text.h>
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <quillon/components/theme_source.h>
-#include <quillon/core/app_model.h>
+#include <quillon/app/core/app_model.h>
+#include <quillon/app/views/components/theme_source.h>
 
 #include <QAction>
 #include <QMenu>

@@ -1,4 +1,4 @@
-#include <quillon/base/checked.h>
+#include <quillon/kit/base/checked.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include <quillon/base/hash.h>
-#include <quillon/base/instant.h>
+#include <quillon/kit/base/hash.h>
+#include <quillon/kit/base/instant.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <quillon/base/instant.h>
+#include <quillon/kit/base/instant.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include <quillon/cheatsheet/cheat_sheet.h>
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/sample_records.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/cheatsheet/cheat_sheet.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/sample_records.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

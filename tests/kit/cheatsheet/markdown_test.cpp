@@ -1,6 +1,6 @@
-#include <quillon/cheatsheet/cheat_sheet.h>
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/sample_records.h>
+#include <quillon/kit/cheatsheet/cheat_sheet.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/sample_records.h>
 
 #include <gmock/gmock.h>
 

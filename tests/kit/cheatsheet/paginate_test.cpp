@@ -1,5 +1,5 @@
-#include <quillon/cheatsheet/cheat_sheet.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/cheatsheet/cheat_sheet.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

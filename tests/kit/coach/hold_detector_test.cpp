@@ -1,4 +1,4 @@
-#include <quillon/coach/hold_detector.h>
+#include <quillon/kit/coach/hold_detector.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <quillon/coach/nudge_policy.h>
+#include <quillon/kit/coach/nudge_policy.h>
 
 #include <gtest/gtest.h>
 

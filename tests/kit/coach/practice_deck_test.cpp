@@ -1,9 +1,9 @@
-#include <quillon/coach/practice_deck.h>
-#include <quillon/coach/practice_weighting.h>
-#include <quillon/coach/seeded_generator.h>
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/sample_records.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/coach/practice_deck.h>
+#include <quillon/kit/coach/practice_weighting.h>
+#include <quillon/kit/coach/seeded_generator.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/sample_records.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
-#include <quillon/coach/practice_weighting.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/coach/practice_weighting.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <quillon/coach/seeded_generator.h>
+#include <quillon/kit/coach/seeded_generator.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include <quillon/menu/app_sheet.h>
-#include <quillon/menu/raw_menu_item.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/menu/app_sheet.h>
+#include <quillon/kit/menu/raw_menu_item.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include <quillon/menu/menu_entry.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/menu/menu_entry.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gtest/gtest.h>
 

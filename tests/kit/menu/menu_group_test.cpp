@@ -1,5 +1,5 @@
-#include <quillon/menu/menu_group.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/menu/menu_group.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
-#include <quillon/base/unicode.h>
-#include <quillon/menu/menu_parser.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/base/unicode.h>
+#include <quillon/kit/menu/menu_parser.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
-#include <quillon/menu/sample_menus.h>
-#include <quillon/menu/shortcut_search.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/menu/shortcut_search.h>
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
-#include <quillon/base/unicode.h>
-#include <quillon/menu/sample_menus.h>
-#include <quillon/menu/shortcut_search.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/base/unicode.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/menu/shortcut_search.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

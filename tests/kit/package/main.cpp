@@ -1,10 +1,10 @@
-#include <quillon/base/unicode.h>
-#include <quillon/cheatsheet/cheat_sheet.h>
-#include <quillon/coach/practice_deck.h>
-#include <quillon/coach/seeded_generator.h>
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/json_file.h>
-#include <quillon/records/sample_records.h>
+#include <quillon/kit/base/unicode.h>
+#include <quillon/kit/cheatsheet/cheat_sheet.h>
+#include <quillon/kit/coach/practice_deck.h>
+#include <quillon/kit/coach/seeded_generator.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/json_file.h>
+#include <quillon/kit/records/sample_records.h>
 
 /// Uses every module once; 0 when all is well.
 int main() {

@@ -1,5 +1,5 @@
-#include <quillon/records/annotations.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/records/annotations.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

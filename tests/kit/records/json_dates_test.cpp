@@ -1,4 +1,4 @@
-#include <quillon/records/json_codec.h>
+#include <quillon/kit/records/json_codec.h>
 
 #include <gtest/gtest.h>
 

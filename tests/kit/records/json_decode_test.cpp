@@ -1,5 +1,5 @@
-#include <quillon/records/json_codec.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gtest/gtest.h>
 

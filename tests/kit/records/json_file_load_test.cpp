@@ -1,6 +1,6 @@
 #include "temporary_folder.h"
 
-#include <quillon/records/json_file.h>
+#include <quillon/kit/records/json_file.h>
 
 #include <gtest/gtest.h>
 

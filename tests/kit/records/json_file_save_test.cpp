@@ -1,9 +1,9 @@
 #include "child_process.h"
 #include "temporary_folder.h"
 
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/json_file.h>
-#include <quillon/records/sample_records.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/json_file.h>
+#include <quillon/kit/records/sample_records.h>
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/json_codec.h>
-#include <quillon/records/sample_records.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/kit/records/sample_records.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include <quillon/menu/sample_menus.h>
-#include <quillon/records/sample_records.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/sample_records.h>
 
 #include <gtest/gtest.h>
 

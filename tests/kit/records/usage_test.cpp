@@ -1,5 +1,5 @@
-#include <quillon/records/usage.h>
-#include <quillon/test_values/random_values.h>
+#include <quillon/kit/records/usage.h>
+#include <quillon/tests/kit/values/random_values.h>
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include <quillon/shortcut/key_stroke.h>
+#include <quillon/kit/shortcut/key_stroke.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <quillon/shortcut/key.h>
+#include <quillon/kit/shortcut/key.h>
 
 #include <gtest/gtest.h>
 

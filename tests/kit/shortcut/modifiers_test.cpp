@@ -1,4 +1,4 @@
-#include <quillon/shortcut/modifiers.h>
+#include <quillon/kit/shortcut/modifiers.h>
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include <quillon/shortcut/shortcut.h>
+#include <quillon/kit/shortcut/shortcut.h>
 
 #include <gtest/gtest.h>
 

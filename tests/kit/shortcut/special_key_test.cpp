@@ -1,5 +1,5 @@
-#include <quillon/base/unicode.h>
-#include <quillon/shortcut/special_key.h>
+#include <quillon/kit/base/unicode.h>
+#include <quillon/kit/shortcut/special_key.h>
 
 #include <gtest/gtest.h>
 

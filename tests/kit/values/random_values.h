@@ -1,10 +1,10 @@
 #pragma once
 
-#include <quillon/menu/app_sheet.h>
-#include <quillon/menu/raw_menu_item.h>
-#include <quillon/records/annotations.h>
-#include <quillon/records/json_codec.h>
-#include <quillon/records/usage.h>
+#include <quillon/kit/menu/app_sheet.h>
+#include <quillon/kit/menu/raw_menu_item.h>
+#include <quillon/kit/records/annotations.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/kit/records/usage.h>
 
 #include <cstddef>
 #include <cstdint>

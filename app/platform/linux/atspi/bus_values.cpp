@@ -1,6 +1,6 @@
 #include "bus_values.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <systemd/sd-bus.h>
 

@@ -2,7 +2,7 @@
 
 #include "read_limits.h"
 
-#include <quillon/ports/menu_reader.h>
+#include <quillon/app/ports/menu_reader.h>
 
 namespace quillon {
 

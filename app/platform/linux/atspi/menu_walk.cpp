@@ -1,6 +1,6 @@
 #include "menu_walk.h"
 
-#include <quillon/key_binding/key_binding.h>
+#include <quillon/app/platform/linux/atspi/key_binding/key_binding.h>
 
 #include <cstdint>
 #include <utility>

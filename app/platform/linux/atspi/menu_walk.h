@@ -3,8 +3,8 @@
 #include "accessibility_calls.h"
 #include "menu_outline.h"
 
-#include <quillon/key_binding/toolkit.h>
-#include <quillon/menu/raw_menu_item.h>
+#include <quillon/app/platform/linux/atspi/key_binding/toolkit.h>
+#include <quillon/kit/menu/raw_menu_item.h>
 
 #include <cstddef>
 #include <deque>

@@ -3,8 +3,8 @@
 #include "accessibility_calls.h"
 #include "object_ref.h"
 
-#include <quillon/key_binding/toolkit.h>
-#include <quillon/ports/running_app.h>
+#include <quillon/app/platform/linux/atspi/key_binding/toolkit.h>
+#include <quillon/app/ports/running_app.h>
 
 #include <optional>
 #include <span>

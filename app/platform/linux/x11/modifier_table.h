@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/shortcut/modifiers.h>
+#include <quillon/kit/shortcut/modifiers.h>
 
 #include <array>
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "x11_connection.h"
 
-#include <quillon/ports/app_icons.h>
+#include <quillon/app/ports/app_icons.h>
 
 #include <cstdint>
 #include <optional>

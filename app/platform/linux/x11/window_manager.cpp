@@ -2,7 +2,7 @@
 
 #include "x11_property.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "x11_property.h"
 #include "x11_queries.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <optional>
 

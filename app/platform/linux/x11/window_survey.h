@@ -2,7 +2,7 @@
 
 #include "x11_connection.h"
 
-#include <quillon/xdg/app_facts.h>
+#include <quillon/app/platform/linux/applications/app_facts.h>
 
 #include <span>
 #include <string>

@@ -3,7 +3,7 @@
 #include "x11_atoms.h"
 #include "x11_reply.h"
 
-#include <quillon/ports/subscription.h>
+#include <quillon/kit/base/subscription.h>
 
 #include <xcb/xcb.h>
 

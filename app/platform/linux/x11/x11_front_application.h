@@ -4,9 +4,9 @@
 #include "active_window.h"
 #include "window_survey.h"
 
-#include <quillon/ports/app_icons.h>
-#include <quillon/ports/front_application.h>
-#include <quillon/xdg/app_identifier.h>
+#include <quillon/app/platform/linux/applications/app_identifier.h>
+#include <quillon/app/ports/app_icons.h>
+#include <quillon/app/ports/front_application.h>
 
 #include <functional>
 #include <memory>

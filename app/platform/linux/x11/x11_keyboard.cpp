@@ -2,7 +2,7 @@
 
 #include "xkb_header.h"
 
-#include <quillon/base/instant.h>
+#include <quillon/kit/base/instant.h>
 
 #include <chrono>
 #include <limits>

@@ -3,7 +3,7 @@
 #include "keyboard_map.h"
 #include "raw_input.h"
 
-#include <quillon/ports/keyboard.h>
+#include <quillon/app/ports/keyboard.h>
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 
 #include "key_equivalents.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <array>
 #include <string>

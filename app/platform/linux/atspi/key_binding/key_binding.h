@@ -2,7 +2,7 @@
 
 #include "toolkit.h"
 
-#include <quillon/shortcut/shortcut.h>
+#include <quillon/kit/shortcut/shortcut.h>
 
 #include <string_view>
 

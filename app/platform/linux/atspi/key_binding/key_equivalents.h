@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/shortcut/shortcut.h>
+#include <quillon/kit/shortcut/shortcut.h>
 
 #include <string_view>
 

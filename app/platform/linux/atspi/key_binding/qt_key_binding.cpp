@@ -1,6 +1,6 @@
 #include "key_equivalents.h"
 
-#include <quillon/base/unicode.h>
+#include <quillon/kit/base/unicode.h>
 
 #include <QKeySequence>
 #include <QString>

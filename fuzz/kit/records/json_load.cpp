@@ -1,0 +1,56 @@
+#include <quillon/fuzz/support/law.h>
+
+#include <quillon/kit/base/unicode.h>
+#include <quillon/kit/records/json_codec.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+namespace quillon {
+namespace {
+
+/// What loads can be saved, as valid text, and then loads as itself. (The first saving may move a date that
+/// no four digits name.)
+template <class Value>
+void check(std::string_view text) {
+    const std::optional<Value> value = Json::decode<Value>(text);
+    if (!value)
+        return;
+    QUILLON_LAW(unicode::isValid(text));
+    const std::optional<std::string> written = Json::encode(*value);
+    QUILLON_LAW(written.has_value());
+    QUILLON_LAW(written->find('\n') == std::string::npos);
+    const std::optional<Value> again = Json::decode<Value>(*written);
+    QUILLON_LAW(again.has_value());
+    QUILLON_LAW(Json::encode(*again) == written);
+    QUILLON_LAW(Json::decode<Value>(*Json::encode(*again)) == again);
+    QUILLON_LAW(*again != *value || std::hash<Value>{}(*again) == std::hash<Value>{}(*value));
+}
+
+void checkMap(std::string_view text) {
+    const std::optional<SheetMap> sheets = Json::decode<SheetMap>(text);
+    if (!sheets)
+        return;
+    const std::optional<std::string> written = Json::encode(*sheets);
+    QUILLON_LAW(written.has_value());
+    const std::optional<SheetMap> again = Json::decode<SheetMap>(*written);
+    QUILLON_LAW(again.has_value() && Json::encode(*again) == written);
+    for (const auto& [bundleID, sheet] : *sheets) {
+        for (const MenuEntry& entry : sheet.entries)
+            QUILLON_LAW(sheet.entry(entry.id())->id() == entry.id());
+    }
+}
+
+} // namespace
+} // namespace quillon
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    quillon::check<quillon::AppSheet>(text);
+    quillon::check<quillon::UsageBook>(text);
+    quillon::check<quillon::AnnotationBook>(text);
+    quillon::checkMap(text);
+    return 0;
+}

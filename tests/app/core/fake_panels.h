@@ -1,0 +1,57 @@
+#pragma once
+
+#include <quillon/app/core/panel_host.h>
+
+#include <memory>
+#include <utility>
+
+namespace quillon {
+
+/// What happened to a panel so far; outlives the panel.
+struct PanelRecord {
+    Rect frame;
+    bool visible = false;
+    bool hasKeyboard = false;
+    int timesShown = 0;
+};
+
+class FakePanel final : public FloatingPanel {
+  public:
+    explicit FakePanel(std::shared_ptr<PanelRecord> record) : m_record(std::move(record)) {}
+
+    void setFrame(Rect frame) override { m_record->frame = frame; }
+    void orderFront() override {
+        m_record->visible = true;
+        ++m_record->timesShown;
+    }
+    void makeKey() override { m_record->hasKeyboard = true; }
+    void orderOut() override {
+        m_record->visible = false;
+        m_record->hasKeyboard = false;
+    }
+    bool isVisible() const override { return m_record->visible; }
+
+  private:
+    std::shared_ptr<PanelRecord> m_record;
+};
+
+/// Screens, pointer and panels of which a test can see all.
+class FakePanelHost final : public PanelHost {
+  public:
+    std::vector<Screen> screens() const override { return allScreens; }
+    Point pointer() const override { return pointerPosition; }
+    std::unique_ptr<FloatingPanel> makeOverlayPanel(AppModel&) override {
+        ++panelsMade;
+        auto made = std::make_unique<FakePanel>(overlay);
+        overlayPanel = made.get();
+        return made;
+    }
+
+    std::vector<Screen> allScreens{{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}};
+    Point pointerPosition;
+    std::shared_ptr<PanelRecord> overlay = std::make_shared<PanelRecord>();
+    FloatingPanel* overlayPanel = nullptr;
+    int panelsMade = 0;
+};
+
+} // namespace quillon

@@ -1,0 +1,126 @@
+#include <quillon/app/platform/fake/fake_desktop.h>
+
+#include <gmock/gmock.h>
+
+#include <vector>
+
+namespace quillon {
+namespace {
+
+using testing::ElementsAre;
+
+RunningApp app(std::int64_t pid, std::string bundleID) {
+    return {pid, std::move(bundleID), "", {}};
+}
+
+MenuReading fileMenu() {
+    RawMenuItem file;
+    file.title = "File";
+    return {{file}, ReadOutcome::complete};
+}
+
+TEST(FakeFrontApplicationTest, TellsWhatIsBroughtToTheFront) {
+    FakeFrontApplication front;
+    std::vector<RunningApp> told;
+    const Subscription listener = front.onActivated([&](const RunningApp& a) { told.push_back(a); });
+    EXPECT_FALSE(front.current());
+    front.activate(app(1, "a"));
+    front.activate(app(1, "a"));
+    front.setCurrent(std::nullopt);
+    EXPECT_THAT(told, ElementsAre(app(1, "a"), app(1, "a")));
+    EXPECT_FALSE(front.current());
+    EXPECT_EQ(front.listeners(), 1U);
+}
+
+TEST(FakeMenuReaderTest, AnswersByProcessThenByIdentifierAndNotesWhatWasAsked) {
+    FakeMenuReader reader;
+    reader.answer(7, {{}, ReadOutcome::noMenuBar});
+    reader.answer("a", fileMenu());
+    EXPECT_EQ(reader.readMenus(app(7, "a"), {}).outcome, ReadOutcome::noMenuBar);
+    EXPECT_EQ(reader.readMenus(app(8, "a"), {}).outcome, ReadOutcome::complete);
+    EXPECT_EQ(reader.readMenus(app(8, "b"), {}).outcome, ReadOutcome::noSuchApp);
+    EXPECT_THAT(reader.asked(), ElementsAre(app(7, "a"), app(8, "a"), app(8, "b")));
+}
+
+TEST(FakeMenuReaderTest, GivesUpWhenToldToStop) {
+    FakeMenuReader reader;
+    reader.answer("a", fileMenu());
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_EQ(reader.readMenus(app(1, "a"), stop.get_token()), (MenuReading{{}, ReadOutcome::partial}));
+}
+
+TEST(FakeAccessibilityAccessTest, TellsOnlyChanges) {
+    FakeAccessibilityAccess access;
+    int told = 0;
+    const Subscription listener = access.onChanged([&] { ++told; });
+    access.setTrusted(false);
+    access.setTrusted(true);
+    access.setTrusted(true);
+    access.setTrustedSilently(false);
+    EXPECT_EQ(told, 1);
+    EXPECT_FALSE(access.isTrusted());
+}
+
+TEST(FakeAccessibilityAccessTest, MayGrantWhenAsked) {
+    FakeAccessibilityAccess access;
+    access.ask();
+    EXPECT_FALSE(access.isTrusted());
+    access.setGrantsWhenAsked(true);
+    access.ask();
+    EXPECT_TRUE(access.isTrusted());
+    EXPECT_EQ(access.asked(), 2);
+}
+
+TEST(FakePanelWindowsTest, TheKeyboardGoesBackOnlyFromItsOwner) {
+    FakePanelWindows panels;
+    panels.takeKeyboard(5);
+    panels.returnKeyboard(6);
+    EXPECT_EQ(panels.keyboardOwner(), 5U);
+    panels.returnKeyboard(5);
+    EXPECT_EQ(panels.keyboardOwner(), std::nullopt);
+}
+
+TEST(FakePanelWindowsTest, TellsPressesAndBlending) {
+    FakePanelWindows panels;
+    int presses = 0;
+    int blendings = 0;
+    Subscription press = panels.onPressElsewhere([&] { ++presses; });
+    const Subscription blending = panels.onCompositedChanged([&] { ++blendings; });
+    panels.pressElsewhere();
+    press.reset();
+    panels.pressElsewhere();
+    panels.setComposited(false);
+    panels.setComposited(false);
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(blendings, 1);
+    EXPECT_EQ(panels.pressListeners(), 0U);
+}
+
+TEST(FakeAppIconsTest, KnowsWhatItWasTold) {
+    FakeAppIcons icons;
+    icons.set("a", IconName{"a-icon"});
+    EXPECT_TRUE(icons.icon("a"));
+    EXPECT_FALSE(icons.icon("b"));
+}
+
+TEST(FakeAppearanceTest, TellsOnlyChanges) {
+    FakeAppearance appearance;
+    int told = 0;
+    const Subscription listener = appearance.onChanged([&] { ++told; });
+    appearance.set({});
+    appearance.set({.scheme = ColourScheme::dark, .fontFamily = "Sans", .fontPoints = 11});
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(appearance.look().scheme, ColourScheme::dark);
+}
+
+TEST(FakeDesktopTest, ItsFakesShareOneClock) {
+    FakeDesktop desktop;
+    const auto ages = desktop.keyboard.observeInput();
+    desktop.keyboard.input(InputKind::keyDown);
+    desktop.timers.advance(Seconds(2));
+    EXPECT_DOUBLE_EQ(ages->sinceLast(InputKind::keyDown).count(), 2);
+}
+
+} // namespace
+} // namespace quillon

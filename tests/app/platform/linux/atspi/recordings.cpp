@@ -1,0 +1,76 @@
+#include "recordings.h"
+
+#include <quillon/app/platform/linux/atspi/key_binding/key_binding.h>
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <fstream>
+
+namespace quillon {
+namespace {
+
+using nlohmann::json;
+
+std::vector<RawMenuItem> itemsOf(const json& list, atspi::ToolkitFamily family, int depth, int deepest);
+
+RawMenuItem itemOf(const json& recorded, atspi::ToolkitFamily family, int depth, int deepest) {
+    RawMenuItem item;
+    item.title = recorded.at("name").get<std::string>();
+    if (!item.title.empty())
+        item.enabled = recorded.at("enabled").get<bool>() && recorded.at("sensitive").get<bool>();
+    if (depth <= deepest)
+        item.children = itemsOf(recorded.at("children"), family, depth + 1, deepest);
+    if (item.children.empty() && !item.title.empty()) {
+        const auto binding = recorded.at("keyBinding").get<std::string>();
+        const AxKeyEquivalent equivalent = atspi::keyEquivalent({binding, family, item.title});
+        item.cmdChar = equivalent.character;
+        item.cmdModifiers = equivalent.modifiers;
+        item.cmdGlyph = equivalent.glyph;
+        item.cmdVirtualKey = equivalent.virtualKey;
+    }
+    return item;
+}
+
+std::vector<RawMenuItem> itemsOf(const json& list, atspi::ToolkitFamily family, int depth, int deepest) {
+    std::vector<RawMenuItem> items;
+    for (const json& recorded : list) {
+        const bool isLayer = recorded.at("role") == "popup menu" && recorded.at("name") == "";
+        if (isLayer)
+            std::ranges::move(
+                itemsOf(recorded.at("children"), family, depth, deepest), std::back_inserter(items));
+        else
+            items.push_back(itemOf(recorded, family, depth, deepest));
+    }
+    return items;
+}
+
+} // namespace
+
+std::vector<RawMenuItem> plainReading(const std::string& file, int depth) {
+    std::ifstream stream(file);
+    const json recording = json::parse(stream);
+    const auto family = atspi::toolkitFamily(recording.at("toolkit").get<std::string>());
+    return itemsOf(recording.at("menuBar"), family, 0, depth);
+}
+
+std::string outlineOf(const std::vector<RawMenuItem>& items, int depth) {
+    std::string text;
+    for (const RawMenuItem& item : items) {
+        const auto shortcut = item.shortcut();
+        text += std::string(static_cast<std::size_t>(depth) * 2, ' ') + item.title;
+        text += (shortcut ? " " + shortcut->display() : "") + (item.enabled ? "\n" : " (disabled)\n");
+        text += outlineOf(item.children, depth + 1);
+    }
+    return text;
+}
+
+std::vector<std::string> recordingFiles() {
+    std::vector<std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(QUILLON_RECORDINGS))
+        files.push_back(entry.path());
+    std::ranges::sort(files);
+    return files;
+}
+
+} // namespace quillon

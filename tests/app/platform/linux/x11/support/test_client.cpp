@@ -1,0 +1,181 @@
+#include "test_client.h"
+
+#include <quillon/app/platform/linux/x11/x11_reply.h>
+
+#include <xcb/xtest.h>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::uint8_t relative = 0;
+
+} // namespace
+
+TestClient::TestClient(const std::string& display) : m_xcb(xcb_connect(display.c_str(), nullptr)) {
+    m_screen = xcb_setup_roots_iterator(xcb_get_setup(m_xcb.get())).data;
+}
+
+void TestClient::sync() {
+    xcb_connection_t* xcb = m_xcb.get();
+    const X11Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
+}
+
+xcb_window_t TestClient::makeWindow(const WindowOptions& options) {
+    const xcb_window_t window = xcb_generate_id(m_xcb.get());
+    const std::uint32_t overrideRedirect = options.overrideRedirect ? 1 : 0;
+    xcb_create_window(
+        m_xcb.get(), XCB_COPY_FROM_PARENT, window, root(), options.x, options.y, options.size, options.size,
+        0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &overrideRedirect);
+    if (!options.instance.empty() || !options.className.empty()) {
+        std::string both(options.instance);
+        both.push_back('\0');
+        both += options.className;
+        both.push_back('\0');
+        setText(window, "WM_CLASS", "STRING", both);
+    }
+    if (!options.title.empty())
+        setText(window, "_NET_WM_NAME", "UTF8_STRING", options.title);
+    if (options.mapped)
+        xcb_map_window(m_xcb.get(), window);
+    sync();
+    return window;
+}
+
+void TestClient::destroy(xcb_window_t window) {
+    xcb_destroy_window(m_xcb.get(), window);
+    sync();
+}
+
+void TestClient::map(xcb_window_t window) {
+    xcb_map_window(m_xcb.get(), window);
+    sync();
+}
+
+void TestClient::unmap(xcb_window_t window) {
+    xcb_unmap_window(m_xcb.get(), window);
+    sync();
+}
+
+xcb_atom_t TestClient::atom(std::string_view name) {
+    const auto cookie = xcb_intern_atom(m_xcb.get(), 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const X11Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_xcb.get(), cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{0};
+}
+
+void TestClient::setText(
+    xcb_window_t window, std::string_view property, std::string_view type, std::string_view text) {
+    xcb_change_property(
+        m_xcb.get(), XCB_PROP_MODE_REPLACE, window, atom(property), atom(type), 8,
+        static_cast<std::uint32_t>(text.size()), text.data());
+    sync();
+}
+
+void TestClient::setNumbers(
+    xcb_window_t window, std::string_view property, std::string_view type,
+    const std::vector<std::uint32_t>& values) {
+    xcb_change_property(
+        m_xcb.get(), XCB_PROP_MODE_REPLACE, window, atom(property), atom(type), 32,
+        static_cast<std::uint32_t>(values.size()), values.data());
+    sync();
+}
+
+std::vector<std::uint32_t> TestClient::numbers(xcb_window_t window, std::string_view property) {
+    const auto cookie =
+        xcb_get_property(m_xcb.get(), 0, window, atom(property), XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);
+    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_xcb.get(), cookie, nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {values, values + reply->value_len};
+}
+
+xcb_window_t TestClient::becomeWindowManager() {
+    const xcb_window_t manager = makeWindow({.overrideRedirect = true, .mapped = false});
+    setNumbers(manager, "_NET_SUPPORTING_WM_CHECK", "WINDOW", {manager});
+    setText(manager, "_NET_WM_NAME", "UTF8_STRING", "Stand-in");
+    setNumbers(root(), "_NET_SUPPORTED", "ATOM", {atom("_NET_ACTIVE_WINDOW")});
+    setNumbers(root(), "_NET_SUPPORTING_WM_CHECK", "WINDOW", {manager});
+    return manager;
+}
+
+void TestClient::setActiveWindow(xcb_window_t window) {
+    setNumbers(root(), "_NET_ACTIVE_WINDOW", "WINDOW", {window});
+}
+
+void TestClient::setFocus(xcb_window_t window) {
+    xcb_set_input_focus(m_xcb.get(), XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    sync();
+}
+
+xcb_window_t TestClient::focus() {
+    const X11Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(m_xcb.get(), xcb_get_input_focus(m_xcb.get()), nullptr));
+    return reply ? reply->focus : xcb_window_t{0};
+}
+
+void TestClient::fake(std::uint8_t type, std::uint8_t detail, std::int16_t x, std::int16_t y) {
+    xcb_test_fake_input(m_xcb.get(), type, detail, XCB_CURRENT_TIME, root(), x, y, 0);
+    sync();
+}
+
+void TestClient::keyDown(std::uint8_t keyCode) {
+    fake(XCB_KEY_PRESS, keyCode);
+}
+
+void TestClient::keyUp(std::uint8_t keyCode) {
+    fake(XCB_KEY_RELEASE, keyCode);
+}
+
+void TestClient::click(std::uint8_t button) {
+    fake(XCB_BUTTON_PRESS, button);
+    fake(XCB_BUTTON_RELEASE, button);
+}
+
+void TestClient::movePointer(std::int16_t x, std::int16_t y) {
+    fake(XCB_MOTION_NOTIFY, relative, x, y);
+}
+
+bool TestClient::grabKeyboard() {
+    const auto cookie =
+        xcb_grab_keyboard(m_xcb.get(), 1, root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const X11Reply<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(m_xcb.get(), cookie, nullptr));
+    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+bool TestClient::grabPointer() {
+    const auto cookie = xcb_grab_pointer(
+        m_xcb.get(), 1, root(), XCB_EVENT_MASK_BUTTON_PRESS, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+        XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
+    const X11Reply<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(m_xcb.get(), cookie, nullptr));
+    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void TestClient::ungrab() {
+    xcb_ungrab_keyboard(m_xcb.get(), XCB_CURRENT_TIME);
+    xcb_ungrab_pointer(m_xcb.get(), XCB_CURRENT_TIME);
+    sync();
+}
+
+void TestClient::grabServer() {
+    xcb_grab_server(m_xcb.get());
+    sync();
+}
+
+void TestClient::ungrabServer() {
+    xcb_ungrab_server(m_xcb.get());
+    sync();
+}
+
+void TestClient::changeSymbol(std::uint8_t keyCode, std::uint32_t symbol) {
+    xcb_change_keyboard_mapping(m_xcb.get(), 1, keyCode, 1, &symbol);
+    sync();
+}
+
+void TestClient::ownSelection(std::string_view name, xcb_window_t owner) {
+    xcb_set_selection_owner(m_xcb.get(), owner, atom(name), XCB_CURRENT_TIME);
+    sync();
+}
+
+} // namespace quillon

@@ -1,0 +1,278 @@
+#include "support/x11_fixture.h"
+
+#include <quillon/app/platform/linux/x11/x11_panel_windows.h>
+
+#include <gmock/gmock.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+
+namespace quillon {
+namespace {
+
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+struct X11PanelWindowsTest : X11Fixture {
+    void SetUp() override {
+        X11Fixture::SetUp();
+        panels = std::make_unique<X11PanelWindows>(x11, std::make_shared<RawInput>(x11));
+    }
+    void TearDown() override {
+        client->movePointer(0, 0);
+        client->ungrab();
+    }
+    xcb_window_t makePanel(bool mapped = true) {
+        return client->makeWindow(
+            {.overrideRedirect = true, .mapped = mapped, .x = 200, .y = 200, .size = 100});
+    }
+    bool hasFocus(xcb_window_t window) {
+        return waitFor([&] {
+            settle();
+            return client->focus() == window;
+        });
+    }
+
+    std::unique_ptr<X11PanelWindows> panels;
+};
+
+TEST_F(X11PanelWindowsTest, APreparedPanelIsMarkedAsANotice) {
+    const xcb_window_t panel = makePanel(false);
+    panels->prepare(panel);
+    settle();
+    EXPECT_THAT(
+        client->numbers(panel, "_NET_WM_WINDOW_TYPE"),
+        ElementsAre(client->atom("_NET_WM_WINDOW_TYPE_NOTIFICATION")));
+    EXPECT_THAT(
+        client->numbers(panel, "_NET_WM_STATE"),
+        UnorderedElementsAre(
+            client->atom("_NET_WM_STATE_ABOVE"), client->atom("_NET_WM_STATE_STICKY"),
+            client->atom("_NET_WM_STATE_SKIP_TASKBAR"), client->atom("_NET_WM_STATE_SKIP_PAGER")));
+    EXPECT_THAT(client->numbers(panel, "_NET_WM_DESKTOP"), ElementsAre(0xFFFFFFFF));
+    EXPECT_THAT(client->numbers(panel, "_NET_WM_USER_TIME"), ElementsAre(0));
+}
+
+TEST_F(X11PanelWindowsTest, TakesTheKeyboardAndGivesItBack) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    EXPECT_TRUE(hasFocus(panel));
+    panels->returnKeyboard(panel);
+    EXPECT_TRUE(hasFocus(editor));
+}
+
+TEST_F(X11PanelWindowsTest, APanelThatIsNotOnTheScreenYetGetsTheKeyboardWhenItIs) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel(false);
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    settle();
+    EXPECT_EQ(client->focus(), editor);
+    client->map(panel);
+    EXPECT_TRUE(hasFocus(panel));
+    panels->returnKeyboard(panel);
+    EXPECT_TRUE(hasFocus(editor));
+}
+
+TEST_F(X11PanelWindowsTest, APanelThatIsShownAgainDoesNotTakeTheKeyboardByItself) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    ASSERT_TRUE(hasFocus(panel));
+    panels->returnKeyboard(panel);
+    client->unmap(panel);
+    client->map(panel);
+    settle();
+    EXPECT_EQ(client->focus(), editor);
+}
+
+TEST_F(X11PanelWindowsTest, NorDoesOneThatWasHiddenWithoutGivingItBack) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    ASSERT_TRUE(hasFocus(panel));
+    settle();
+    client->unmap(panel);
+    client->setFocus(editor);
+    client->map(panel);
+    settle();
+    EXPECT_EQ(client->focus(), editor);
+}
+
+TEST_F(X11PanelWindowsTest, AKeyboardThatAnotherWindowHasTakenStaysThere) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t other = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    client->setFocus(other);
+    panels->returnKeyboard(panel);
+    settle();
+    EXPECT_EQ(client->focus(), other);
+}
+
+TEST_F(X11PanelWindowsTest, TheKeyboardOfAPanelThatIsOffTheScreenAlreadyGoesBackToo) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    ASSERT_TRUE(hasFocus(panel));
+    client->unmap(panel);
+    panels->returnKeyboard(panel);
+    EXPECT_TRUE(hasFocus(editor));
+}
+
+TEST_F(X11PanelWindowsTest, AKeyboardWhoseOwnerIsGoneFollowsThePointer) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    ASSERT_TRUE(hasFocus(panel));
+    client->destroy(editor);
+    panels->returnKeyboard(panel);
+    EXPECT_TRUE(hasFocus(XCB_INPUT_FOCUS_POINTER_ROOT));
+}
+
+TEST_F(X11PanelWindowsTest, TakingTwiceRemembersWhoHadItFirst) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    ASSERT_TRUE(hasFocus(panel));
+    panels->takeKeyboard(panel);
+    panels->returnKeyboard(panel);
+    EXPECT_TRUE(hasFocus(editor));
+}
+
+TEST_F(X11PanelWindowsTest, APanelThatNeverTookTheKeyboardHasNoneToReturn) {
+    const xcb_window_t editor = client->makeWindow({});
+    client->setFocus(editor);
+    panels->returnKeyboard(makePanel());
+    settle();
+    EXPECT_EQ(client->focus(), editor);
+}
+
+TEST_F(X11PanelWindowsTest, ACompositorIsNoticedAsItComesAndGoes) {
+    int changes = 0;
+    const Subscription listener = panels->onCompositedChanged([&] { ++changes; });
+    EXPECT_FALSE(panels->isComposited());
+    const xcb_window_t owner = makePanel(false);
+    client->ownSelection("_NET_WM_CM_S0", owner);
+    EXPECT_TRUE(waitFor([&] { return changes == 1; }));
+    EXPECT_TRUE(panels->isComposited());
+    EXPECT_TRUE(X11PanelWindows(x11, std::make_shared<RawInput>(x11)).isComposited());
+    client->destroy(owner);
+    EXPECT_TRUE(waitFor([&] { return changes == 2; }));
+    EXPECT_FALSE(panels->isComposited());
+}
+
+/// A client of another process: what it shows is not ours.
+struct OtherProcess {
+    explicit OtherProcess(const std::string& display) {
+        std::array<int, 2> ready{};
+        if (::pipe(ready.data()) != 0)
+            return;
+        pid = ::fork();
+        if (pid == 0) {
+            TestClient other(display);
+            other.makeWindow({.x = 400, .y = 300, .size = 100});
+            const char done = '1';
+            if (::write(ready[1], &done, 1) != 1)
+                ::_exit(1);
+            ::pause();
+            ::_exit(0);
+        }
+        char done = 0;
+        isReady = ::read(ready[0], &done, 1) == 1;
+        ::close(ready[0]);
+        ::close(ready[1]);
+    }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+    ~OtherProcess() {
+        ::kill(pid, SIGKILL);
+        ::waitpid(pid, nullptr, 0);
+    }
+    pid_t pid = -1;
+    bool isReady = false;
+};
+
+struct X11PressElsewhereTest : X11PanelWindowsTest {
+    void SetUp() override {
+        X11PanelWindowsTest::SetUp();
+        listener = panels->onPressElsewhere([this] { ++presses; });
+        settle();
+    }
+    int presses = 0;
+    Subscription listener;
+};
+
+TEST_F(X11PressElsewhereTest, APressOnTheDesktopIsTold) {
+    client->movePointer(5, 5);
+    client->click(1);
+    EXPECT_TRUE(waitFor([&] { return presses == 1; }));
+    client->click(3);
+    EXPECT_TRUE(waitFor([&] { return presses == 2; }));
+}
+
+TEST_F(X11PressElsewhereTest, APressOnAnotherProcesssWindowIsTold) {
+    const OtherProcess other(x11Display());
+    ASSERT_TRUE(other.isReady);
+    client->movePointer(450, 350);
+    client->click(1);
+    EXPECT_TRUE(waitFor([&] { return presses == 1; }));
+}
+
+TEST_F(X11PressElsewhereTest, APressOnAPanelIsNot) {
+    const xcb_window_t panel = makePanel();
+    panels->prepare(panel);
+    client->movePointer(250, 250);
+    client->click(1);
+    settle();
+    EXPECT_EQ(presses, 0);
+}
+
+TEST_F(X11PressElsewhereTest, NorIsOneOnAnyOtherWindowOfThisProcess) {
+    makePanel();
+    client->movePointer(250, 250);
+    client->click(1);
+    settle();
+    EXPECT_EQ(presses, 0);
+}
+
+TEST_F(X11PressElsewhereTest, TheWheelIsNoPress) {
+    client->movePointer(5, 5);
+    for (std::uint8_t button = 4; button <= 7; ++button)
+        client->click(button);
+    settle();
+    EXPECT_EQ(presses, 0);
+}
+
+TEST_F(X11PressElsewhereTest, APressUnderAnotherClientsGrabIsTold) {
+    ASSERT_TRUE(client->grabPointer());
+    client->movePointer(5, 5);
+    client->click(1);
+    EXPECT_TRUE(waitFor([&] { return presses == 1; }));
+}
+
+TEST_F(X11PressElsewhereTest, NothingIsToldAfterTheHandleEnded) {
+    int events = 0;
+    const Subscription all = x11->onEvent([&](const xcb_generic_event_t&) { ++events; });
+    listener.reset();
+    settle();
+    events = 0;
+    client->movePointer(5, 5);
+    client->click(1);
+    settle();
+    EXPECT_EQ(presses, 0);
+    EXPECT_EQ(events, 0);
+}
+
+} // namespace
+} // namespace quillon

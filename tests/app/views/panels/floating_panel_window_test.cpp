@@ -1,0 +1,223 @@
+#include <quillon/app/platform/fake/fake_appearance.h>
+#include <quillon/app/platform/fake/fake_panel_windows.h>
+#include <quillon/app/views/panels/floating_panel_window.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QWindow>
+
+namespace quillon {
+namespace {
+
+class FloatingPanelWindowTest : public testing::Test {
+  protected:
+    FloatingPanelWindowTest() {
+        panel.onEscape = [this] { ++escapes; };
+        panel.onResign = [this] { ++resigns; };
+        panel.setFrame({100, 80, 400, 300});
+    }
+    void showWithKeyboard() {
+        panel.orderFront();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+        panel.makeKey();
+        QApplication::setActiveWindow(&panel);
+    }
+    void closeOnResign() {
+        panel.onResign = [this] {
+            ++resigns;
+            panel.orderOut();
+        };
+    }
+    std::uintptr_t window() { return static_cast<std::uintptr_t>(panel.winId()); }
+
+    FakeAppearance appearance;
+    ThemeSource themes{appearance};
+    FakePanelWindows desktop;
+    QWidget* content = new QWidget;
+    QLineEdit* field = new QLineEdit(content);
+    FloatingPanelWindow panel{content, 16, themes, desktop};
+    int escapes = 0;
+    int resigns = 0;
+};
+
+TEST_F(FloatingPanelWindowTest, IsUnmanagedBorderlessAndOnTop) {
+    const Qt::WindowFlags flags = panel.windowFlags();
+    EXPECT_TRUE(flags & Qt::FramelessWindowHint);
+    EXPECT_TRUE(flags & Qt::BypassWindowManagerHint);
+    EXPECT_TRUE(flags & Qt::WindowStaysOnTopHint);
+    EXPECT_TRUE(panel.testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_FALSE(panel.testAttribute(Qt::WA_QuitOnClose));
+}
+
+TEST_F(FloatingPanelWindowTest, TheContentIsWhereTheFrameIsAndTheShadowAround) {
+    panel.orderFront();
+    EXPECT_EQ(QRect(content->mapToGlobal(QPoint(0, 0)), content->size()), QRect(100, 80, 400, 300));
+    EXPECT_EQ(panel.geometry(), QRect(100, 80, 400, 300).adjusted(-36, -36, 36, 36));
+    EXPECT_TRUE(panel.mask().isEmpty());
+}
+
+TEST_F(FloatingPanelWindowTest, WithoutBlendingCornersAreCutAndThereIsNoShadow) {
+    panel.orderFront();
+    desktop.setComposited(false);
+    EXPECT_EQ(panel.geometry(), QRect(100, 80, 400, 300));
+    EXPECT_EQ(QRect(content->mapToGlobal(QPoint(0, 0)), content->size()), QRect(100, 80, 400, 300));
+    EXPECT_FALSE(panel.mask().contains(QPoint(1, 1)));
+    EXPECT_TRUE(panel.mask().contains(QPoint(200, 1)));
+    EXPECT_TRUE(panel.mask().contains(QPoint(200, 150)));
+    desktop.setComposited(true);
+    EXPECT_TRUE(panel.mask().isEmpty());
+    EXPECT_EQ(panel.geometry().width(), 472);
+}
+
+TEST_F(FloatingPanelWindowTest, IsPreparedOnceBeforeItIsFirstShown) {
+    EXPECT_TRUE(desktop.prepared().empty());
+    panel.orderFront();
+    panel.orderOut();
+    panel.orderFront();
+    EXPECT_EQ(desktop.prepared(), std::vector{window()});
+}
+
+TEST_F(FloatingPanelWindowTest, ShowingTakesNoKeyboard) {
+    panel.orderFront();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_FALSE(desktop.keyboardOwner());
+    EXPECT_EQ(desktop.pressListeners(), 0U);
+}
+
+TEST_F(FloatingPanelWindowTest, TakesTheKeyboardOnceItIsOnTheScreen) {
+    panel.orderFront();
+    panel.makeKey();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    QApplication::processEvents();
+    EXPECT_EQ(desktop.keyboardOwner(), window());
+}
+
+TEST_F(FloatingPanelWindowTest, GivesTheKeyboardBackWhenItGoes) {
+    showWithKeyboard();
+    EXPECT_EQ(desktop.keyboardOwner(), window());
+    panel.orderOut();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_FALSE(desktop.keyboardOwner());
+    EXPECT_EQ(resigns, 0) << "being hidden is no resigning";
+    EXPECT_EQ(desktop.pressListeners(), 0U);
+}
+
+TEST_F(FloatingPanelWindowTest, APanelThatNeverHadTheKeyboardGivesNoneBack) {
+    panel.orderFront();
+    desktop.takeKeyboard(42);
+    panel.orderOut();
+    EXPECT_EQ(desktop.keyboardOwner(), 42U);
+}
+
+TEST_F(FloatingPanelWindowTest, EscapeAnywhereInsideIsTold) {
+    showWithKeyboard();
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(escapes, 1);
+    QTest::keyClicks(field, QStringLiteral("typed"));
+    EXPECT_EQ(field->text(), QStringLiteral("typed"));
+    EXPECT_EQ(escapes, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, LosingTheKeyboardIsToldOnce) {
+    showWithKeyboard();
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    EXPECT_EQ(resigns, 1);
+    desktop.pressElsewhere();
+    EXPECT_EQ(resigns, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, APressElsewhereIsToldWhileItHasTheKeyboard) {
+    panel.orderFront();
+    desktop.pressElsewhere();
+    EXPECT_EQ(resigns, 0);
+    showWithKeyboard();
+    desktop.pressElsewhere();
+    EXPECT_EQ(resigns, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, APressOnTheShadowIsAPressElsewhere) {
+    showWithKeyboard();
+    QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(resigns, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, APressElsewhereGivesTheKeyboardBackAfterTheWindowManagerHadItsTurn) {
+    closeOnResign();
+    showWithKeyboard();
+    desktop.pressElsewhere();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(desktop.keyboardOwner(), window());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.keyboardOwner(); }));
+}
+
+TEST_F(FloatingPanelWindowTest, APressOnTheShadowGivesTheKeyboardBack) {
+    closeOnResign();
+    showWithKeyboard();
+    QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desktop.keyboardOwner(); }));
+}
+
+TEST_F(FloatingPanelWindowTest, ShownAgainAtOnceItHasGivenTheKeyboardBack) {
+    closeOnResign();
+    showWithKeyboard();
+    desktop.pressElsewhere();
+    panel.orderFront();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    EXPECT_FALSE(desktop.keyboardOwner());
+}
+
+TEST_F(FloatingPanelWindowTest, GivesTheKeyboardBackOnlyOnce) {
+    showWithKeyboard();
+    panel.orderOut();
+    desktop.takeKeyboard(window());
+    panel.orderOut();
+    panel.orderFront();
+    EXPECT_EQ(desktop.keyboardOwner(), window());
+}
+
+TEST_F(FloatingPanelWindowTest, ItsOwnMenuIsNotElsewhere) {
+    showWithKeyboard();
+    QMenu menu(&panel);
+    menu.addAction(QStringLiteral("Pin"));
+    menu.popup(QPoint(150, 150));
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    desktop.pressElsewhere();
+    EXPECT_EQ(resigns, 0);
+    menu.close();
+    desktop.pressElsewhere();
+    EXPECT_EQ(resigns, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, KeyboardLostUnderItsOwnMenuIsToldWhenTheMenuCloses) {
+    QWidget other;
+    other.show();
+    showWithKeyboard();
+    QMenu menu(&panel);
+    menu.addAction(QStringLiteral("Pin"));
+    menu.popup(QPoint(150, 150));
+    QApplication::setActiveWindow(&other);
+    EXPECT_EQ(resigns, 0);
+    menu.close();
+    QApplication::processEvents();
+    EXPECT_EQ(resigns, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, CanBeShownWithTheKeyboardAgain) {
+    showWithKeyboard();
+    panel.orderOut();
+    showWithKeyboard();
+    EXPECT_EQ(desktop.keyboardOwner(), window());
+    desktop.pressElsewhere();
+    EXPECT_EQ(resigns, 1);
+}
+
+} // namespace
+} // namespace quillon

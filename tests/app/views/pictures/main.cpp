@@ -1,0 +1,101 @@
+#include "scenes.h"
+
+#include <quillon/app/views/components/text.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QTextStream>
+#include <QWidget>
+
+namespace quillon {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// How much of a made-up desktop is seen around the panel.
+constexpr int margin = 24;
+
+QWidget* shownPanel() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && dynamic_cast<FloatingPanel*>(widget))
+            return widget;
+    }
+    return nullptr;
+}
+
+QPixmap onDesktop(QWidget& panel, ColourScheme scheme) {
+    const double ratio = panel.devicePixelRatioF();
+    QPixmap picture((panel.size() + QSize(2 * margin, 2 * margin)) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    QPainter painter(&picture);
+    QLinearGradient wallpaper(0, 0, panel.width(), panel.height());
+    const bool dark = scheme == ColourScheme::dark;
+    wallpaper.setColorAt(0, dark ? QColor(0x31, 0x3b, 0x48) : QColor(0xa9, 0xbf, 0xcf));
+    wallpaper.setColorAt(1, dark ? QColor(0x45, 0x35, 0x48) : QColor(0xd9, 0xc4, 0xbb));
+    painter.fillRect(QRect(QPoint(0, 0), panel.size() + QSize(2 * margin, 2 * margin)), wallpaper);
+    painter.drawPixmap(QPointF(margin, margin), panel.grab());
+    return picture;
+}
+
+bool draw(const Scene& scene, const Look& look, const QString& path) {
+    ViewDesk desk;
+    desk.desktop.appearance.set(look);
+    scene.prepare(desk);
+    desk.model.showOverlay(scene.stickiness);
+    desk.model.setQuery(utf8(scene.query));
+    QWidget* panel = shownPanel();
+    if (!panel)
+        return false;
+    if (scene.stickiness == Stickiness::sticky)
+        panel->activateWindow();
+    QApplication::processEvents();
+    return onDesktop(*panel, look.scheme).save(path);
+}
+
+int drawAll(const QString& folder, const QString& only, Look look) {
+    for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
+        look.scheme = scheme;
+        const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;
+        for (const Scene& scene : overlayScenes()) {
+            if (!scene.name.contains(only))
+                continue;
+            const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);
+            if (!draw(scene, look, path)) {
+                QTextStream(stderr) << "cannot draw " << path << Qt::endl;
+                return 1;
+            }
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+} // namespace quillon
+
+int main(int argc, char** argv) {
+    using namespace quillon;
+    QApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Draws every state of the program's windows into a folder."_s);
+    parser.addPositionalArgument(u"folder"_s, u"Where the pictures go; made when it is missing."_s);
+    const QCommandLineOption only(u"only"_s, u"Only pictures whose name contains this."_s, u"text"_s);
+    const QCommandLineOption family(u"font"_s, u"The desktop's interface font."_s, u"family"_s);
+    const QCommandLineOption points(u"points"_s, u"Its size."_s, u"points"_s);
+    parser.addOptions({only, family, points});
+    parser.addHelpOption();
+    parser.process(application);
+    if (parser.positionalArguments().size() != 1 || !QDir().mkpath(parser.positionalArguments().first()))
+        parser.showHelp(2);
+
+    Look look;
+    if (parser.isSet(family))
+        look.fontFamily = utf8(parser.value(family));
+    if (parser.isSet(points))
+        look.fontPoints = parser.value(points).toDouble();
+    return drawAll(parser.positionalArguments().first(), parser.value(only), look);
+}

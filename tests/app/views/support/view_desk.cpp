@@ -1,0 +1,30 @@
+#include "view_desk.h"
+
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/sample_records.h>
+
+#include <utility>
+
+namespace quillon {
+
+void ViewDesk::trust() {
+    desktop.front.setCurrent(ownApp());
+    desktop.access.setTrusted(true);
+    model.refreshTrust();
+}
+
+void ViewDesk::showSample() {
+    model.showSample(SampleMenus::sheet(), SampleMenus::usage(), SampleMenus::annotations());
+}
+
+void ViewDesk::show(AppSheet sheet) {
+    model.showSample(std::move(sheet), {}, {});
+}
+
+void ViewDesk::beginReading(const std::string& appName) {
+    const RunningApp app{2, "org.example." + appName, appName, {}};
+    desktop.front.setCurrent(app);
+    model.frontAppChanged(app);
+}
+
+} // namespace quillon

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <quillon/app/core/app_model.h>
+#include <quillon/app/platform/fake/fake_desktop.h>
+#include <quillon/app/views/components/app_icon_cache.h>
+#include <quillon/app/views/components/theme_source.h>
+#include <quillon/app/views/panels/qt_panel_host.h>
+
+#include <QTemporaryDir>
+
+namespace quillon {
+
+/// The program's model and views over a desktop that is made up. Needs a QApplication.
+class ViewDesk {
+  public:
+    static constexpr std::int64_t ownPid = 1;
+
+    /// This program; while it is in front the model keeps the sheet that it is shown.
+    static RunningApp ownApp() { return {ownPid, "app.quillon.Quillon", "Quillon", {}}; }
+
+    /// Lets the model read menus.
+    void trust();
+    /// The sample application with what its user has done so far.
+    void showSample();
+    /// An application of which nothing is known but its menus.
+    void show(AppSheet sheet);
+    /// Brings another application to the front whose menus are still being read.
+    void beginReading(const std::string& appName);
+
+    FakeDesktop desktop;
+    QTemporaryDir folder;
+    Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
+    ThemeSource themes{desktop.appearance};
+    AppIconCache icons{desktop.icons};
+    QtPanelHost host{themes, icons, desktop.panels, OverlayMode::live};
+    AppModel model{{
+        .frontApplication = desktop.front,
+        .menuReader = desktop.menus,
+        .accessibility = desktop.access,
+        .keyboard = desktop.keyboard,
+        .clock = desktop.clock,
+        .timers = desktop.timers,
+        .background = desktop.background,
+        .panels = host,
+        .settings = settings,
+        .ownPid = ownPid,
+    }};
+};
+
+} // namespace quillon
