@@ -59,6 +59,7 @@ SettingsPortal::SettingsPortal(QDBusConnection bus) : m_bus(std::move(bus)) {
     if (!m_bus.isConnected())
         return;
     qDBusRegisterMetaType<SettingGroups>();
+    qRegisterMetaType<QDBusVariant>(); // else the slot's argument has no type before something else names it
     // Of no named sender: with a name the connection would wait for the bus to tell its owner.
     m_bus.connect(
         QString(), objectPath, settingsInterface, QStringLiteral("SettingChanged"), this,

@@ -119,7 +119,7 @@ TEST_F(ReadProcessTest, APipeIsNotWaitedFor) {
 }
 
 TEST(ReadThisProcessTest, ItsProgramIsThisTest) {
-    EXPECT_EQ(readProcess(::getpid(), "/proc").executable, "platform_xdg_rules_test");
+    EXPECT_EQ(readProcess(::getpid(), "/proc").executable, "applications_test");
 }
 
 } // namespace
