@@ -1,8 +1,11 @@
+#include "data_file.h"
 #include "iso_date.h"
 #include "json_codec.h"
 #include "json_reader.h"
 
 #include <quillon/kit/shortcut/shortcut.h>
+
+#include <limits>
 
 namespace quillon::Json {
 
@@ -17,6 +20,16 @@ class DateReader : public Reader {
         return instant.has_value();
     }
 };
+
+class CounterReader : public IntegerReader {
+  public:
+    bool integer(std::int64_t read) override {
+        return read >= 0 && read <= largestStoredCount && IntegerReader::integer(read);
+    }
+};
+
+// Every counter takes more than one byte of its file.
+static_assert(DataFile::largestSize <= std::numeric_limits<Count>::max() / largestStoredCount);
 
 /// What one alternative of a key holds, under "_0".
 class PayloadReader : public ObjectReader {
@@ -143,12 +156,12 @@ class UsageRecordReader : public ObjectReader {
         return seen(name) ? std::optional(reader.value) : std::nullopt;
     }
 
-    IntegerReader m_clicked;
+    CounterReader m_clicked;
     DateReader m_lastClicked;
     DateReader m_lastNudged;
-    IntegerReader m_practiceRight;
-    IntegerReader m_practiceWrong;
-    IntegerReader m_typed;
+    CounterReader m_practiceRight;
+    CounterReader m_practiceWrong;
+    CounterReader m_typed;
 };
 
 class AnnotationReader : public ObjectReader {

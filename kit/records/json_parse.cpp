@@ -130,6 +130,9 @@ class EventCarrier : public Events {
 } // namespace
 
 bool parse(std::string_view json, Reader& root) {
+    // The library takes one for the end of the text, whatever stands behind it.
+    if (json.find('\0') != std::string_view::npos)
+        return false;
     EventCarrier carrier(root);
     return nlohmann::json::sax_parse(json.data(), json.data() + json.size(), &carrier);
 }

@@ -12,6 +12,10 @@
 
 namespace quillon {
 
+/// No larger counter is read from a file, and none below 0: nobody clicks so often, and the counters of the
+/// largest file that is read (DataFile::largestSize) can still be added up and counted on.
+inline constexpr Count largestStoredCount = 100'000'000'000;
+
 /// How one command of one application was reached so far.
 struct UsageRecord {
     Count clicked = 0;       ///< chosen by clicking its menu item

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <iterator>
 #include <string_view>
 
 namespace quillon {
@@ -19,6 +20,7 @@ void check(std::string_view text) {
     if (!value)
         return;
     QUILLON_LAW(unicode::isValid(text));
+    QUILLON_LAW(text.find('\0') == std::string_view::npos);
     const std::optional<std::string> written = Json::encode(*value);
     QUILLON_LAW(written.has_value());
     QUILLON_LAW(written->find('\n') == std::string::npos);
@@ -27,6 +29,27 @@ void check(std::string_view text) {
     QUILLON_LAW(Json::encode(*again) == written);
     QUILLON_LAW(Json::decode<Value>(*Json::encode(*again)) == again);
     QUILLON_LAW(*again != *value || std::hash<Value>{}(*again) == std::hash<Value>{}(*value));
+}
+
+/// What loads can be counted on: none of this ends the program.
+void checkCounting(std::string_view text) {
+    std::optional<UsageBook> book = Json::decode<UsageBook>(text);
+    if (!book)
+        return;
+    const UsageBook loaded = *book;
+    for (const auto& [app, records] : loaded.apps) {
+        for (const auto& [id, record] : records) {
+            QUILLON_LAW(record.clicked >= 0 && record.clicked <= largestStoredCount);
+            book->click(app, id, Instant());
+            book->typed(app, id);
+            book->practiced(app, id, true);
+            book->practiced(app, id, false);
+        }
+        const UsageBook::Totals before = loaded.totals(app);
+        QUILLON_LAW(before.clicked >= 0 && before.typed >= 0);
+        QUILLON_LAW(book->totals(app).clicked == before.clicked + std::ssize(records));
+        QUILLON_LAW(book->mostClicked(app, std::ssize(records)).size() == records.size());
+    }
 }
 
 void checkMap(std::string_view text) {
@@ -51,6 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     quillon::check<quillon::AppSheet>(text);
     quillon::check<quillon::UsageBook>(text);
     quillon::check<quillon::AnnotationBook>(text);
+    quillon::checkCounting(text);
     quillon::checkMap(text);
     return 0;
 }

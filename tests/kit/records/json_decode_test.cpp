@@ -1,8 +1,10 @@
+#include <quillon/kit/records/data_file.h>
 #include <quillon/kit/records/json_codec.h>
 #include <quillon/tests/kit/values/random_values.h>
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -182,6 +184,37 @@ TEST(JsonDecode, AWrongTypeFailsTheWholeFile) {
         EXPECT_EQ(Json::decode<AppSheet>(sheetWithEntries(entries)), std::nullopt) << entries;
 }
 
+TEST(JsonDecode, ACounterOutOfRangeFailsTheWholeFile) {
+    for (const char* name : {"clicked", "practiceRight", "practiceWrong", "typed"}) {
+        const auto counting = [name](const std::string& count) {
+            std::string record = R"({"clicked":0,"practiceRight":0,"practiceWrong":0,"typed":0})";
+            const std::string member = '"' + std::string(name) + "\":";
+            return readUsage(record.replace(record.find(member) + member.size(), 1, count));
+        };
+        EXPECT_TRUE(counting("0")) << name;
+        EXPECT_TRUE(counting(std::to_string(largestStoredCount))) << name;
+        for (const std::string& count :
+             {std::string("-1"), std::to_string(largestStoredCount + 1), std::string("-9223372036854775808"),
+              std::string("9223372036854775807")})
+            EXPECT_EQ(counting(count), std::nullopt) << name << ' ' << count;
+    }
+}
+
+TEST(JsonDecode, WhatLoadsCanBeCountedOn) {
+    const std::string full = std::to_string(largestStoredCount);
+    const std::string record = R"({"clicked":)" + full + R"(,"practiceRight":)" + full
+                               + R"(,"practiceWrong":)" + full + R"(,"typed":)" + full + "}";
+    auto book = Json::decode<UsageBook>(R"({"apps":{"app":{"a":)" + record + R"(,"b":)" + record + "}}}");
+    ASSERT_TRUE(book);
+    EXPECT_EQ(book->totals("app").clicked, 2 * largestStoredCount);
+    EXPECT_EQ(book->mostClicked("app", 2).size(), 2u);
+    book->click("app", "a", Instant());
+    book->typed("app", "a");
+    book->practiced("app", "a", true);
+    book->practiced("app", "a", false);
+    EXPECT_EQ(book->record("app", "a")->practiceWrong, largestStoredCount + 1);
+}
+
 TEST(JsonDecode, AWrongShapeIsAbsent) {
     for (const char* text :
          {"[]", "null", "true", "1", "\"apps\"", "", " ", R"({"apps":[]})", R"({"apps":null})",
@@ -201,6 +234,14 @@ TEST(JsonDecode, BrokenJsonIsAbsent) {
           R"({"apps" {}})", R"({"apps":{"a\)", R"({"apps":{"\x":{}}})", R"({"apps":{"\ud800":{}}})",
           "{\"apps\":{\"a\nb\":{}}}", R"({"x":NaN,"apps":{}})", R"({"x":01,"apps":{}})"})
         EXPECT_EQ(Json::decode<UsageBook>(text), std::nullopt) << text;
+}
+
+TEST(JsonDecode, AZeroByteIsNoJson) {
+    using namespace std::string_view_literals;
+    for (const std::string_view text :
+         {"{\"apps\":{}}\0"sv, "{\"apps\":{}}\0{\"apps\":"sv, "{\"apps\":{}} \0 \xff"sv, "{\"apps\":{}\0}"sv,
+          "\0{\"apps\":{}}"sv, "{\"apps\":{},\"x\":\"\0\"}"sv, "\0"sv})
+        EXPECT_EQ(Json::decode<UsageBook>(text), std::nullopt) << testing::PrintToString(text);
 }
 
 TEST(JsonDecode, ReadsBlanksBetweenTokens) {

@@ -132,8 +132,16 @@ SheetMap RandomValues::sheets() {
     return sheets;
 }
 
+Count RandomValues::count() {
+    switch (number(0, 9)) {
+    case 0: return 0;
+    case 1: return largestStoredCount;
+    default: return static_cast<Count>(number(0, 100));
+    }
+}
+
 UsageRecord RandomValues::usageRecord() {
-    UsageRecord record{integer(), integer(), integer(), integer()};
+    UsageRecord record{count(), count(), count(), count()};
     if (chance(0.5))
         record.lastClicked = instant();
     if (chance(0.5))

@@ -24,6 +24,8 @@ class RandomValues {
     bool chance(double probability);
     /// Any 64-bit number, small ones more often.
     std::int64_t integer();
+    /// What a counter that was read from a file can hold.
+    Count count();
 
     /// Well-formed text, often odd: quotes, slashes, controls, separators, joined and rare characters.
     std::string text();
