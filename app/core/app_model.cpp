@@ -23,7 +23,13 @@ AppModel::AppModel(AppServices services)
     : m_services(services), m_overlay(services.panels),
       m_hold(
           services.keyboard, services.clock, services.timers,
-          HoldDetector(modifier(services.settings.trigger()), services.settings.holdDelay())) {}
+          HoldDetector(modifier(services.settings.trigger()), services.settings.holdDelay())) {
+    m_overlay.onEscape = [this] { closeOverlay(); };
+    m_overlay.onResign = [this] {
+        if (m_overlaySticky)
+            closeOverlay();
+    };
+}
 
 AppModel::~AppModel() = default;
 
@@ -213,14 +219,14 @@ void AppModel::takeArrival(const RunningApp& app, AppSheet sheet, ReadOutcome ou
 
 void AppModel::showOverlay(Stickiness stickiness) {
     const bool held = stickiness == Stickiness::held;
-    if (held && practiceHasKeyboard && practiceHasKeyboard())
+    if (held && m_services.windows.hasKeyboard(WindowName::practice))
         return;
     setQuery({});
     setSticky(!held);
     const auto front = m_services.frontApplication.current();
     if (front && front->pid != m_services.ownPid)
         read(*front);
-    m_overlay.show(*this, stickiness);
+    m_overlay.show(stickiness);
 }
 
 void AppModel::closeOverlay() {

@@ -10,14 +10,15 @@
 #include <quillon/app/ports/front_application.h>
 #include <quillon/app/ports/keyboard.h>
 #include <quillon/app/ports/menu_reader.h>
+#include <quillon/app/ports/panel_host.h>
 #include <quillon/app/ports/timers.h>
+#include <quillon/app/ports/windows.h>
 #include <quillon/kit/menu/app_sheet.h>
 #include <quillon/kit/records/annotations.h>
 #include <quillon/kit/records/json_codec.h>
 #include <quillon/kit/records/usage.h>
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -42,9 +43,6 @@ enum class ModelField {
     overlaySticky,
 };
 
-/// The program's windows, opened on demand.
-enum class WindowName { welcome, library, practice, settings };
-
 /// What the model needs of the desktop. All of it outlives the model.
 struct AppServices {
     FrontApplication& frontApplication;
@@ -55,6 +53,7 @@ struct AppServices {
     Timers& timers;
     Background& background;
     PanelHost& panels;
+    Windows& windows;
     Settings& settings;
     std::int64_t ownPid = 0; ///< this process, whose own menus are none of the model's business
 };
@@ -71,8 +70,6 @@ class AppModel {
 
     /// Emitted after a field got another value.
     Event<ModelField> changed;
-    /// A view asks for one of the windows.
-    Event<WindowName> windowRequested;
 
     TriggerKey trigger() const;
     void setTrigger(TriggerKey trigger);
@@ -113,6 +110,8 @@ class AppModel {
     /// another that is asked for meanwhile, of other windows, follows it.
     void read(const RunningApp& app);
 
+    /// Makes the overlay's panel ahead of its first use, in a moment in which nothing else is to be done.
+    void prepareOverlay() { m_overlay.prepare(); }
     void showOverlay(Stickiness stickiness);
     /// Closes the overlay and clears the search.
     void closeOverlay();
@@ -124,18 +123,13 @@ class AppModel {
 
     /// Pins or unpins a command of an application.
     void togglePin(const std::string& bundleID, const std::string& entryID);
-    void requestWindow(WindowName name) { windowRequested.emit(name); }
+    void requestWindow(WindowName name) { m_services.windows.open(name); }
     /// Whether a window that is asked for will open; views do not offer one that will not.
-    bool offersWindow(WindowName name) const { return !canOpenWindow || canOpenWindow(name); }
+    bool offersWindow(WindowName name) const { return m_services.windows.offers(name); }
 
     /// Takes over a sheet and what is known of its commands instead of reading any: for showing the program
     /// with sample data.
     void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations);
-
-    /// Whether the practice window has the keyboard; asked before a held overlay shows. Absent: never.
-    std::function<bool()> practiceHasKeyboard;
-    /// Which windows there are to open. Absent: all of them.
-    std::function<bool(WindowName)> canOpenWindow;
 
   private:
     /// A reading under way, and what is to be read when it has ended.

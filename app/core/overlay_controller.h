@@ -1,7 +1,8 @@
 #pragma once
 
-#include "panel_host.h"
+#include <quillon/app/ports/panel_host.h>
 
+#include <functional>
 #include <memory>
 
 namespace quillon {
@@ -15,13 +16,24 @@ enum class Stickiness {
 class OverlayController {
   public:
     explicit OverlayController(PanelHost& host) : m_host(host) {}
+    OverlayController(const OverlayController&) = delete;
+    OverlayController& operator=(const OverlayController&) = delete;
 
-    void show(AppModel& model, Stickiness stickiness);
+    std::function<void()> onEscape; ///< the user pressed Escape in the panel
+    std::function<void()> onResign; ///< the panel lost the keyboard, or the user pressed a button elsewhere
+
+    /// Makes the panel ahead of its first showing, so that it shows as fast then as later. For a moment in
+    /// which nothing else is to be done; nothing once the panel is there.
+    void prepare();
+    void show(Stickiness stickiness);
     void makeKey();
     void hide();
     bool isVisible() const { return m_panel && m_panel->isVisible(); }
 
   private:
+    void makePanel();
+    void place();
+
     PanelHost& m_host;
     std::unique_ptr<FloatingPanel> m_panel;
 };

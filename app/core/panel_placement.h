@@ -1,18 +1,11 @@
 #pragma once
 
-#include "geometry.h"
+#include <quillon/app/ports/geometry.h>
+#include <quillon/app/ports/screen.h>
 
 #include <span>
 
 namespace quillon {
-
-/// A monitor: all of it, and what panels and docks leave free of it.
-struct Screen {
-    Rect frame;
-    Rect visibleFrame;
-
-    bool operator==(const Screen&) const = default;
-};
 
 /// Where panels go.
 namespace PanelPlacement {

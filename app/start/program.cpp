@@ -1,5 +1,6 @@
 #include "program.h"
 
+#include "overlay_content.h"
 #include "showcase.h"
 
 #include <quillon/app/platform/linux/session/paths.h>
@@ -20,23 +21,23 @@ constexpr Seconds patienceForTrust{0.5};
 Program::Program()
     : m_desktop(m_background, m_clock), m_settings(QString::fromStdString(settingsFile().string())),
       m_themes(m_desktop.appearance()), m_icons(m_desktop.icons()),
-      m_panels(m_themes, m_icons, m_desktop.panelWindows(), OverlayMode::live),
-      m_model({
-          .frontApplication = m_desktop.frontApplication(),
-          .menuReader = m_desktop.menuReader(),
-          .accessibility = m_desktop.accessibility(),
-          .keyboard = m_desktop.keyboard(),
-          .clock = m_clock,
-          .timers = m_timers,
-          .background = m_background,
-          .panels = m_panels,
-          .settings = m_settings,
-          .ownPid = getpid(),
-      }),
-      m_tray(m_model, m_themes, [] { QApplication::quit(); }) {
-    m_model.canOpenWindow = [](WindowName name) { return name == WindowName::welcome; };
-    m_windowRequests = m_model.windowRequested.subscribe([this](WindowName name) { openWindow(name); });
-}
+      m_panels(
+          m_themes, m_desktop.panelWindows(),
+          [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); }),
+      m_windows(m_desktop.accessibility()), m_model({
+                                                .frontApplication = m_desktop.frontApplication(),
+                                                .menuReader = m_desktop.menuReader(),
+                                                .accessibility = m_desktop.accessibility(),
+                                                .keyboard = m_desktop.keyboard(),
+                                                .clock = m_clock,
+                                                .timers = m_timers,
+                                                .background = m_background,
+                                                .panels = m_panels,
+                                                .windows = m_windows,
+                                                .settings = m_settings,
+                                                .ownPid = getpid(),
+                                            }),
+      m_tray(m_model, m_themes, [] { QApplication::quit(); }) {}
 
 Program::~Program() {
     // Readings under way use the desktop, which ends before the threads that they run on.
@@ -60,7 +61,7 @@ void Program::start(FirstShow firstShow) {
     m_model.start();
     m_tray.show();
     // The first hold should not have to wait for what can be made while nobody waits.
-    m_preparation = m_timers.after(Seconds(0), [this] { m_panels.prepareOverlay(m_model); });
+    m_preparation = m_timers.after(Seconds(0), [this] { m_model.prepareOverlay(); });
     switch (firstShow) {
     case FirstShow::nothing: break;
     case FirstShow::overlay: showOverlayOnceTrusted(); break;
@@ -90,12 +91,6 @@ void Program::showSample() {
         m_showcase = std::make_unique<Showcase>(
             m_clock, m_timers, m_background, m_themes, m_icons, m_desktop.panelWindows(), m_settings);
     m_showcase->show();
-}
-
-// Turning accessibility on is what the one window that there is to open would offer.
-void Program::openWindow(WindowName name) {
-    if (name == WindowName::welcome)
-        m_desktop.accessibility().ask();
 }
 
 } // namespace quillon

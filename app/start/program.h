@@ -2,6 +2,7 @@
 
 #include "commands.h"
 #include "linux_desktop.h"
+#include "program_windows.h"
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/platform/linux/session/instance.h>
@@ -35,7 +36,6 @@ class Program {
     void activate();
     void showOverlayOnceTrusted();
     void showSample();
-    void openWindow(WindowName name);
 
     SystemClock m_clock;
     QtTimers m_timers;
@@ -45,11 +45,11 @@ class Program {
     ThemeSource m_themes;
     AppIconCache m_icons;
     QtPanelHost m_panels;
+    ProgramWindows m_windows;
     AppModel m_model;
     TrayMenu m_tray;
     StallMeter m_stalls;
     std::unique_ptr<Showcase> m_showcase;
-    Subscription m_windowRequests;
     Subscription m_preparation;
     Subscription m_firstShow;
     Subscription m_trustForFirstShow;

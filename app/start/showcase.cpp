@@ -1,5 +1,7 @@
 #include "showcase.h"
 
+#include "overlay_content.h"
+
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/sample_records.h>
 
@@ -8,18 +10,21 @@ namespace quillon {
 Showcase::Showcase(
     const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
     PanelWindows& windows, Settings& settings)
-    : m_panels(themes, icons, windows, OverlayMode::showcase), m_model({
-                                                                   .frontApplication = m_none.front,
-                                                                   .menuReader = m_none.menus,
-                                                                   .accessibility = m_none.access,
-                                                                   .keyboard = m_none.keyboard,
-                                                                   .clock = clock,
-                                                                   .timers = timers,
-                                                                   .background = background,
-                                                                   .panels = m_panels,
-                                                                   .settings = settings,
-                                                               }) {
-    m_model.canOpenWindow = [](WindowName) { return false; };
+    : m_panels(
+        themes, windows,
+        [this, &themes, &icons] { return overlayContent(m_model, themes, icons, OverlayMode::showcase); }),
+      m_model({
+          .frontApplication = m_none.front,
+          .menuReader = m_none.menus,
+          .accessibility = m_none.access,
+          .keyboard = m_none.keyboard,
+          .clock = clock,
+          .timers = timers,
+          .background = background,
+          .panels = m_panels,
+          .windows = m_none.windows,
+          .settings = settings,
+      }) {
     m_model.showSample(SampleMenus::sheet(), SampleMenus::usage(), SampleMenus::annotations());
 }
 

@@ -2,6 +2,8 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/platform/none/no_desktop.h>
+#include <quillon/app/views/components/app_icon_cache.h>
+#include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/panels/qt_panel_host.h>
 
 namespace quillon {

@@ -10,6 +10,7 @@
 #include "fake_menu_reader.h"
 #include "fake_panel_windows.h"
 #include "fake_timers.h"
+#include "fake_windows.h"
 
 namespace quillon {
 
@@ -25,6 +26,7 @@ struct FakeDesktop {
     FakeAppIcons icons;
     FakeAppearance appearance;
     FakePanelWindows panels;
+    FakeWindows windows;
 };
 
 } // namespace quillon

@@ -7,6 +7,7 @@
 #include "no_keyboard.h"
 #include "no_menu_reader.h"
 #include "no_panel_windows.h"
+#include "no_windows.h"
 
 namespace quillon {
 
@@ -19,6 +20,7 @@ struct NoDesktop {
     NoAppIcons icons;
     NoAppearance appearance;
     NoPanelWindows panels;
+    NoWindows windows;
 };
 
 } // namespace quillon

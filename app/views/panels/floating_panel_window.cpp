@@ -22,16 +22,15 @@ constexpr std::chrono::milliseconds returnDelay{100};
 
 } // namespace
 
-FloatingPanelWindow::FloatingPanelWindow(
-    QWidget* content, double cornerRadius, ThemeSource& themes, PanelWindows& windows)
-    : QWidget(nullptr, panelFlags), m_themes(themes), m_windows(windows), m_content(content),
-      m_cornerRadius(cornerRadius) {
+FloatingPanelWindow::FloatingPanelWindow(PanelContent content, ThemeSource& themes, PanelWindows& windows)
+    : QWidget(nullptr, panelFlags), m_themes(themes), m_windows(windows), m_content(content.widget.release()),
+      m_cornerRadius(content.cornerRadius), m_prepareContent(std::move(content.prepare)) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(content);
+    layout->addWidget(m_content);
     m_compositing = windows.onCompositedChanged([this] { followCompositing(); });
     m_return.setSingleShot(true);
     m_return.setInterval(returnDelay);
@@ -68,6 +67,13 @@ void FloatingPanelWindow::resizeEvent(QResizeEvent* event) {
     QPainterPath shape;
     shape.addRoundedRect(QRectF(rect()), m_cornerRadius, m_cornerRadius);
     setMask(QRegion(shape.toFillPolygon().toPolygon()));
+}
+
+void FloatingPanelWindow::prepare() {
+    prepareWindow();
+    if (m_prepareContent)
+        m_prepareContent();
+    grab();
 }
 
 void FloatingPanelWindow::prepareWindow() {

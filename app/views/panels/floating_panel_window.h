@@ -1,8 +1,9 @@
 #pragma once
 
+#include "panel_content.h"
 #include "panel_shadow.h"
 
-#include <quillon/app/core/panel_host.h>
+#include <quillon/app/ports/floating_panel.h>
 #include <quillon/app/ports/panel_windows.h>
 #include <quillon/app/views/components/theme_source.h>
 
@@ -17,14 +18,11 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     Q_OBJECT
 
   public:
-    /// Takes over `content`, which draws its own background with rounded corners of `cornerRadius`. The
-    /// others outlive the panel.
-    FloatingPanelWindow(QWidget* content, double cornerRadius, ThemeSource& themes, PanelWindows& windows);
+    /// The others outlive the panel.
+    FloatingPanelWindow(PanelContent content, ThemeSource& themes, PanelWindows& windows);
     ~FloatingPanelWindow() override;
 
-    /// Makes the native window, which the first `orderFront` does otherwise.
-    void prepareWindow();
-
+    void prepare() override;
     void setFrame(Rect frame) override;
     void orderFront() override;
     void makeKey() override;
@@ -47,6 +45,7 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
         here
     };
 
+    void prepareWindow();
     void followCompositing();
     void takeKeyboard();
     void returnKeyboard();
@@ -58,6 +57,7 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     PanelWindows& m_windows;
     QWidget* m_content;
     double m_cornerRadius;
+    std::function<void()> m_prepareContent;
     Rect m_frame;
     bool m_isPrepared = false;
     Keyboard m_keyboard = Keyboard::elsewhere;

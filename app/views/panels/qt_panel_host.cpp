@@ -2,8 +2,6 @@
 
 #include "floating_panel_window.h"
 
-#include <quillon/app/views/overlay/overlay_view.h>
-
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
@@ -22,10 +20,8 @@ Rect rectOf(const QRect& rect) {
 
 } // namespace
 
-QtPanelHost::QtPanelHost(ThemeSource& themes, AppIconCache& icons, PanelWindows& windows, OverlayMode mode)
-    : m_themes(themes), m_icons(icons), m_windows(windows), m_mode(mode) {}
-
-QtPanelHost::~QtPanelHost() = default;
+QtPanelHost::QtPanelHost(ThemeSource& themes, PanelWindows& windows, MakePanelContent overlay)
+    : m_themes(themes), m_windows(windows), m_overlay(std::move(overlay)) {}
 
 std::vector<Screen> QtPanelHost::screens() const {
     std::vector<Screen> screens;
@@ -44,21 +40,8 @@ Point QtPanelHost::pointer() const {
     return {static_cast<double>(position.x()), static_cast<double>(position.y())};
 }
 
-std::unique_ptr<FloatingPanelWindow> QtPanelHost::makePanel(AppModel& model) const {
-    auto* view = new OverlayView(model, m_themes, m_icons, m_mode);
-    return std::make_unique<FloatingPanelWindow>(view, OverlayView::cornerRadius, m_themes, m_windows);
-}
-
-void QtPanelHost::prepareOverlay(AppModel& model) {
-    m_prepared = makePanel(model);
-    m_prepared->setFrame(PanelPlacement::overlayFrame(PanelPlacement::visibleFrame(screens(), pointer())));
-    m_prepared->prepareWindow();
-    m_prepared->findChild<OverlayView*>()->prepare();
-    m_prepared->grab();
-}
-
-std::unique_ptr<FloatingPanel> QtPanelHost::makeOverlayPanel(AppModel& model) {
-    return m_prepared ? std::move(m_prepared) : makePanel(model);
+std::unique_ptr<FloatingPanel> QtPanelHost::makeOverlayPanel() {
+    return std::make_unique<FloatingPanelWindow>(m_overlay(), m_themes, m_windows);
 }
 
 } // namespace quillon

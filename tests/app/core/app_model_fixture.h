@@ -1,9 +1,8 @@
 #pragma once
 
-#include "fake_panels.h"
-
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/platform/fake/fake_desktop.h>
+#include <quillon/app/platform/fake/fake_panel_host.h>
 
 #include <gtest/gtest.h>
 
@@ -59,6 +58,7 @@ class AppModelTest : public testing::Test {
         .timers = desktop.timers,
         .background = desktop.background,
         .panels = panels,
+        .windows = desktop.windows,
         .settings = settings,
         .ownPid = ownPid,
     }};

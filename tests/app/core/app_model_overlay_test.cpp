@@ -80,7 +80,7 @@ TEST_F(AppModelTest, ShownOverItselfTheOverlayStaysAsItIs) {
 
 TEST_F(AppModelTest, HoldingTheTriggerDuringPracticeShowsNothing) {
     startWith(sketch);
-    model.practiceHasKeyboard = [] { return true; };
+    desktop.windows.giveKeyboard(WindowName::practice);
     model.showOverlay(Stickiness::held);
     EXPECT_FALSE(panels.overlay->visible);
     model.showOverlay(Stickiness::sticky);
@@ -97,6 +97,19 @@ TEST_F(AppModelTest, ThePanelIsMadeOnceAndPlacedAtEachShowing) {
     EXPECT_DOUBLE_EQ(panels.overlay->frame.height, 640);
     EXPECT_EQ(panels.panelsMade, 1);
     EXPECT_EQ(panels.overlay->timesShown, 2);
+}
+
+TEST_F(AppModelTest, ThePanelCanBeMadeAheadOfItsFirstShowing) {
+    startWith(sketch);
+    model.prepareOverlay();
+    EXPECT_EQ(panels.overlay->timesPrepared, 1);
+    EXPECT_EQ(panels.overlay->frame, (Rect{370, 160, 1180, 760}));
+    EXPECT_FALSE(panels.overlay->visible);
+    model.showOverlay(Stickiness::sticky);
+    model.prepareOverlay();
+    EXPECT_TRUE(panels.overlay->visible);
+    EXPECT_EQ(panels.panelsMade, 1);
+    EXPECT_EQ(panels.overlay->timesPrepared, 1);
 }
 
 TEST_F(AppModelTest, SwitchingApplicationsWhileHeldIsFollowed) {
@@ -164,11 +177,11 @@ TEST_F(AppModelTest, ShowsSampleDataWithoutADesktop) {
 }
 
 TEST_F(AppModelTest, WindowsAreAskedFor) {
-    std::vector<WindowName> asked;
-    const auto subscription =
-        model.windowRequested.subscribe([&](WindowName name) { asked.push_back(name); });
     model.requestWindow(WindowName::library);
-    EXPECT_EQ(asked, std::vector{WindowName::library});
+    EXPECT_EQ(desktop.windows.opened(), std::vector{WindowName::library});
+    EXPECT_TRUE(model.offersWindow(WindowName::settings));
+    desktop.windows.withhold(WindowName::settings);
+    EXPECT_FALSE(model.offersWindow(WindowName::settings));
 }
 
 } // namespace

@@ -284,6 +284,7 @@ TEST(AppModelLifetime, EndsWhileAReadingIsUnderWay) {
             .timers = desktop.timers,
             .background = desktop.background,
             .panels = panels,
+            .windows = desktop.windows,
             .settings = settings,
             .ownPid = 1,
         });

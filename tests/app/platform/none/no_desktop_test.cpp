@@ -16,12 +16,15 @@ TEST(NoDesktopTest, HasNothingToTell) {
     EXPECT_FALSE(desktop.icons.icon("org.gnome.gedit"));
     EXPECT_EQ(desktop.appearance.look(), Look());
     EXPECT_FALSE(desktop.panels.isComposited());
+    EXPECT_FALSE(desktop.windows.offers(WindowName::welcome));
+    EXPECT_FALSE(desktop.windows.hasKeyboard(WindowName::practice));
     EXPECT_EQ(desktop.menus.readMenus({}, {}), MenuReading());
 }
 
 TEST(NoDesktopTest, AsksForNothing) {
     NoDesktop desktop;
     desktop.access.ask();
+    desktop.windows.open(WindowName::library);
     desktop.panels.prepare(1);
     desktop.panels.takeKeyboard(1);
     desktop.panels.returnKeyboard(1);

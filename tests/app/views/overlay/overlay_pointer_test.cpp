@@ -64,12 +64,9 @@ TEST_F(OverlayPointerTest, ARowsMenuPinsAndUnpins) {
 }
 
 TEST_F(OverlayPointerTest, ARowsMenuOpensTheLibrary) {
-    std::vector<WindowName> opened;
-    const Subscription subscription =
-        desk.model.windowRequested.subscribe([&](WindowName name) { opened.push_back(name); });
     rightClick(row(u"Save"_s));
     choose(u"Open in Library"_s);
-    EXPECT_THAT(opened, ElementsAre(WindowName::library));
+    EXPECT_THAT(desk.desktop.windows.opened(), ElementsAre(WindowName::library));
 }
 
 TEST_F(OverlayPointerTest, TheMenuOfAHeldOverlayKeepsItOpen) {

@@ -18,11 +18,8 @@ TEST_F(OverlayTest, WithoutPermissionItAsksForItAndShowsHow) {
     EXPECT_THAT(
         texts(),
         Contains(u"Allow it once in your desktop’s accessibility settings. Nothing leaves your computer."_s));
-    std::vector<WindowName> opened;
-    const Subscription subscription =
-        desk.model.windowRequested.subscribe([&](WindowName name) { opened.push_back(name); });
     QTest::mouseClick(view->findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_THAT(opened, ElementsAre(WindowName::welcome));
+    EXPECT_THAT(desk.desktop.windows.opened(), ElementsAre(WindowName::welcome));
 }
 
 TEST_F(OverlayTest, PermissionThatIsGrantedWhileItIsOpenShowsAtOnce) {

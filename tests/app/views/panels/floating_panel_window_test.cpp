@@ -39,7 +39,7 @@ class FloatingPanelWindowTest : public testing::Test {
     FakePanelWindows desktop;
     QWidget* content = new QWidget;
     QLineEdit* field = new QLineEdit(content);
-    FloatingPanelWindow panel{content, 16, themes, desktop};
+    FloatingPanelWindow panel{{std::unique_ptr<QWidget>(content), 16, {}}, themes, desktop};
     int escapes = 0;
     int resigns = 0;
 };

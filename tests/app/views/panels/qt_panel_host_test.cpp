@@ -58,7 +58,7 @@ TEST_F(QtPanelHostTest, TheModelsOverlayIsShownInOnePanelThatIsKept) {
 TEST_F(QtPanelHostTest, AnOverlayThatWasPreparedIsTheOneThatIsShown) {
     desk.trust();
     desk.showSample();
-    desk.host.prepareOverlay(desk.model);
+    desk.model.prepareOverlay();
     QWidget* prepared = panel();
     ASSERT_NE(prepared, nullptr);
     EXPECT_FALSE(prepared->isVisible());

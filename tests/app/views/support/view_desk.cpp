@@ -1,5 +1,6 @@
 #include "view_desk.h"
 
+#include <quillon/app/views/overlay/overlay_view.h>
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/sample_records.h>
 
@@ -25,6 +26,13 @@ void ViewDesk::beginReading(const std::string& appName) {
     const RunningApp app{2, "org.example." + appName, appName, {}};
     desktop.front.setCurrent(app);
     model.frontAppChanged(app);
+}
+
+PanelContent ViewDesk::overlayContent() {
+    auto view = std::make_unique<OverlayView>(model, themes, icons, OverlayMode::live);
+    auto prepare = [view = view.get()] { view->prepare(); };
+    return {
+        .widget = std::move(view), .cornerRadius = OverlayView::cornerRadius, .prepare = std::move(prepare)};
 }
 
 } // namespace quillon

@@ -32,7 +32,7 @@ class ViewDesk {
     Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
     ThemeSource themes{desktop.appearance};
     AppIconCache icons{desktop.icons};
-    QtPanelHost host{themes, icons, desktop.panels, OverlayMode::live};
+    QtPanelHost host{themes, desktop.panels, [this] { return overlayContent(); }};
     AppModel model{{
         .frontApplication = desktop.front,
         .menuReader = desktop.menus,
@@ -42,9 +42,13 @@ class ViewDesk {
         .timers = desktop.timers,
         .background = desktop.background,
         .panels = host,
+        .windows = desktop.windows,
         .settings = settings,
         .ownPid = ownPid,
     }};
+
+  private:
+    PanelContent overlayContent();
 };
 
 } // namespace quillon

@@ -51,11 +51,8 @@ TEST_F(TrayMenuTest, WithoutPermissionItBeginsWithAskingForIt) {
         items(), ElementsAre(
                      u"Allow Accessibility…"_s, u"-"_s, u"Show Shortcuts"_s, u"[Or hold ⌘ in any app]"_s,
                      u"-"_s, u"Quit Quillon"_s));
-    std::vector<WindowName> opened;
-    const Subscription subscription =
-        desk.model.windowRequested.subscribe([&](WindowName name) { opened.push_back(name); });
     choose(u"Allow Accessibility…"_s);
-    EXPECT_THAT(opened, ElementsAre(WindowName::welcome));
+    EXPECT_THAT(desk.desktop.windows.opened(), ElementsAre(WindowName::welcome));
 }
 
 TEST_F(TrayMenuTest, NamesTheApplicationInFront) {

@@ -1,15 +1,10 @@
 #pragma once
 
 #include "geometry.h"
-#include "panel_placement.h"
 
 #include <functional>
-#include <memory>
-#include <vector>
 
 namespace quillon {
-
-class AppModel;
 
 /// A borderless window above all others that does not make this program active. Reused for the whole run:
 /// hiding only takes it off the screen.
@@ -17,6 +12,8 @@ class FloatingPanel {
   public:
     virtual ~FloatingPanel() = default;
 
+    /// Does ahead what the first showing would have to do otherwise, where nobody sees it. After `setFrame`.
+    virtual void prepare() = 0;
     /// Places the content, in logical desktop pixels.
     virtual void setFrame(Rect frame) = 0;
     /// Shows the panel above others without taking the keyboard.
@@ -28,18 +25,6 @@ class FloatingPanel {
 
     std::function<void()> onEscape; ///< the user pressed Escape in the panel
     std::function<void()> onResign; ///< the panel lost the keyboard, or the user pressed a button elsewhere
-};
-
-/// What the panels' controllers need of the toolkit.
-class PanelHost {
-  public:
-    virtual ~PanelHost() = default;
-
-    /// The monitors, the main one first; empty when there is none.
-    virtual std::vector<Screen> screens() const = 0;
-    virtual Point pointer() const = 0;
-    /// The panel that shows the overlay's view of `model`. Called once, on first show. Never null.
-    virtual std::unique_ptr<FloatingPanel> makeOverlayPanel(AppModel& model) = 0;
 };
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/app/core/panel_host.h>
+#include <quillon/app/ports/panel_host.h>
 
 #include <memory>
 #include <utility>
@@ -12,6 +12,7 @@ struct PanelRecord {
     Rect frame;
     bool visible = false;
     bool hasKeyboard = false;
+    int timesPrepared = 0;
     int timesShown = 0;
 };
 
@@ -19,6 +20,7 @@ class FakePanel final : public FloatingPanel {
   public:
     explicit FakePanel(std::shared_ptr<PanelRecord> record) : m_record(std::move(record)) {}
 
+    void prepare() override { ++m_record->timesPrepared; }
     void setFrame(Rect frame) override { m_record->frame = frame; }
     void orderFront() override {
         m_record->visible = true;
@@ -40,7 +42,7 @@ class FakePanelHost final : public PanelHost {
   public:
     std::vector<Screen> screens() const override { return allScreens; }
     Point pointer() const override { return pointerPosition; }
-    std::unique_ptr<FloatingPanel> makeOverlayPanel(AppModel&) override {
+    std::unique_ptr<FloatingPanel> makeOverlayPanel() override {
         ++panelsMade;
         auto made = std::make_unique<FakePanel>(overlay);
         overlayPanel = made.get();

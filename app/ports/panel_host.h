@@ -1,0 +1,24 @@
+#pragma once
+
+#include "floating_panel.h"
+#include "screen.h"
+
+#include <memory>
+#include <vector>
+
+namespace quillon {
+
+/// Where floating panels come from and what there is to place them by. What a panel shows is known to its
+/// maker only.
+class PanelHost {
+  public:
+    virtual ~PanelHost() = default;
+
+    /// The monitors, the main one first; empty when there is none.
+    virtual std::vector<Screen> screens() const = 0;
+    virtual Point pointer() const = 0;
+    /// A panel that shows the overlay, hidden. Never null.
+    virtual std::unique_ptr<FloatingPanel> makeOverlayPanel() = 0;
+};
+
+} // namespace quillon

@@ -1,0 +1,16 @@
+#include "overlay_content.h"
+
+#include <quillon/app/views/overlay/overlay_view.h>
+
+#include <utility>
+
+namespace quillon {
+
+PanelContent overlayContent(AppModel& model, ThemeSource& themes, AppIconCache& icons, OverlayMode mode) {
+    auto view = std::make_unique<OverlayView>(model, themes, icons, mode);
+    auto prepare = [view = view.get()] { view->prepare(); };
+    return {
+        .widget = std::move(view), .cornerRadius = OverlayView::cornerRadius, .prepare = std::move(prepare)};
+}
+
+} // namespace quillon
