@@ -1,8 +1,9 @@
 #pragma once
 
+#include <quillon/kit/base/outcome.h>
+
 #include <cstddef>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -15,9 +16,9 @@ namespace quillon::DataFile {
 /// its size in memory.
 inline constexpr std::size_t largestSize = std::size_t{32} << 20;
 
-/// The bytes of an ordinary file, or of one that a link leads to. Absent when there is none, when it cannot
-/// be read or is too large, and for folders, pipes and devices, which are not waited for.
-std::optional<std::string> read(const std::filesystem::path& path);
+/// The bytes of an ordinary file, or of one that a link leads to; the reason when there is none, when it
+/// cannot be read or is too large, and for folders, pipes and devices, which are not waited for.
+Outcome<std::string, std::error_code> read(const std::filesystem::path& path);
 
 /// Creates the folder and every missing one above it, for their owner alone (0700). An existing folder is
 /// left as it is.

@@ -15,23 +15,31 @@ constexpr std::size_t firstBuffer = 4096;
 
 /// The size of an open ordinary file of bearable length. A size is what the file says it has, which a file of
 /// the proc file system, or one that grows, gets wrong.
-std::optional<std::size_t> ordinarySize(const FileDescriptor& file) {
+Outcome<std::size_t, std::error_code> ordinarySize(const FileDescriptor& file) {
     struct stat status {};
-    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
+    if (::fstat(file.get(), &status) != 0)
+        return lastError();
+    if (S_ISDIR(status.st_mode))
+        return std::make_error_code(std::errc::is_a_directory);
+    if (!S_ISREG(status.st_mode))
+        return std::make_error_code(std::errc::not_supported);
     const auto size = static_cast<std::size_t>(status.st_size);
-    return size <= largestSize ? std::optional(size) : std::nullopt;
+    if (size > largestSize)
+        return std::make_error_code(std::errc::file_too_large);
+    return size;
 }
 
 } // namespace
 
-std::optional<std::string> read(const std::filesystem::path& path) {
+Outcome<std::string, std::error_code> read(const std::filesystem::path& path) {
     // Not waiting is what keeps a pipe without a writer from holding up the start.
     const FileDescriptor file(uninterrupted(
         [&path] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); }));
-    const std::optional<std::size_t> size = file ? ordinarySize(file) : std::nullopt;
-    if (!size)
-        return std::nullopt;
+    if (!file)
+        return lastError();
+    const Outcome<std::size_t, std::error_code> size = ordinarySize(file);
+    if (const std::error_code* const reason = size.failure())
+        return *reason;
     std::string bytes(std::max(*size + 1, firstBuffer), '\0');
     std::size_t filled = 0;
     while (filled <= largestSize) {
@@ -40,14 +48,14 @@ std::optional<std::string> read(const std::filesystem::path& path) {
         const ssize_t count =
             uninterrupted([&] { return ::read(file.get(), bytes.data() + filled, bytes.size() - filled); });
         if (count < 0)
-            return std::nullopt;
+            return lastError();
         if (count == 0) {
             bytes.resize(filled);
             return bytes;
         }
         filled += static_cast<std::size_t>(count);
     }
-    return std::nullopt;
+    return std::make_error_code(std::errc::file_too_large);
 }
 
 } // namespace quillon::DataFile

@@ -1,42 +1,53 @@
 #pragma once
 
-#include "annotations.h"
-#include "usage.h"
-#include <quillon/kit/menu/app_sheet.h>
+#include "json_fault.h"
+#include "json_value_readers.h"
+#include "json_write.h"
+#include "stored_forms.h"
 
-#include <map>
+#include <quillon/kit/base/outcome.h>
+
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
-namespace quillon {
+/// Values as JSON texts, by their forms (see json_form.h). Writing: one line, keys sorted, "/" inside text
+/// escaped, other characters as they are. Reading: strict about shapes, types and missing keys, lenient about
+/// unknown ones.
+namespace quillon::Json {
 
-/// The sheets read so far, by bundle identifier.
-using SheetMap = std::map<std::string, AppSheet, std::less<>>;
+/// Absent when a text is not UTF-8.
+template <Storable Value>
+std::optional<std::string> encode(const Value& value) {
+    JsonWriter json;
+    write(json, value);
+    return std::move(json).take();
+}
 
-/// The stored forms. Writing: one line, keys sorted, "/" inside text escaped, other characters as they are,
-/// dates in ISO 8601 with whole seconds in UTC. Absent when a text is not UTF-8. Reading: strict about
-/// shapes, types and missing keys, lenient about unknown ones; absent for anything else.
-namespace Json {
+/// What the text says, or what is wrong with it.
+template <Storable Value>
+Outcome<Value, Fault> tryDecode(std::string_view text) {
+    ValueReader<Value> reader;
+    if (std::optional<Fault> fault = parse(text, reader))
+        return *std::move(fault);
+    return reader.take();
+}
 
-std::optional<std::string> encode(const AppSheet& sheet);
-std::optional<std::string> encode(const SheetMap& sheets);
-std::optional<std::string> encode(const UsageBook& book);
-std::optional<std::string> encode(const AnnotationBook& book);
+/// What the text says; absent when anything is wrong with it.
+template <Storable Value>
+std::optional<Value> decode(std::string_view text) {
+    return tryDecode<Value>(text).value();
+}
 
-/// `Value` is one of AppSheet, SheetMap, UsageBook, AnnotationBook.
-template <class Value>
-std::optional<Value> decode(std::string_view text);
+// Made once, in json_codec.cpp.
+extern template std::optional<std::string> encode(const AppSheet&);
+extern template std::optional<std::string> encode(const SheetMap&);
+extern template std::optional<std::string> encode(const UsageBook&);
+extern template std::optional<std::string> encode(const AnnotationBook&);
+extern template Outcome<AppSheet, Fault> tryDecode<AppSheet>(std::string_view);
+extern template Outcome<SheetMap, Fault> tryDecode<SheetMap>(std::string_view);
+extern template Outcome<UsageBook, Fault> tryDecode<UsageBook>(std::string_view);
+extern template Outcome<AnnotationBook, Fault> tryDecode<AnnotationBook>(std::string_view);
 
-template <>
-std::optional<AppSheet> decode<AppSheet>(std::string_view text);
-template <>
-std::optional<SheetMap> decode<SheetMap>(std::string_view text);
-template <>
-std::optional<UsageBook> decode<UsageBook>(std::string_view text);
-template <>
-std::optional<AnnotationBook> decode<AnnotationBook>(std::string_view text);
-
-} // namespace Json
-
-} // namespace quillon
+} // namespace quillon::Json

@@ -2,6 +2,10 @@
 
 #include "data_file.h"
 #include "json_codec.h"
+#include "load_failure.h"
+#include "save_failure.h"
+
+#include <quillon/kit/base/outcome.h>
 
 #include <filesystem>
 #include <optional>
@@ -11,25 +15,9 @@
 
 namespace quillon {
 
-/// Why a file could not be saved.
-struct SaveFailure {
-    enum class Step {
-        folder,   ///< the folder could not be made
-        encoding, ///< the value has text that is not UTF-8
-        writing,  ///< the file could not be written
-    };
-    Step step = Step::writing;
-    std::error_code code;
-
-    /// One line for a log: "could not write the file: No space left on device".
-    std::string message() const;
-
-    bool operator==(const SaveFailure&) const = default;
-};
-
-/// One value kept as a JSON file; `Value` is one of AppSheet, SheetMap, UsageBook, AnnotationBook. Touches
-/// the disk only when asked, and keeps no copy of the contents.
-template <class Value>
+/// One value kept as a JSON file, of any type that has a form (see json_form.h). Touches the disk only when
+/// asked, and keeps no copy of the contents.
+template <Json::Storable Value>
 class JSONFile {
   public:
     explicit JSONFile(std::filesystem::path url) : m_url(std::move(url)) {}
@@ -37,9 +25,21 @@ class JSONFile {
     const std::filesystem::path& url() const { return m_url; }
 
     /// What the file holds. Absent when it cannot be read (see DataFile::read) or holds anything else.
-    std::optional<Value> load() const {
-        const std::optional<std::string> text = DataFile::read(m_url);
-        return text ? Json::decode<Value>(*text) : std::nullopt;
+    std::optional<Value> load() const { return tryLoad().value(); }
+
+    /// What the file holds, or why that is not to be had.
+    Outcome<Value, LoadFailure> tryLoad() const {
+        const Outcome<std::string, std::error_code> text = DataFile::read(m_url);
+        if (const std::error_code* const code = text.failure())
+            return LoadFailure{
+                *code == std::errc::no_such_file_or_directory ? LoadFailure::Kind::absent
+                                                              : LoadFailure::Kind::unreadable,
+                *code,
+                {}};
+        Outcome<Value, Json::Fault> value = Json::tryDecode<Value>(*text);
+        if (const Json::Fault* const fault = value.failure())
+            return LoadFailure{LoadFailure::Kind::broken, {}, *fault};
+        return *std::move(value);
     }
 
     /// Makes the file hold `value`, creating its folder where it is missing (see DataFile). The reason when

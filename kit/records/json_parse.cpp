@@ -2,7 +2,11 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <limits>
+#include <utility>
 
 namespace quillon::Json {
 
@@ -10,11 +14,52 @@ namespace {
 
 using Events = nlohmann::json_sax<nlohmann::json>;
 
+/// How far the parser has come.
+struct Progress {
+    std::size_t read = 0;
+    bool ended = false; ///< it wanted more than there is
+};
+
+/// Walks through the text, telling its progress; the parser itself tells none.
+class Watched {
+  public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    Watched(const char* at, Progress& progress) : m_at(at), m_progress(&progress) {}
+
+    reference operator*() const { return *m_at; }
+    Watched& operator++() {
+        ++m_at;
+        ++m_progress->read;
+        return *this;
+    }
+    bool operator==(const Watched& end) const {
+        m_progress->ended = m_at == end.m_at;
+        return m_progress->ended;
+    }
+
+  private:
+    const char* m_at;
+    Progress* m_progress;
+};
+
 /// Carries the parser's events to the reader whose turn it is. The text is foreign: everything is bounded by
 /// its length, and nesting by `maxDepth`.
 class EventCarrier : public Events {
   public:
-    explicit EventCarrier(Reader& root) : m_root(root) {}
+    EventCarrier(std::string_view json, Reader& root) : m_json(json), m_root(root) {}
+
+    /// What is wrong with the text; absent as long as nothing is.
+    std::optional<Fault> run() {
+        const char* const begin = m_json.data();
+        nlohmann::json::sax_parse(
+            Watched(begin, m_progress), Watched(begin + m_json.size(), m_progress), this);
+        return std::move(m_fault);
+    }
 
     bool null() override {
         return take([](Reader&) { return false; });
@@ -23,16 +68,16 @@ class EventCarrier : public Events {
         return take([value](Reader& reader) { return reader.boolean(value); });
     }
     bool number_integer(number_integer_t value) override {
-        return take([value](Reader& reader) { return reader.integer(value); });
+        return takeNumber([value](Reader& reader) { return reader.integer(value); });
     }
     bool number_unsigned(number_unsigned_t value) override {
         constexpr number_unsigned_t largest = std::numeric_limits<std::int64_t>::max();
-        return take([value](Reader& reader) {
+        return takeNumber([value](Reader& reader) {
             return value <= largest && reader.integer(static_cast<std::int64_t>(value));
         });
     }
     bool number_float(number_float_t, const string_t&) override {
-        return take([](Reader&) { return false; });
+        return takeNumber([](Reader&) { return false; });
     }
     bool string(string_t& value) override {
         return take([&value](Reader& reader) { return reader.text(value); });
@@ -48,19 +93,27 @@ class EventCarrier : public Events {
     bool key(string_t& name) override {
         if (m_skippedDepth == 0)
             m_member = m_open.back().reader->member(name);
-        return m_skippedDepth > 0 || m_member;
+        m_tokenEnd = m_progress.read;
+        return true;
     }
     bool end_object() override { return end(); }
     bool end_array() override { return end(); }
 
-    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
-        return false;
+    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception& error) override {
+        if (error.id == outOfRange)
+            return refuse(tokenBegin(), "the number is too large");
+        if (m_progress.ended)
+            return refuse(m_json.size(), "the text ends too early");
+        return refuse(tokenBegin(), "the text is not JSON from here on");
     }
 
   private:
     /// The deepest stored form, the key of a shortcut in the map of sheets, has eight levels; the rest is
     /// leeway for members that a later version may add.
     static constexpr std::size_t maxDepth = 64;
+
+    /// How the library names numbers that no floating-point number holds.
+    static constexpr int outOfRange = 406;
 
     enum class Kind { object, array };
     struct Open {
@@ -81,46 +134,82 @@ class EventCarrier : public Events {
             m_open.back().reader->childDone();
     }
 
+    /// Where the token stands that was read after the last one that was taken.
+    std::size_t tokenBegin() const {
+        return std::min(m_json.find_first_not_of(" \t\r\n,:", m_tokenEnd), m_json.size());
+    }
+
+    bool refuse(std::size_t offset, std::string reason) {
+        m_fault = Fault{offset, std::move(reason)};
+        return false;
+    }
+
+    /// The value whose reader is at `depth` is not as it must be.
+    bool refuseValue(const Reader* reader, std::size_t depth) {
+        const std::string_view member = depth > 0 ? m_open[depth - 1].reader->currentMember() : "";
+        std::string reason = depth == 0 ? "the whole" : member.empty() ? "an element" : "";
+        if (!member.empty())
+            reason.append("\"").append(member).append("\"");
+        return refuse(tokenBegin(), reason + ' ' + (reader ? reader->complaint() : "has no place here"));
+    }
+
+    template <class Give>
+    bool takeNumber(Give give) {
+        // Where a number ends is known from the byte behind it, if there is one.
+        return take(give, m_progress.ended ? m_progress.read : m_progress.read - 1);
+    }
+
     template <class Give>
     bool take(Give give) {
-        if (m_skippedDepth > 0)
-            return true;
-        Reader* const reader = next();
-        if (reader == Reader::ignored())
-            return true;
-        if (!reader || !give(*reader))
-            return false;
-        done();
+        return take(give, m_progress.read);
+    }
+
+    template <class Give>
+    bool take(Give give, std::size_t tokenEnd) {
+        if (m_skippedDepth == 0) {
+            Reader* const reader = next();
+            if (reader != Reader::ignored()) {
+                if (!reader || !give(*reader))
+                    return refuseValue(reader, m_open.size());
+                done();
+            }
+        }
+        m_tokenEnd = tokenEnd;
         return true;
     }
 
     template <class Give>
     bool begin(Give give, Kind kind) {
         if (m_open.size() + m_skippedDepth >= maxDepth)
-            return false;
+            return refuse(tokenBegin(), "the text is nested too deeply");
         Reader* const reader = m_skippedDepth > 0 ? Reader::ignored() : next();
-        if (reader == Reader::ignored()) {
+        if (reader == Reader::ignored())
             ++m_skippedDepth;
-            return true;
-        }
-        if (!reader || !give(*reader))
-            return false;
-        m_open.push_back({reader, kind});
+        else if (!reader || !give(*reader))
+            return refuseValue(reader, m_open.size());
+        else
+            m_open.push_back({reader, kind});
+        m_tokenEnd = m_progress.read;
         return true;
     }
 
     bool end() {
         if (m_skippedDepth > 0) {
             --m_skippedDepth;
-            return true;
+        } else {
+            if (!m_open.back().reader->end())
+                return refuseValue(m_open.back().reader, m_open.size() - 1);
+            m_open.pop_back();
+            done();
         }
-        if (!m_open.back().reader->end())
-            return false;
-        m_open.pop_back();
-        done();
+        m_tokenEnd = m_progress.read;
         return true;
     }
 
+    std::string_view m_json;
+    Progress m_progress;
+    std::size_t m_tokenEnd = 0; ///< of the last token that was taken
+    std::optional<Fault> m_fault;
     Reader& m_root;
     std::vector<Open> m_open;
     Reader* m_member = nullptr;
@@ -129,12 +218,15 @@ class EventCarrier : public Events {
 
 } // namespace
 
-bool parse(std::string_view json, Reader& root) {
+std::optional<Fault> parse(std::string_view json, Reader& root) {
     // The library takes one for the end of the text, whatever stands behind it.
-    if (json.find('\0') != std::string_view::npos)
-        return false;
-    EventCarrier carrier(root);
-    return nlohmann::json::sax_parse(json.data(), json.data() + json.size(), &carrier);
+    if (const std::size_t zero = json.find('\0'); zero != std::string_view::npos)
+        return Fault{zero, "the text is not JSON from here on"};
+    return EventCarrier(json, root).run();
+}
+
+std::string Fault::message() const {
+    return "byte " + std::to_string(offset) + ": " + reason;
 }
 
 } // namespace quillon::Json

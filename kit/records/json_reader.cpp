@@ -18,31 +18,37 @@ void ObjectReader::field(std::string_view name, Reader& reader, Need need) {
 }
 
 bool ObjectReader::beginObject() {
+    m_missing = {};
     for (Field& field : m_fields)
         field.seen = false;
     return true;
 }
 
 Reader* ObjectReader::member(const std::string& key) {
-    for (Field& field : m_fields) {
-        if (field.name == key) {
-            field.seen = true;
-            return field.reader;
-        }
-    }
-    return ignored();
+    const auto field = std::ranges::find(m_fields, key, &Field::name);
+    if (field == m_fields.end())
+        return ignored();
+    field->seen = true;
+    m_current = field->name;
+    return field->reader;
 }
 
 bool ObjectReader::seen(std::string_view name) const {
-    return std::any_of(m_fields.begin(), m_fields.end(), [name](const Field& field) {
-        return field.seen && field.name == name;
-    });
+    return std::ranges::any_of(
+        m_fields, [name](const Field& field) { return field.seen && field.name == name; });
 }
 
 bool ObjectReader::end() {
-    return std::all_of(m_fields.begin(), m_fields.end(), [](const Field& field) {
-        return field.seen || field.need == Need::optional;
-    });
+    const auto missing = std::ranges::find_if(
+        m_fields, [](const Field& field) { return !field.seen && field.need == Need::required; });
+    if (missing == m_fields.end())
+        return true;
+    m_missing = missing->name;
+    return false;
+}
+
+std::string ObjectReader::complaint() const {
+    return m_missing.empty() ? Reader::complaint() : "lacks \"" + std::string(m_missing) + '"';
 }
 
 } // namespace quillon::Json

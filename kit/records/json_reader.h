@@ -1,13 +1,12 @@
 #pragma once
 
-#include <array>
+#include "json_fault.h"
+
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace quillon::Json {
@@ -36,8 +35,16 @@ class Reader {
     /// The object or array is complete; false when it lacks something.
     virtual bool end() { return true; }
 
+    /// What was wrong with the value that was just refused: "must be text".
+    virtual std::string complaint() const { return "must be " + expected(); }
+    /// The member whose value is being read, if it is one that every such object has; else empty.
+    virtual std::string_view currentMember() const { return {}; }
+
     /// Stands for "whatever this is, skip it".
     static Reader* ignored();
+
+  protected:
+    virtual std::string expected() const { return {}; }
 };
 
 /// Reads an object with known members, in any order. Unknown members are skipped; of two with the same name
@@ -47,13 +54,16 @@ class ObjectReader : public Reader {
     bool beginObject() override;
     Reader* member(const std::string& key) override;
     bool end() override;
+    std::string complaint() const override;
+    std::string_view currentMember() const override { return m_current; }
 
   protected:
     enum class Need { required, optional };
     /// Names a member; `reader` lives as long as this object does.
-    void field(std::string_view name, Reader& reader, Need need = Need::required);
+    void field(std::string_view name, Reader& reader, Need need);
     /// Whether the object that is being read has the member.
     bool seen(std::string_view name) const;
+    std::string expected() const override { return "an object"; }
 
   private:
     struct Field {
@@ -63,75 +73,12 @@ class ObjectReader : public Reader {
         bool seen = false;
     };
     std::vector<Field> m_fields;
+    std::string_view m_current;
+    std::string_view m_missing;
 };
 
-/// Reads an array of what `Element` reads into its `value`, anew for every element.
-template <class Element>
-class ArrayReader : public Reader {
-  public:
-    std::vector<decltype(Element::value)> value;
-
-    bool beginArray() override {
-        value.clear();
-        return true;
-    }
-    Reader* element() override { return &m_element; }
-    void childDone() override { value.push_back(std::move(m_element.value)); }
-
-  private:
-    Element m_element;
-};
-
-/// Reads an object that maps any names to what `Element` reads. Of two equal names the later one counts.
-template <class Element>
-class MapReader : public Reader {
-  public:
-    std::map<std::string, decltype(Element::value), std::less<>> value;
-
-    bool beginObject() override {
-        value.clear();
-        return true;
-    }
-    Reader* member(const std::string& key) override {
-        m_key = key;
-        return &m_element;
-    }
-    void childDone() override { value.insert_or_assign(std::move(m_key), std::move(m_element.value)); }
-
-  private:
-    std::string m_key;
-    Element m_element;
-};
-
-class TextReader : public Reader {
-  public:
-    std::string value;
-    bool text(const std::string& read) override {
-        value = read;
-        return true;
-    }
-};
-
-class IntegerReader : public Reader {
-  public:
-    std::int64_t value = 0;
-    bool integer(std::int64_t read) override {
-        value = read;
-        return true;
-    }
-};
-
-class BooleanReader : public Reader {
-  public:
-    bool value = false;
-    bool boolean(bool read) override {
-        value = read;
-        return true;
-    }
-};
-
-/// Reads `json` with `root`; whether it was well-formed UTF-8 and JSON and of the shape that the reader
-/// wants.
-bool parse(std::string_view json, Reader& root);
+/// Reads `json` with `root`. Absent when it was well-formed UTF-8 and JSON and of the shape that the reader
+/// wants; else what is wrong with it.
+std::optional<Fault> parse(std::string_view json, Reader& root);
 
 } // namespace quillon::Json

@@ -16,9 +16,12 @@ namespace {
 /// no four digits name.)
 template <class Value>
 void check(std::string_view text) {
-    const std::optional<Value> value = Json::decode<Value>(text);
-    if (!value)
+    const Outcome<Value, Json::Fault> value = Json::tryDecode<Value>(text);
+    if (const Json::Fault* const fault = value.failure()) {
+        QUILLON_LAW(fault->offset <= text.size() && !fault->reason.empty());
+        QUILLON_LAW(unicode::isValid(fault->reason));
         return;
+    }
     QUILLON_LAW(unicode::isValid(text));
     QUILLON_LAW(text.find('\0') == std::string_view::npos);
     const std::optional<std::string> written = Json::encode(*value);

@@ -29,6 +29,12 @@ std::optional<AnnotationBook> load(const fs::path& path) {
     return JSONFile<AnnotationBook>(path).load();
 }
 
+LoadFailure failureOf(const fs::path& path) {
+    const Outcome<AnnotationBook, LoadFailure> outcome = JSONFile<AnnotationBook>(path).tryLoad();
+    EXPECT_TRUE(outcome.failure()) << path;
+    return outcome.failure() ? *outcome.failure() : LoadFailure{};
+}
+
 class JSONFileLoad : public testing::Test {
   protected:
     TemporaryFolder m_folder;
@@ -137,22 +143,59 @@ TEST_F(JSONFileLoad, AHugeFileIsAbsentUnread) {
 TEST_F(JSONFileLoad, TheSizeBoundIsExact) {
     writeFile(m_file, goodJson);
     fs::resize_file(m_file, DataFile::largestSize);
-    const std::optional<std::string> bytes = DataFile::read(m_file);
+    const Outcome<std::string, std::error_code> bytes = DataFile::read(m_file);
     ASSERT_TRUE(bytes);
     EXPECT_EQ(bytes->size(), DataFile::largestSize);
     EXPECT_TRUE(bytes->starts_with(goodJson));
     fs::resize_file(m_file, DataFile::largestSize + 1);
-    EXPECT_EQ(DataFile::read(m_file), std::nullopt);
+    EXPECT_EQ(DataFile::read(m_file), std::make_error_code(std::errc::file_too_large));
 }
 
 TEST_F(JSONFileLoad, ReadsAFileThatDoesNotTellItsSize) {
     // Files of the proc file system say that they are empty.
     ASSERT_EQ(fs::file_size("/proc/self/status"), 0u);
     EXPECT_TRUE(DataFile::read("/proc/self/status")->starts_with("Name:"));
-    const std::optional<std::string> long_ = DataFile::read("/proc/self/smaps");
+    const Outcome<std::string, std::error_code> long_ = DataFile::read("/proc/self/smaps");
     ASSERT_TRUE(long_);
     EXPECT_GT(long_->size(), 4096u);
     EXPECT_EQ(long_->find('\0'), std::string::npos);
+}
+
+TEST_F(JSONFileLoad, TellsAFileThatIsNotThere) {
+    const auto kindOf = [](const fs::path& path) { return failureOf(path).kind; };
+    EXPECT_EQ(kindOf(m_file), LoadFailure::Kind::absent);
+    EXPECT_EQ(kindOf(m_folder / "no" / "such" / "folder"), LoadFailure::Kind::absent);
+    fs::create_symlink(m_folder / "nowhere", m_folder / "link");
+    EXPECT_EQ(kindOf(m_folder / "link"), LoadFailure::Kind::absent);
+    EXPECT_EQ(failureOf(m_file).message(), "there is no file");
+}
+
+TEST_F(JSONFileLoad, TellsWhyAFileCannotBeRead) {
+    const auto expectReason = [](const fs::path& path, std::errc reason) {
+        const LoadFailure failure = failureOf(path);
+        EXPECT_EQ(failure.kind, LoadFailure::Kind::unreadable) << path;
+        EXPECT_EQ(failure.code, reason) << path;
+    };
+    expectReason(m_folder.path(), std::errc::is_a_directory);
+    expectReason("/dev/zero", std::errc::not_supported);
+    expectReason("/proc/self/mem", std::errc::io_error);
+    fs::create_symlink(m_folder / "link", m_folder / "link");
+    expectReason(m_folder / "link", std::errc::too_many_symbolic_link_levels);
+    writeFile(m_file, goodJson);
+    expectReason(m_file / "below", std::errc::not_a_directory);
+    fs::resize_file(m_file, DataFile::largestSize + 1);
+    expectReason(m_file, std::errc::file_too_large);
+    EXPECT_EQ(failureOf(m_file).message(), "could not read the file: File too large");
+}
+
+TEST_F(JSONFileLoad, TellsWhatIsWrongInAFileThatIsBroken) {
+    writeFile(m_file, R"({"apps":{"app":{"id":{"muted":1}}}})");
+    EXPECT_EQ(
+        failureOf(m_file),
+        (LoadFailure{.kind = LoadFailure::Kind::broken, .fault = {30, "\"muted\" must be true or false"}}));
+    EXPECT_EQ(failureOf(m_file).message(), "byte 30: \"muted\" must be true or false");
+    writeFile(m_file, "");
+    EXPECT_EQ(failureOf(m_file).message(), "byte 0: the text ends too early");
 }
 
 TEST_F(JSONFileLoad, DeepNestingIsAbsent) {

@@ -1,4 +1,4 @@
-#include "json_file.h"
+#include "save_failure.h"
 
 namespace quillon {
 
