@@ -146,6 +146,13 @@ std::string repaired(std::string_view bytes) {
     return result;
 }
 
+std::string encoded(char32_t scalar) {
+    const bool isScalar = scalar < 0xD800 || (scalar > 0xDFFF && scalar <= 0x10FFFF);
+    std::string text;
+    utf8::append(text, isScalar ? scalar : utf8::replacement);
+    return text;
+}
+
 std::string_view truncated(std::string_view text, std::size_t limit) {
     if (text.size() <= limit)
         return text;

@@ -58,6 +58,9 @@ bool isValid(std::string_view bytes);
 /// `bytes` with every maximal broken sequence replaced by U+FFFD.
 std::string repaired(std::string_view bytes);
 
+/// The UTF-8 of a scalar value; of U+FFFD for what is none (a surrogate, or above U+10FFFF).
+std::string encoded(char32_t scalar);
+
 /// `text` cut after at most `limit` bytes, never inside of a scalar.
 std::string_view truncated(std::string_view text, std::size_t limit);
 

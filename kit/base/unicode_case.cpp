@@ -1,3 +1,4 @@
+#include "ascii.h"
 #include "program_error.h"
 #include "unicode.h"
 #include "utf8.h"
@@ -12,14 +13,6 @@
 namespace quillon::unicode {
 
 namespace {
-
-constexpr char asciiUpper(char byte) {
-    return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
-}
-
-constexpr char asciiLower(char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
-}
 
 /// Whether no byte starts a longer sequence. Vectorises, unlike a search for the first such byte.
 bool isAscii(std::string_view text) {
@@ -43,7 +36,7 @@ std::string toUpper(std::string_view text) {
     std::string result;
     if (isAscii(text)) {
         result.resize(text.size());
-        std::transform(text.begin(), text.end(), result.begin(), asciiUpper);
+        std::ranges::transform(text, result.begin(), [](char byte) { return ascii::toUpper(byte); });
         return result;
     }
     const std::string source = repaired(text);
@@ -59,13 +52,13 @@ std::string toLower(std::string_view text) {
     std::string result;
     if (isAscii(text)) {
         result.resize(text.size());
-        std::transform(text.begin(), text.end(), result.begin(), asciiLower);
+        std::ranges::transform(text, result.begin(), [](char byte) { return ascii::toLower(byte); });
         return result;
     }
     result.reserve(text.size() + 4);
     for (std::size_t position = 0; position < text.size();) {
         if (utf8::isAscii(text[position])) {
-            result += asciiLower(text[position++]);
+            result += ascii::toLower(text[position++]);
             continue;
         }
         const std::int32_t scalar = utf8::next(text, position);

@@ -28,6 +28,8 @@ class Modifiers {
     /// From the accessibility modifier mask of a menu item: 1 shift, 2 option, 4 control, 8 *no* command.
     /// Other bits are ignored, so 0 is ⌘ alone.
     static constexpr Modifiers fromAxMask(std::int64_t mask);
+    /// The mask from which `fromAxMask` makes the four named members again; bits without a name are lost.
+    constexpr std::int64_t axMask() const;
 
     constexpr std::int64_t rawValue() const { return m_raw; }
     constexpr bool isEmpty() const { return m_raw == 0; }
@@ -79,6 +81,19 @@ constexpr Modifiers Modifiers::fromAxMask(std::int64_t mask) {
     if (!(mask & 8))
         result.insert(command);
     return result;
+}
+
+constexpr std::int64_t Modifiers::axMask() const {
+    std::int64_t mask = 0;
+    if (contains(shift))
+        mask |= 1;
+    if (contains(option))
+        mask |= 2;
+    if (contains(control))
+        mask |= 4;
+    if (!contains(command))
+        mask |= 8;
+    return mask;
 }
 
 constexpr bool Modifiers::insert(Modifiers other) {

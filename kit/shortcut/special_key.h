@@ -74,6 +74,11 @@ std::optional<SpecialKey> fromKeyCode(std::int64_t keyCode);
 /// (0xF700 to 0xF746) that menus use as key equivalents.
 std::optional<SpecialKey> fromCharacter(std::string_view character);
 
+/// The scalar that `fromCharacter` takes for the key; absent for Eject alone, which has none.
+std::optional<char32_t> characterOf(SpecialKey key);
+/// The number that `fromAxGlyph` takes for the key. Every special key has one.
+std::int64_t axGlyphOf(SpecialKey key);
+
 } // namespace SpecialKeys
 
 } // namespace quillon

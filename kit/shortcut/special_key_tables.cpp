@@ -3,6 +3,7 @@
 #include <quillon/kit/base/unicode.h>
 
 #include <algorithm>
+#include <ranges>
 #include <span>
 
 namespace quillon::SpecialKeys {
@@ -72,6 +73,19 @@ std::optional<SpecialKey> find(std::span<const Row> rows, std::int64_t number) {
     return row != rows.end() && row->number == number ? std::optional(row->key) : std::nullopt;
 }
 
+/// The first of the key's rows; nullptr when it has none.
+const Row* rowOf(std::span<const Row> rows, SpecialKey key) {
+    const auto row = std::ranges::find(rows, key, &Row::key);
+    return row == rows.end() ? nullptr : &*row;
+}
+
+constexpr bool namesEveryKey(std::span<const Row> rows) {
+    return std::ranges::all_of(std::views::iota(std::size_t{0}, specialKeyCount), [rows](std::size_t key) {
+        return std::ranges::find(rows, static_cast<SpecialKey>(key), &Row::key) != rows.end();
+    });
+}
+static_assert(namesEveryKey(glyphRows));
+
 } // namespace
 
 std::optional<SpecialKey> fromAxGlyph(std::int64_t glyph) {
@@ -85,6 +99,15 @@ std::optional<SpecialKey> fromKeyCode(std::int64_t keyCode) {
 std::optional<SpecialKey> fromCharacter(std::string_view character) {
     const std::optional<char32_t> scalar = unicode::onlyScalar(character);
     return scalar ? find(characterRows, static_cast<std::int64_t>(*scalar)) : std::nullopt;
+}
+
+std::optional<char32_t> characterOf(SpecialKey key) {
+    const Row* row = rowOf(characterRows, key);
+    return row ? std::optional(static_cast<char32_t>(row->number)) : std::nullopt;
+}
+
+std::int64_t axGlyphOf(SpecialKey key) {
+    return rowOf(glyphRows, key)->number;
 }
 
 } // namespace quillon::SpecialKeys

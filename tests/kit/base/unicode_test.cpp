@@ -139,6 +139,15 @@ TEST(Unicode, TruncationNeverCutsInsideOfAScalar) {
     EXPECT_EQ(unicode::truncated(text, 6), "aé›");
 }
 
+TEST(Unicode, EncodesEveryScalarAndNothingElse) {
+    EXPECT_EQ(unicode::encoded(U'a'), "a");
+    EXPECT_EQ(unicode::encoded(U'é'), "é");
+    EXPECT_EQ(unicode::encoded(U'›'), "›");
+    EXPECT_EQ(unicode::encoded(U'😀'), "😀");
+    EXPECT_EQ(unicode::encoded(0xd800), "\ufffd");
+    EXPECT_EQ(unicode::encoded(0x110000), "\ufffd");
+}
+
 TEST(Unicode, TruncationOfBrokenTextStillMakesProgress) {
     EXPECT_EQ(unicode::truncated(std::string(10, '\x80'), 8).size(), 8u);
 }

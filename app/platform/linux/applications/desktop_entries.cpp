@@ -2,6 +2,8 @@
 
 #include "process_facts.h"
 
+#include <quillon/kit/base/ascii.h>
+
 #include <algorithm>
 #include <tuple>
 #include <utility>
@@ -12,13 +14,8 @@ namespace {
 
 /// Ids and window classes are compared as ASCII, whatever the language.
 std::string folded(std::string_view text) {
-    std::string result(text);
-    for (char& c : result) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-        else if (c == ' ')
-            c = '-';
-    }
+    std::string result = ascii::toLower(text);
+    std::ranges::replace(result, ' ', '-');
     return result;
 }
 

@@ -1,5 +1,7 @@
 #include "desktop_look.h"
 
+#include <quillon/kit/base/ascii.h>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -9,16 +11,9 @@ namespace quillon {
 
 namespace {
 
-std::string lower(std::string_view text) {
-    std::string result(text);
-    std::ranges::transform(
-        result, result.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return result;
-}
-
 /// "Adwaita-dark", "Yaru-dark", "Adwaita:dark", "Arc-Dark".
 bool isDarkTheme(std::string_view theme) {
-    const std::string name = lower(theme);
+    const std::string name = ascii::toLower(theme);
     return name.ends_with("-dark") || name.ends_with(":dark") || name.ends_with("_dark")
            || name.find("-dark-") != std::string::npos;
 }
@@ -59,7 +54,7 @@ bool isStyle(std::string_view word) {
         "regular", "normal",    "roman",       "book",        "thin",      "light",         "medium",
         "bold",    "heavy",     "black",       "italic",      "oblique",   "semi-bold",     "semibold",
         "demi",    "demi-bold", "ultra-light", "extra-light", "condensed", "semi-condensed"};
-    return std::ranges::find(styles, lower(word)) != styles.end();
+    return std::ranges::find(styles, ascii::toLower(word)) != styles.end();
 }
 
 ColourScheme schemeOf(const DesktopSettings& settings, std::string_view gtkThemeVariable) {

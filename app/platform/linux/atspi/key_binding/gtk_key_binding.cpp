@@ -1,5 +1,7 @@
-#include "ascii_case.h"
 #include "key_equivalents.h"
+
+#include <quillon/kit/base/ascii.h>
+#include <quillon/kit/shortcut/ax_of.h>
 
 #include <xkbcommon/xkbcommon.h>
 
@@ -41,7 +43,7 @@ std::optional<Modifiers> modifierNamed(std::string_view name) {
         {"super", Modifiers::command},
         {"mod4", Modifiers::command},
     }};
-    const std::string lower = asciiLowerCase(name);
+    const std::string lower = ascii::toLower(name);
     for (const auto& [known, modifier] : table)
         if (known == lower)
             return modifier;
@@ -118,8 +120,8 @@ AxKeyEquivalent gtkKeyEquivalent(std::string_view text) {
     }
     const xkb_keysym_t keysym = keysymNamed(rest);
     if (const auto special = specialKeyOf(keysym))
-        return specialKeyEquivalent(*special, modifiers);
-    return characterEquivalent(xkb_keysym_to_utf32(keysym), modifiers);
+        return axOf(*special, modifiers);
+    return axOfCharacter(xkb_keysym_to_utf32(keysym), modifiers);
 }
 
 } // namespace quillon::atspi

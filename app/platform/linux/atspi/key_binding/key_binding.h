@@ -15,13 +15,10 @@ struct KeyBinding {
     std::string_view title; ///< the item's title; Qt's mnemonics can only be told by it
 };
 
-/// The key equivalent that a key binding stands for; every field absent when it stands for none, or for one
-/// that cannot be expressed: a chord of several strokes, a modifier without a name here (`<Hyper>`,
+/// The key equivalent that a key binding stands for, told as `axOf` tells it; every field absent when it
+/// stands for none, or for one that cannot be expressed: a chord of several strokes, a modifier without a
+/// name here (`<Hyper>`,
 /// `<Release>`, `<Mod5>`), a key with neither a character nor a `SpecialKey` (Insert, Print, media keys).
-///
-/// Special keys are told by their character (`SpecialKeys::fromCharacter`), function and arrow keys thus by
-/// their private-use code points; only Eject, which has none, is told by its menu glyph number. The virtual
-/// key is never used. The mask is always present with a key.
 ///
 /// - GTK writes `mnemonic;full path;accelerator`; only the third part counts. So do Gecko and Java, so
 ///   unknown toolkits are expected to as well.

@@ -1,6 +1,7 @@
 #include "key_equivalents.h"
 
 #include <quillon/kit/base/unicode.h>
+#include <quillon/kit/shortcut/ax_of.h>
 
 #include <QKeySequence>
 #include <QString>
@@ -93,11 +94,11 @@ AxKeyEquivalent sequenceEquivalent(std::string_view text) {
     const QKeyCombination stroke = sequence[0];
     const Modifiers modifiers = modifiersOf(stroke.keyboardModifiers());
     if (const auto special = specialKeyOf(stroke.key()))
-        return specialKeyEquivalent(*special, modifiers);
+        return axOf(*special, modifiers);
     constexpr int firstNamedKey = 0x01000000; // below, a Qt::Key is the character that it types
     if (stroke.key() >= firstNamedKey)
         return {};
-    return characterEquivalent(static_cast<char32_t>(stroke.key()), modifiers);
+    return axOfCharacter(static_cast<char32_t>(stroke.key()), modifiers);
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 #include "toolkit.h"
 
-#include "ascii_case.h"
+#include <quillon/kit/base/ascii.h>
 
 namespace quillon::atspi {
 
 ToolkitFamily toolkitFamily(std::string_view toolkitName) {
-    const std::string lower = asciiLowerCase(toolkitName);
+    const std::string lower = ascii::toLower(toolkitName);
     if (lower == "gtk" || lower == "gail")
         return ToolkitFamily::gtk;
     if (lower == "qt")
