@@ -38,7 +38,7 @@ desktop_packages() {
     echo xvfb x11-utils xdotool openbox picom dbus at-spi2-core \
         python3 python3-gi imagemagick \
         fonts-dejavu-core libqt6svg6 hicolor-icon-theme adwaita-icon-theme \
-        geany mousepad featherpad designer-qt6
+        geany mousepad featherpad designer-qt6 libreoffice-writer libreoffice-gtk3
 }
 
 lint_packages() {

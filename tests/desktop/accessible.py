@@ -16,7 +16,7 @@ ANSWER_WITHIN = 1500  # milliseconds for one question
 ROLES = {
     7: "check box", 8: "check menu item", 16: "dialog", 23: "frame", 29: "label", 31: "list", 32: "list item",
     33: "menu", 34: "menu bar", 35: "menu item", 39: "panel", 41: "popup menu", 43: "push button",
-    45: "radio menu item", 50: "separator", 59: "tear off menu item", 61: "text", 69: "window", 75: "application",
+    45: "radio menu item", 46: "root pane", 50: "separator", 59: "tear off menu item", 61: "text", 69: "window", 75: "application",
     79: "entry", 83: "heading",
 }
 STATES = {
@@ -89,6 +89,14 @@ class Accessible:
 
     def key_binding(self):
         return self._ask("org.a11y.atspi.Action", "GetKeyBinding", GLib.Variant("(i)", (0,)), otherwise=("",))[0]
+
+    def action_count(self):
+        return self._property("org.a11y.atspi.Action", "NActions", 0)
+
+    def toolkit(self):
+        """The name and the version of an application's toolkit."""
+        return (self._property("org.a11y.atspi.Application", "ToolkitName", ""),
+                self._property("org.a11y.atspi.Application", "Version", ""))
 
     def text(self):
         """What an editable field holds; "" for anything else."""

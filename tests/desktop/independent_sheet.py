@@ -3,7 +3,8 @@
 Nothing here is shared with the program: the menus are read one call after another, and the rules that turn them
 into commands with shortcuts are written anew, so that a mistake would have to be made twice.
 
-Menus are trees of dictionaries as in tests/data/menus: role, name, keyBinding, enabled, sensitive, children.
+Menus are trees of dictionaries as in tests/data/menus: role, name, actions, keyBinding, enabled, sensitive,
+visible, size, children.
 """
 
 import ctypes
@@ -17,20 +18,30 @@ DEEPEST_SUBMENU = 4
 def read_menu_bar(application):
     """The menus of an application's first window that has a menu bar; none if no window has one."""
     for window in application.children():
-        bar = find_role(window, "menu bar", depth=6)
+        bar = menu_bar_of(window)
         if bar is not None:
             return [read_item(item) for item in bar.children()]
     return []
 
 
-def find_role(accessible, role, depth):
-    """The first descendant of that role, nearest first; None when there is none within `depth` levels."""
-    level = [accessible]
-    for _ in range(depth):
+def menu_bar_of(window):
+    """The window's menu bar. An office suite keeps another for itself in a window of its own making, a root pane
+    inside of the real window; nobody sees that one."""
+    return find_menu_bar(window, enters_root_panes=False) or find_menu_bar(window, enters_root_panes=True)
+
+
+def find_menu_bar(window, enters_root_panes):
+    """The nearest menu bar; None when there is none within seven levels."""
+    level = [window]
+    for _ in range(8):
+        below = []
         for candidate in level:
-            if candidate.role() == role:
+            role = candidate.role()
+            if role == "menu bar":
                 return candidate
-        level = [child for parent in level for child in parent.children()]
+            if enters_root_panes or role != "root pane":
+                below += candidate.children()
+        level = below
     return None
 
 
@@ -39,9 +50,12 @@ def read_item(item):
     return {
         "role": item.role(),
         "name": item.name(),
+        "actions": item.action_count(),
         "keyBinding": item.key_binding(),
         "enabled": "enabled" in states,
         "sensitive": "sensitive" in states,
+        "visible": "visible" in states,
+        "size": list(item.extents()[2:]),
         "children": [read_item(child) for child in item.children()],
     }
 
@@ -52,7 +66,7 @@ def read_item(item):
 def entries(menu_bar, toolkit):
     """The commands with shortcuts, in menu order, in their stored form."""
     found = {}
-    for at, menu in enumerate(menu_bar):
+    for at, menu in enumerate(seen(menu_bar, toolkit)):
         if at == 0 and menu["name"] in ("", "Apple"):
             continue
         title = menu["name"].strip(" \t\u00a0")
@@ -62,12 +76,12 @@ def entries(menu_bar, toolkit):
 
 
 def collect(menu, path, depth, toolkit, found):
-    for item in submenu(menu):
+    for item in submenu(menu, toolkit):
         title = item["name"].replace("\u00a0", " ").strip()
         if not title:
             continue
         item_path = path + [title]
-        if submenu(item):
+        if submenu(item, toolkit):
             if depth < DEEPEST_SUBMENU:
                 collect(item, item_path, depth + 1, toolkit, found)
             continue
@@ -77,11 +91,20 @@ def collect(menu, path, depth, toolkit, found):
             found.setdefault(tuple(item_path), entry)
 
 
-def submenu(item):
-    """The items of a menu. Qt puts a nameless popup between a menu and its items."""
+def submenu(item, toolkit):
+    """The items of a menu that a person sees. Qt puts a nameless popup between a menu and its items."""
     items = []
     for child in item["children"]:
         items += child["children"] if child["role"] == "popup menu" else [child]
+    return seen(items, toolkit)
+
+
+def seen(items, toolkit):
+    """Without those that the application hides, each toolkit by the fact that tells it there."""
+    if toolkit.lower() in ("gtk", "gail"):
+        return [item for item in items if item.get("visible", True)]
+    if toolkit.lower() == "qt":
+        return [item for item in items if 0 not in item.get("size", (1, 1))]
     return items
 
 

@@ -83,6 +83,13 @@ class RecordingTest(unittest.TestCase):
         self.assertEqual(featherpad["File › Side-Pane"]["shortcut"], character(CONTROL | OPTION, "P"))
         self.assertNotIn("File › Recently Modified › Clear", featherpad)
 
+    def test_what_nobody_can_see_is_left_out(self):
+        gimp, featherpad = recorded_entries("gimp"), recorded_entries("featherpad")
+        self.assertNotIn("File › Open Recent › file-open-recent-01", gimp)
+        self.assertIn("File › Open...", gimp)
+        self.assertNotIn("File › Run", featherpad)
+        self.assertIn("File › New", featherpad)
+
     def test_every_accelerator_of_a_titled_leaf_is_found(self):
         for name in ("geany", "mousepad", "gimp", "libreoffice-writer"):
             with self.subTest(recording=name):
@@ -90,6 +97,8 @@ class RecordingTest(unittest.TestCase):
                 paths = set()
 
                 def visit(item, path):
+                    if not item["visible"]:
+                        return
                     path = path + (item["name"].strip(),)
                     if not item["children"] and all(path) and item["keyBinding"][-1:] not in ("", ";"):
                         paths.add(path)

@@ -2,16 +2,25 @@
 
 import desktop
 from accessible import application_of
+from desktop import wait_until
 from independent_sheet import entries, read_menu_bar
 from quillon import QuillonTestCase, Ran, display, sheet
 
 
+def menus_of(pid):
+    application = application_of(pid)
+    return read_menu_bar(application) if application else []
+
+
 class SheetTest(QuillonTestCase):
     def assert_same_sheet(self, program, toolkit, bundle_id, name, at_least):
-        expected = entries(read_menu_bar(application_of(program.pid)), toolkit)
+        self.assert_same_sheet_of(program.pid, toolkit, bundle_id, name, at_least)
+
+    def assert_same_sheet_of(self, pid, toolkit, bundle_id, name, at_least):
+        expected = entries(menus_of(pid), toolkit)
         self.assertGreaterEqual(len(expected), at_least)
         self.assertTrue(any(not entry["enabled"] for entry in expected), "no disabled command to compare")
-        for choice in (("--pid", program.pid), ("--app", name), ("--front",)):
+        for choice in (("--pid", pid), ("--app", name), ("--front",)):
             with self.subTest(choice=choice):
                 printed = sheet(*choice)
                 self.assertEqual(printed["entries"], expected)
@@ -34,6 +43,17 @@ class SheetTest(QuillonTestCase):
         program = self.start_application("/usr/lib/qt6/bin/designer")
         desktop.press("Escape")  # the dialog for a new form
         self.assert_same_sheet(program, "qt", "designer", "designer", at_least=25)
+
+    def test_libreoffice_writer(self):
+        """Its window has two menu bars, and the nearer one is the false one. The program that is started is not the
+        one whose window it becomes."""
+        program = self.start("soffice", "--writer", "--norestore", "--nologo", "--nofirststartwizard",
+                             environment={"SAL_USE_VCLPLUGIN": "gtk3"})
+        wait_until("its window", lambda: "LibreOffice Writer" in desktop.active_title(), within=60)
+        pid = int(desktop.xdotool("getactivewindow", "getwindowpid"))
+        self.assertNotEqual(pid, program.pid)
+        wait_until("its menus", lambda: menus_of(pid) and menus_of(pid) == menus_of(pid), within=60)
+        self.assert_same_sheet_of(pid, "gtk", "libreoffice-writer", "LibreOffice Writer", at_least=80)
 
 
 class CommandLineTest(QuillonTestCase):

@@ -6,6 +6,7 @@ namespace quillon::atspi {
 namespace {
 
 constexpr const char* actionInterface = "org.a11y.atspi.Action";
+constexpr const char* componentInterface = "org.a11y.atspi.Component";
 constexpr const char* applicationInterface = "org.a11y.atspi.Application";
 constexpr const char* propertiesInterface = "org.freedesktop.DBus.Properties";
 
@@ -27,7 +28,9 @@ void setBit(std::array<std::int32_t, words>& set, std::uint32_t bit) {
 
 Call::MatchRule matchRule(const Condition& condition) {
     Call::MatchRule rule;
-    for (const State state : condition.states)
+    const bool wantsMissing = !condition.missingStates.empty();
+    rule.stateMatch = wantsMissing ? Call::MatchRule::none : Call::MatchRule::all;
+    for (const State state : wantsMissing ? condition.missingStates : condition.states)
         setBit(rule.states, static_cast<std::uint32_t>(state));
     if (condition.role)
         setBit(rule.roles, static_cast<std::uint32_t>(*condition.role));
@@ -68,6 +71,12 @@ void AccessibilityCalls::role(const ObjectRef& object, Then<Role> then) {
 
 void AccessibilityCalls::states(const ObjectRef& object, Then<StateSet> then) {
     m_pipeline.ask({object, accessibleInterface, "GetState", {}}, answerWith(std::move(then), readStates));
+}
+
+void AccessibilityCalls::size(const ObjectRef& object, Then<Size> then) {
+    constexpr std::uint32_t onScreen = 0;
+    m_pipeline.ask(
+        {object, componentInterface, "GetExtents", {onScreen}}, answerWith(std::move(then), readSize));
 }
 
 void AccessibilityCalls::children(const ObjectRef& object, Then<std::vector<ObjectRef>> then) {

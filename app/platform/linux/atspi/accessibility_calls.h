@@ -20,8 +20,9 @@ struct Toolkit {
 
 /// What `descendants` looks for; nothing set fits every object.
 struct Condition {
-    std::optional<Role> role;
-    std::vector<State> states; ///< all of them
+    std::optional<Role> role = {};
+    std::vector<State> states = {};        ///< all of them
+    std::vector<State> missingStates = {}; ///< none of them; not together with `states`
 };
 
 /// The questions that are asked of accessible objects. None of them changes anything in the application, and
@@ -38,6 +39,7 @@ class AccessibilityCalls {
     void name(const ObjectRef& object, Then<std::string> then);
     void role(const ObjectRef& object, Then<Role> then);
     void states(const ObjectRef& object, Then<StateSet> then);
+    void size(const ObjectRef& object, Then<Size> then);
     /// The children in order, without those that are no objects; at most one more than `itemsAtMost`.
     void children(const ObjectRef& object, Then<std::vector<ObjectRef>> then);
     /// The objects at any depth below an object that fulfil a condition, in no order to be relied on; at most

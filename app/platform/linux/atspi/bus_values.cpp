@@ -51,6 +51,15 @@ std::optional<bool> readVariantFlag(sd_bus_message* message) {
     return flag != 0;
 }
 
+std::optional<Size> readSize(sd_bus_message* message) {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    Size size;
+    if (sd_bus_message_read(message, "(iiii)", &x, &y, &size.width, &size.height) <= 0)
+        return std::nullopt;
+    return size;
+}
+
 std::optional<ObjectRef> readObject(sd_bus_message* message) {
     const char* busName = nullptr;
     const char* path = nullptr;

@@ -20,6 +20,8 @@ std::optional<std::string> readText(sd_bus_message* message, std::size_t limit);
 std::optional<std::string> readVariantText(sd_bus_message* message, std::size_t limit);
 std::optional<std::uint32_t> readNumber(sd_bus_message* message);
 std::optional<bool> readVariantFlag(sd_bus_message* message);
+/// Width and height of a rectangle, "(iiii)".
+std::optional<Size> readSize(sd_bus_message* message);
 /// An object, "(so)".
 std::optional<ObjectRef> readObject(sd_bus_message* message);
 /// An array of objects, "a(so)", without those that stand for none; at most `limit` of them.

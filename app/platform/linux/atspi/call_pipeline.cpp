@@ -44,13 +44,12 @@ struct ArgumentAppender {
         return sd_bus_message_append_basic(message, 'b', &value) >= 0;
     }
     bool operator()(const Call::MatchRule& rule) const {
-        constexpr std::int32_t matchAll = 1;
-        constexpr std::int32_t matchAny = 2;
+        using enum Call::MatchRule::Match;
         return sd_bus_message_open_container(message, 'r', "aiia{ss}iaiiasib") >= 0
                && sd_bus_message_append_array(message, 'i', rule.states.data(), sizeof rule.states) >= 0
-               && sd_bus_message_append(message, "ia{ss}i", matchAll, 0, matchAll) >= 0
+               && sd_bus_message_append(message, "ia{ss}i", rule.stateMatch, 0, all) >= 0
                && sd_bus_message_append_array(message, 'i', rule.roles.data(), sizeof rule.roles) >= 0
-               && sd_bus_message_append(message, "iasib", matchAny, 0, matchAll, 0) >= 0
+               && sd_bus_message_append(message, "iasib", any, 0, all, 0) >= 0
                && sd_bus_message_close_container(message) >= 0;
     }
 };

@@ -22,9 +22,12 @@ namespace quillon::atspi {
 
 /// A method call. The texts of interface and member must be literals.
 struct Call {
-    /// Which objects a search is for, `(aiia{ss}iaiiasib)`: those that have all bits of `states` and, when
-    /// `roles` has any, one of its roles.
+    /// Which objects a search is for, `(aiia{ss}iaiiasib)`: those that have all bits of `states`, or none of
+    /// them, and, when `roles` has any, one of its roles.
     struct MatchRule {
+        enum Match : std::int32_t { all = 1, any = 2, none = 3 };
+
+        Match stateMatch = all;
         std::array<std::int32_t, 2> states{};
         std::array<std::int32_t, 4> roles{};
     };

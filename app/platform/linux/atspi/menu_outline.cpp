@@ -1,5 +1,7 @@
 #include "menu_outline.h"
 
+#include "hidden_items.h"
+
 #include <chrono>
 #include <iterator>
 #include <utility>
@@ -36,6 +38,13 @@ std::optional<Objects> searchAll(AccessibilityCalls& calls, const ObjectRef& men
     return isWorthIt ? all : std::nullopt;
 }
 
+std::optional<Objects>
+hiddenBelow(AccessibilityCalls& calls, const ObjectRef& menuBar, ToolkitFamily family) {
+    if (!tellsHiddenByState(family))
+        return Objects();
+    return search(calls, menuBar, {.missingStates = {State::visible}}, calls.limits().itemsAtMost);
+}
+
 std::unordered_set<ObjectRef> setOf(Objects objects) {
     return {std::make_move_iterator(objects.begin()), std::make_move_iterator(objects.end())};
 }
@@ -50,19 +59,23 @@ std::unordered_map<ObjectRef, std::size_t> placesOf(Objects objects) {
 
 } // namespace
 
-std::optional<MenuOutline> MenuOutline::ask(AccessibilityCalls& calls, const ObjectRef& menuBar) {
+std::optional<MenuOutline>
+MenuOutline::ask(AccessibilityCalls& calls, const ObjectRef& menuBar, ToolkitFamily family) {
     const std::size_t most = calls.limits().itemsAtMost;
     auto all = searchAll(calls, menuBar, firstTry);
     if (all && all->size() == firstTry)
         all = searchAll(calls, menuBar, most);
     if (!all || all->size() == most)
         return std::nullopt;
-    auto menus = search(calls, menuBar, {Role::menu, {}}, most);
-    auto usable =
-        menus ? search(calls, menuBar, {{}, {State::enabled, State::sensitive}}, most) : std::nullopt;
-    if (!usable)
+    const auto found = [&](const Condition& condition) { return search(calls, menuBar, condition, most); };
+    auto menus = found({.role = Role::menu});
+    auto usable = menus ? found({.states = {State::enabled, State::sensitive}}) : std::nullopt;
+    auto hidden = usable ? hiddenBelow(calls, menuBar, family) : std::nullopt;
+    if (!hidden)
         return std::nullopt;
-    return MenuOutline{placesOf(*std::move(all)), setOf(*std::move(menus)), setOf(*std::move(usable))};
+    return MenuOutline{
+        placesOf(*std::move(all)), setOf(*std::move(menus)), setOf(*std::move(usable)),
+        setOf(*std::move(hidden))};
 }
 
 } // namespace quillon::atspi

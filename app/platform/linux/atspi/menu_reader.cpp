@@ -2,6 +2,7 @@
 
 #include "accessibility_bus.h"
 #include "application_search.h"
+#include "menu_bar_search.h"
 #include "menu_outline.h"
 #include "menu_walk.h"
 #include "window_search.h"
@@ -73,7 +74,7 @@ class Reading {
     MenuReading readItems(const ObjectRef& menuBar, ToolkitFamily family) {
         std::optional<MenuOutline> outline;
         if (family != ToolkitFamily::qt)
-            outline = MenuOutline::ask(m_calls, menuBar);
+            outline = MenuOutline::ask(m_calls, menuBar, family);
         if (outline) {
             MenuWalk walk(m_calls, family, &*outline);
             walk.start(menuBar);

@@ -1,7 +1,10 @@
 #include "menu_walk.h"
 
+#include "hidden_items.h"
+
 #include <quillon/app/platform/linux/atspi/key_binding/key_binding.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -59,6 +62,10 @@ void MenuWalk::learn(Node& node) {
     const bool isOutlined = m_outline && m_outline->all.contains(node.object);
     if (isOutlined)
         learnFromOutline(node);
+    if (node.isHidden) {
+        --m_itemCount; // it will not be shown
+        return;
+    }
     askName(node);
     const bool mayHaveChildren = !isOutlined || m_outline->menus.contains(node.object);
     if (mayHaveChildren && mayOpen(node)) {
@@ -70,6 +77,7 @@ void MenuWalk::learn(Node& node) {
 }
 
 void MenuWalk::learnFromOutline(Node& node) {
+    node.isHidden = m_outline->hidden.contains(node.object);
     node.states.emplace();
     if (m_outline->usable.contains(node.object)) {
         node.states->insert(State::enabled);
@@ -84,10 +92,21 @@ void MenuWalk::askName(Node& node) {
             return;
         }
         node.name = std::move(name);
-        if (!node.states && !node.name->empty())
-            m_calls.states(node.object, [&node](auto states) { node.states = states; });
+        if (!node.states && (tellsHiddenByState(m_family) || !node.name->empty()))
+            askStates(node);
         settle(node);
     });
+}
+
+void MenuWalk::askStates(Node& node) {
+    m_calls.states(node.object, [this, &node](std::optional<StateSet> states) {
+        node.states = states;
+        node.isHidden = states && tellsHiddenByState(m_family) && !states->has(State::visible);
+    });
+}
+
+void MenuWalk::askSize(Node& node) {
+    m_calls.size(node.object, [&node](std::optional<Size> size) { node.isHidden = size && size->isEmpty(); });
 }
 
 /// Whether the item's children may be read: it is not too deep, and the budget has something left.
@@ -109,9 +128,12 @@ void MenuWalk::askChildren(Node& node) {
 void MenuWalk::askBinding(Node& node) {
     if (node.name->empty())
         return;
-    m_calls.keyBinding(node.object, [&node](std::optional<std::string> binding) {
+    m_calls.keyBinding(node.object, [this, &node](std::optional<std::string> binding) {
         if (binding)
-            node.binding = std::move(*binding);
+            node.equivalent = keyEquivalent({*binding, m_family, *node.name});
+        const bool mayBeCommand = node.equivalent.modifiers.has_value();
+        if (mayBeCommand && tellsHiddenBySize(m_family))
+            askSize(node);
     });
 }
 
@@ -124,10 +146,13 @@ void MenuWalk::settle(Node& node) {
         return;
     }
     const std::vector<ObjectRef> children = *std::exchange(node.unopened, std::nullopt);
-    if (children.empty())
+    if (children.empty()) {
         askBinding(node);
-    else
-        addChildren(node, children);
+        return;
+    }
+    if (tellsHiddenBySize(m_family))
+        askSize(node);
+    addChildren(node, children);
 }
 
 void MenuWalk::settleUnnamed(Node& node, std::optional<Role> role) {
@@ -159,12 +184,12 @@ void MenuWalk::openDeepLayer(Node& node) {
 bool MenuWalk::agreesWithOutline() const {
     if (!m_outline)
         return true;
-    enum class Mark : std::uint8_t { unmet, met, tooDeepMenu };
+    enum class Mark : std::uint8_t { unmet, met, shutMenu };
     std::vector<Mark> marks(m_outline->all.size(), Mark::unmet);
     for (const Node& node : m_nodes)
         if (const auto place = m_outline->all.find(node.object); place != m_outline->all.end())
             marks[place->second] =
-                isTooDeep(node) && m_outline->menus.contains(node.object) ? Mark::tooDeepMenu : Mark::met;
+                staysShut(node) && m_outline->menus.contains(node.object) ? Mark::shutMenu : Mark::met;
     // What was met had all of its children met too, unless it stayed shut. So unmet objects are below the
     // last one that was met before them.
     bool mayBeUnmet = false;
@@ -172,38 +197,42 @@ bool MenuWalk::agreesWithOutline() const {
         if (mark == Mark::unmet && !mayBeUnmet)
             return false;
         if (mark != Mark::unmet)
-            mayBeUnmet = mark == Mark::tooDeepMenu;
+            mayBeUnmet = mark == Mark::shutMenu;
     }
     return true;
 }
 
 std::vector<RawMenuItem> MenuWalk::menuBar() const {
     std::vector<RawMenuItem> items;
-    if (!m_nodes.empty())
-        appendItems(m_nodes.front(), items);
+    if (m_nodes.empty())
+        return items;
+    const std::vector<Node*>& menus = m_nodes.front().children;
+    const bool isDrawn = std::ranges::any_of(menus, [](const Node* menu) { return !menu->isHidden; });
+    for (const Node* menu : menus)
+        if (menu->name && (!menu->isHidden || !isDrawn))
+            items.push_back(item(*menu));
     return items;
 }
 
-RawMenuItem MenuWalk::item(const Node& node) const {
+RawMenuItem MenuWalk::item(const Node& node) {
     RawMenuItem item;
     item.title = *node.name;
     const bool isTitled = !item.title.empty(); // of the others only their place is known
-    const AxKeyEquivalent equivalent = keyEquivalent({node.binding, m_family, item.title});
-    item.cmdChar = equivalent.character;
-    item.cmdModifiers = equivalent.modifiers;
-    item.cmdGlyph = equivalent.glyph;
-    item.cmdVirtualKey = equivalent.virtualKey;
+    item.cmdChar = node.equivalent.character;
+    item.cmdModifiers = node.equivalent.modifiers;
+    item.cmdGlyph = node.equivalent.glyph;
+    item.cmdVirtualKey = node.equivalent.virtualKey;
     item.enabled = !isTitled || !node.states || node.states->isUsable();
     appendItems(node, item.children);
     return item;
 }
 
 /// The items of a menu, those of layers in place of the layer. What told no name is left out.
-void MenuWalk::appendItems(const Node& node, std::vector<RawMenuItem>& items) const {
+void MenuWalk::appendItems(const Node& node, std::vector<RawMenuItem>& items) {
     for (const Node* child : node.children) {
         if (child->isLayer)
             appendItems(*child, items);
-        else if (child->name)
+        else if (child->name && !child->isHidden)
             items.push_back(item(*child));
     }
 }

@@ -25,11 +25,14 @@ class MenuWalk {
     /// Asks for the first items; running the calls' pipeline does the rest.
     void start(const ObjectRef& menuBar);
 
-    /// The top-level menus, as far as they were read. Untitled items (separators) have nothing but children,
-    /// and those that hold others have no key equivalent: neither can be a command.
+    /// The top-level menus, as far as they were read, without what the application hides and all that is
+    /// below it. Of Qt's items only those that would be commands are known to be hidden; where all menus of
+    /// the bar are, it is drawn by something else, and none counts as hidden. Untitled items (separators)
+    /// have nothing but children, and those that hold others have no key equivalent: neither can be a
+    /// command.
     std::vector<RawMenuItem> menuBar() const;
-    /// Whether every object of the outline was met, but for those below menus that are too deep to be read.
-    /// When not, some object has children without being a menu. True without an outline.
+    /// Whether every object of the outline was met, but for those below menus that are hidden or too deep to
+    /// be read. When not, some object has children without being a menu. True without an outline.
     bool agreesWithOutline() const;
     /// Whether the limits left anything out.
     bool isCut() const { return m_isCut; }
@@ -41,9 +44,10 @@ class MenuWalk {
         Node* parent = nullptr;
         int depth = 0; ///< of an item; a layer stands at the depth of its items
         bool isLayer = false;
+        bool isHidden = false;
         std::optional<std::string> name;
         std::optional<StateSet> states;
-        std::string binding;
+        AxKeyEquivalent equivalent;
         /// Absent while they are not known and after they were looked at.
         std::optional<std::vector<ObjectRef>> unopened;
         bool isOnlyChild = false;
@@ -54,15 +58,18 @@ class MenuWalk {
     void learn(Node& node);
     void learnFromOutline(Node& node);
     void askName(Node& node);
+    void askStates(Node& node);
+    void askSize(Node& node);
     bool isTooDeep(const Node& node) const { return node.depth > m_limits.depth; }
+    bool staysShut(const Node& node) const { return node.isHidden || isTooDeep(node); }
     bool mayOpen(const Node& node);
     void askChildren(Node& node);
     void askBinding(Node& node);
     void settle(Node& node);
     void settleUnnamed(Node& node, std::optional<Role> role);
     void openDeepLayer(Node& node);
-    RawMenuItem item(const Node& node) const;
-    void appendItems(const Node& node, std::vector<RawMenuItem>& items) const;
+    static RawMenuItem item(const Node& node);
+    static void appendItems(const Node& node, std::vector<RawMenuItem>& items);
 
     AccessibilityCalls& m_calls;
     ReadLimits m_limits;

@@ -36,7 +36,7 @@ enum class Role : std::uint32_t {
 };
 
 /// The states that matter here (`AtspiStateType`), by bit.
-enum class State : unsigned { active = 1, enabled = 8, sensitive = 24, showing = 25 };
+enum class State : unsigned { active = 1, enabled = 8, sensitive = 24, showing = 25, visible = 30 };
 
 /// The states of an object, as the two words of `GetState` joined.
 struct StateSet {
@@ -46,6 +46,15 @@ struct StateSet {
     void insert(State state) { bits |= std::uint64_t{1} << static_cast<unsigned>(state); }
     /// Whether the user can use the object now.
     bool isUsable() const { return has(State::enabled) && has(State::sensitive); }
+};
+
+/// Width and height of an object, in the pixels of its toolkit.
+struct Size {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    /// Whether it takes no room on the screen.
+    bool isEmpty() const { return width <= 0 || height <= 0; }
 };
 
 } // namespace quillon::atspi

@@ -31,8 +31,4 @@ void sortBestFirst(std::vector<BusWindow>& windows, std::span<const AppWindow> w
 /// Whether a window is titled like one of `wanted`. No untitled window is.
 bool isWanted(const BusWindow& window, std::span<const AppWindow> wanted);
 
-/// The menu bar in a window, the nearest to the window that shows, else the nearest one. Waits; absent when
-/// there is none within sane bounds.
-std::optional<ObjectRef> findMenuBar(AccessibilityCalls& calls, const ObjectRef& window);
-
 } // namespace quillon::atspi

@@ -48,7 +48,18 @@ json item(const std::string& name, const std::vector<json>& children = {}, const
         {"keyBinding", binding},
         {"enabled", true},
         {"sensitive", true},
+        {"visible", true},
+        {"size", {1, 1}},
         {"children", children}};
+}
+
+/// The same, told as the toolkit tells that nobody can see it.
+json hidden(const std::string& toolkit, json item) {
+    if (toolkit == "Qt")
+        item["size"] = {0, 0};
+    else
+        item["visible"] = false;
+    return item;
 }
 
 json popup(const std::vector<json>& children) {
@@ -91,7 +102,7 @@ TEST(MenuReader, OnlyAsksAndNeverForAllPropertiesAtOnce) {
         EXPECT_THAT(
             std::set(calls.begin(), calls.end()),
             testing::IsSubsetOf(
-                {"Get", "GetChildren", "GetRole", "GetState", "GetKeyBinding", "GetMatches"}));
+                {"Get", "GetChildren", "GetRole", "GetState", "GetKeyBinding", "GetMatches", "GetExtents"}));
     }
 }
 
@@ -120,6 +131,73 @@ TEST(MenuReader, ASubmenuWithTheRoleOfAnItemIsReadAllTheSame) {
     const MenuReading reading = read(appOf(process));
     EXPECT_EQ(count(reading.menuBar), 200U);
     EXPECT_TRUE(reading == read(appOf(usual)));
+}
+
+/// What a window's menu bar is read as when its first menu is hidden, and items and a submenu of the second.
+std::vector<json> menusWithHiddenOnes(const std::string& toolkit) {
+    const std::string shortcut = toolkit == "Qt" ? "Ctrl+E" : ";;<Primary>e";
+    const auto menu = [&toolkit](const std::string& name, const std::vector<json>& items) {
+        return item(name, toolkit == "Qt" ? std::vector{popup(items)} : items);
+    };
+    return {
+        hidden(toolkit, menu("Hidden menu", {item("Below a hidden menu", {}, shortcut)})),
+        menu(
+            "Menu", {hidden(toolkit, item("Hidden", {}, shortcut)), item("Seen", {}, shortcut),
+                     hidden(toolkit, menu("Hidden submenu", {item("Below a hidden submenu", {}, shortcut)})),
+                     item("Also seen", {}, shortcut)})};
+}
+
+TEST(MenuReader, LeavesOutWhatIsHiddenAndAllBelowIt) {
+    for (const char* toolkit : {"gtk", "GAIL", "Qt"})
+        for (const int others : {0, 500}) { // so many that the application's outline is worth asking for
+            std::vector<json> menus = menusWithHiddenOnes(toolkit);
+            if (others > 0)
+                menus.push_back(
+                    item("Long", std::vector<json>(static_cast<std::size_t>(others), item("Leaf"))));
+            const TemporaryFile file = recording(toolkit, menus);
+            const FakeAppProcess process({"--recording", file.path()});
+            const MenuReading reading = read(appOf(process));
+            EXPECT_EQ(reading.outcome, ReadOutcome::complete);
+            ASSERT_EQ(reading.menuBar.size(), others > 0 ? 2U : 1U) << toolkit;
+            EXPECT_EQ(
+                outlineOf({reading.menuBar[0]}), "Menu\n"
+                                                 "  Seen ⌃E\n"
+                                                 "  Also seen ⌃E\n")
+                << toolkit;
+        }
+}
+
+TEST(MenuReader, AToolkitThatIsNotKnownHidesNothing) {
+    const TemporaryFile file =
+        recording("Gecko", {hidden("gtk", item("Menu", {hidden("Qt", item("Item"))}))});
+    const FakeAppProcess process({"--recording", file.path()});
+    EXPECT_EQ(count(read(appOf(process)).menuBar), 2U);
+}
+
+TEST(MenuReader, AHiddenMenuDoesNotMakeItReadTwice) {
+    const json menu = hidden("gtk", item("Hidden", {item("Below"), item("Deeper", {item("Deepest")})}));
+    const TemporaryFile file = recording("gtk", {menu, item("Long", std::vector<json>(500, item("Leaf")))});
+    const FakeAppProcess process({"--recording", file.path()});
+    EXPECT_EQ(count(read(appOf(process)).menuBar), 1U + 500);
+    const auto calls = process.calls();
+    EXPECT_EQ(std::ranges::count(calls, "GetKeyBinding"), 500) << "nothing hidden is asked for";
+}
+
+TEST(MenuReader, ABarThatSomethingElseDrawsHidesNoneOfItsMenus) {
+    const TemporaryFile file = recording(
+        "Qt", {hidden("Qt", item("File", {popup({item("New")})})),
+               hidden("Qt", item("Edit", {popup({item("Cut")})}))});
+    const FakeAppProcess process({"--recording", file.path()});
+    EXPECT_EQ(count(read(appOf(process)).menuBar), 4U);
+}
+
+TEST(MenuReader, TakesTheBarThatTakesRoomOnTheScreen) {
+    for (const char* toolkit : {"gtk", "Qt"}) {
+        const FakeAppProcess process({"--items", "60", "--imagined-bar", "--toolkit", toolkit});
+        const MenuReading reading = read(appOf(process));
+        ASSERT_FALSE(reading.menuBar.empty());
+        EXPECT_EQ(reading.menuBar.front().title, "Menu of Fake") << toolkit;
+    }
 }
 
 /// A menu in a menu in a menu; the innermost item is at the given depth.

@@ -14,6 +14,15 @@ using nlohmann::json;
 
 std::vector<RawMenuItem> itemsOf(const json& list, atspi::ToolkitFamily family, int depth, int deepest);
 
+/// GTK's items tell by a state that nobody sees them, Qt's by having no size, which only those that would be
+/// commands and those that hold others are asked for.
+bool isHidden(const json& recorded, const RawMenuItem& item, atspi::ToolkitFamily family) {
+    if (family == atspi::ToolkitFamily::gtk)
+        return !recorded.at("visible").get<bool>();
+    const bool matters = item.shortcut() || !recorded.at("children").empty();
+    return family == atspi::ToolkitFamily::qt && matters && recorded.at("size").at(1) == 0;
+}
+
 RawMenuItem itemOf(const json& recorded, atspi::ToolkitFamily family, int depth, int deepest) {
     RawMenuItem item;
     item.title = recorded.at("name").get<std::string>();
@@ -39,8 +48,9 @@ std::vector<RawMenuItem> itemsOf(const json& list, atspi::ToolkitFamily family, 
         if (isLayer)
             std::ranges::move(
                 itemsOf(recorded.at("children"), family, depth, deepest), std::back_inserter(items));
-        else
-            items.push_back(itemOf(recorded, family, depth, deepest));
+        else if (RawMenuItem item = itemOf(recorded, family, depth, deepest);
+                 !isHidden(recorded, item, family))
+            items.push_back(std::move(item));
     }
     return items;
 }

@@ -27,7 +27,7 @@ std::uint32_t roleNamed(const std::string& name) {
 
 std::uint64_t Object::stateBits() const {
     const auto bit = [](int number, bool isSet) { return std::uint64_t{isSet} << number; };
-    return bit(1, active) | bit(8, enabled) | bit(24, sensitive) | bit(25, showing) | bit(30, showing);
+    return bit(1, active) | bit(8, enabled) | bit(24, sensitive) | bit(25, showing) | bit(30, visible);
 }
 
 std::optional<Objects> Objects::make(const Options& options) {
@@ -39,6 +39,8 @@ std::optional<Objects> Objects::make(const Options& options) {
         objects.addWindow(title, role::dialog);
     for (const std::string& title : options.windows) {
         Object& window = objects.addWindow(title, role::frame);
+        if (options.hasImaginedBar)
+            objects.addImaginedBar(window);
         const bool isQt = objects.m_toolkit == "Qt";
         Object& parent = isQt ? window : objects.add(&window, role::filler, "");
         Object& menuBar = objects.add(&parent, role::menuBar, "");
@@ -77,6 +79,14 @@ Object& Objects::addWindow(const std::string& title, std::uint32_t role) {
     return window;
 }
 
+/// A menu bar nearer to the window than the window's own, which nobody draws.
+void Objects::addImaginedBar(Object& window) {
+    Object& menuBar = add(&window, role::menuBar, "");
+    menuBar.showing = menuBar.isInMenus = true;
+    menuBar.height = 0;
+    add(&add(&menuBar, role::menu, "Imagined"), role::menuItem, "Imagined item").keyBinding = ";;<Primary>z";
+}
+
 bool Objects::addRecording(Object& menuBar, const std::string& file) {
     std::ifstream stream(file);
     const auto recording = nlohmann::json::parse(stream, nullptr, false);
@@ -91,6 +101,9 @@ bool Objects::addRecording(Object& menuBar, const std::string& file) {
             object.actions = item.at("actions");
             object.enabled = item.at("enabled");
             object.sensitive = item.at("sensitive");
+            object.visible = item.at("visible");
+            object.width = item.at("size").at(0);
+            object.height = item.at("size").at(1);
             self(self, object, item.at("children"));
         }
     };

@@ -24,6 +24,9 @@ struct Object {
     bool enabled = true;
     bool sensitive = true;
     bool showing = false;
+    bool visible = true;
+    std::int32_t width = 1; ///< on the screen
+    std::int32_t height = 1;
     bool active = false;
     bool isInMenus = false; ///< the menu bar and what is below
     std::vector<Object*> children;
@@ -46,6 +49,7 @@ class Objects {
   private:
     Object& add(Object* parent, std::uint32_t role, std::string name);
     Object& addWindow(const std::string& title, std::uint32_t role);
+    void addImaginedBar(Object& window);
     bool addRecording(Object& menuBar, const std::string& file);
     void addMadeUp(Object& menuBar, const std::string& window, const Options& options);
     void addItem(Object& menu, std::size_t number);

@@ -38,6 +38,7 @@ const std::map<std::string_view, std::function<void(Options&)>> plain{
     {"--cycle", [](Options& o) { o.hasCycle = true; }},
     {"--stale-role", [](Options& o) { o.hasStaleRole = true; }},
     {"--invalid-utf8", [](Options& o) { o.hasBrokenText = true; }},
+    {"--imagined-bar", [](Options& o) { o.hasImaginedBar = true; }},
     {"--no-menu-bar", [](Options& o) { o.hasMenuBar = false; }},
 };
 

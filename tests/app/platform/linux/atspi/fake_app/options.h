@@ -17,6 +17,7 @@ struct Options {
     std::vector<std::string>
         windows; ///< titles of the windows that have the menu bar; "Fake" when none is given
     std::vector<std::string> dialogs; ///< titles of windows without a menu bar, which come first
+    bool hasImaginedBar = false;      ///< a window has a second menu bar, without room on the screen
     bool hasMenuBar = true;           ///< otherwise there is only a window without one
     std::string log;                  ///< file that gets a line for each call: member, path, interface
 

@@ -14,7 +14,10 @@ constexpr const char* errorName = "org.freedesktop.DBus.Error.Failed";
 
 /// A search of `org.a11y.atspi.Collection`, as far as it is understood here.
 struct Search {
+    static constexpr int none = 3; ///< of the ways in which states may match
+
     std::uint64_t states = 0;
+    int stateMatch = 0;
     std::array<std::uint32_t, 4> roles{};
     bool hasRoles = false;
     int limit = 0;
@@ -22,7 +25,8 @@ struct Search {
     bool fits(const Object& object) const {
         const bool hasRole =
             !hasRoles || ((roles.at(object.claimedRole / 32) >> (object.claimedRole % 32)) & 1);
-        return hasRole && (object.stateBits() & states) == states;
+        const std::uint64_t found = object.stateBits() & states;
+        return hasRole && (stateMatch == none ? found == 0 : found == states);
     }
 };
 
@@ -35,7 +39,8 @@ bool readSearch(sd_bus_message* call, Search& search) {
         return false;
     for (std::size_t i = 0; i < size / 4 && i < 2; ++i)
         search.states |= std::uint64_t{static_cast<const std::uint32_t*>(words)[i]} << (32 * i);
-    if (sd_bus_message_skip(call, "ia{ss}i") < 0 || sd_bus_message_read_array(call, 'i', &words, &size) < 0)
+    if (sd_bus_message_read(call, "i", &search.stateMatch) < 0 || sd_bus_message_skip(call, "a{ss}i") < 0
+        || sd_bus_message_read_array(call, 'i', &words, &size) < 0)
         return false;
     for (std::size_t i = 0; i < size / 4 && i < search.roles.size(); ++i) {
         search.roles.at(i) = static_cast<const std::uint32_t*>(words)[i];
@@ -141,6 +146,8 @@ int Service::answer(sd_bus_message* call, Object& object) {
         return answerAccessible(call, member, object);
     if (interface == "org.a11y.atspi.Action" && member == "GetKeyBinding" && object.isInMenus)
         return replyText(call, object.keyBinding);
+    if (interface == "org.a11y.atspi.Component" && member == "GetExtents")
+        return sd_bus_reply_method_return(call, "(iiii)", 0, 0, object.width, object.height);
     if (interface == "org.a11y.atspi.Collection" && member == "GetMatches" && m_objects.toolkit() != "Qt")
         return answerMatches(call, object);
     return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_UNKNOWN_METHOD, "no such method here");
