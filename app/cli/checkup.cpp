@@ -1,15 +1,13 @@
 #include "checkup.h"
 
-#include "terminal_width.h"
-
 #include <algorithm>
-#include <string_view>
+#include <cstddef>
 
 namespace quillon {
 
 namespace {
 
-std::string_view mark(Check::Result result) {
+TerminalText mark(Check::Result result) {
     switch (result) {
     case Check::Result::good: return "ok      ";
     case Check::Result::limited: return "limited ";
@@ -18,20 +16,24 @@ std::string_view mark(Check::Result result) {
     return "";
 }
 
+TerminalText lineText(const Check& check, std::size_t subjectWidth) {
+    TerminalText line = mark(check.result) + TerminalText::of(check.subject);
+    line += TerminalText::blanks(subjectWidth - TerminalText::of(check.subject).width() + 2);
+    return line + TerminalText::of(check.finding) + "\n";
+}
+
 } // namespace
 
-std::string checkupText(const std::vector<Check>& checks) {
+TerminalText checkupText(const std::vector<Check>& checks) {
     std::size_t widest = 0;
     for (const Check& check : checks)
-        widest = std::max(widest, terminalWidth(check.subject));
+        widest = std::max(widest, TerminalText::of(check.subject).width());
 
-    std::string text;
+    TerminalText text;
     for (const Check& check : checks) {
-        const std::size_t padding = widest - terminalWidth(check.subject) + 2;
-        text += std::string(mark(check.result)) + check.subject + std::string(padding, ' ') + check.finding;
-        text += '\n';
+        text += lineText(check, widest);
         if (!check.remedy.empty())
-            text += "        → " + check.remedy + '\n';
+            text += "        → " + TerminalText::of(check.remedy) + "\n";
     }
     return text;
 }

@@ -42,7 +42,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
 )";
 
 UsageError unexpected(const QString& what) {
-    return {u"quillon: %1; see quillon --help"_s.arg(what).toStdString()};
+    return {u"%1; see quillon --help"_s.arg(what).toStdString()};
+}
+
+/// The parser's own complaint, made to fit into a message: "Unknown option 'x'." becomes "unknown option
+/// 'x'".
+QString complaintOf(const QCommandLineParser& parser) {
+    QString text = parser.errorText();
+    while (text.endsWith(u'.'))
+        text.chop(1);
+    return text.isEmpty() ? text : QString(text.front().toLower() % text.sliced(1));
 }
 
 /// The options of one command: those that take a value and those that do not.
@@ -50,7 +59,7 @@ std::optional<UsageError> readOptions(
     QCommandLineParser& parser, const QStringList& arguments, const QList<QCommandLineOption>& options) {
     parser.addOptions(options);
     if (!parser.parse(QStringList{u"quillon"_s} + arguments))
-        return unexpected(parser.errorText());
+        return unexpected(complaintOf(parser));
     if (!parser.positionalArguments().isEmpty())
         return unexpected(u"unexpected argument '%1'"_s.arg(parser.positionalArguments().constFirst()));
     return std::nullopt;

@@ -68,7 +68,7 @@ struct PrintCommand {
 };
 /// Not a command line of this program.
 struct UsageError {
-    std::string message; ///< one line
+    std::string message; ///< one sentence, without the program's name
 
     bool operator==(const UsageError&) const = default;
 };

@@ -1,8 +1,10 @@
 #include "sheet_text.h"
 
-#include "terminal_width.h"
+#include <quillon/kit/cheatsheet/cheat_sheet.h>
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 namespace quillon {
 
@@ -10,78 +12,109 @@ namespace {
 
 constexpr std::size_t columnGap = 2;
 
-std::string titleInItsMenu(const MenuEntry& entry) {
+using Row = std::vector<TerminalText>;
+using Rows = std::vector<Row>;
+
+TerminalText titleInItsMenu(const MenuEntry& entry) {
     const std::string submenus = entry.submenuPath();
     const std::string title(entry.title());
-    return submenus.empty() ? title : submenus + std::string(pathSeparator) + title;
+    return TerminalText::of(submenus.empty() ? title : submenus + std::string(pathSeparator) + title);
 }
 
-std::string headline(const AppSheet& sheet) {
-    const std::string count = std::to_string(sheet.entries.size());
-    const std::string name = sheet.appName.empty() ? sheet.bundleID : sheet.appName;
-    return name + " (" + sheet.bundleID + "): " + count
-           + (sheet.entries.size() == 1 ? " shortcut\n" : " shortcuts\n");
+TerminalText headline(const AppSheet& sheet) {
+    const std::size_t count = sheet.entries.size();
+    return TerminalText::of(sheet.appName.empty() ? sheet.bundleID : sheet.appName)
+           + (sheet.bundleID.empty() ? TerminalText() : " (" + TerminalText::of(sheet.bundleID) + ")") + ": "
+           + TerminalText::of(std::to_string(count))
+           + (count == 1 ? TerminalText(" shortcut\n") : " shortcuts\n");
 }
-
-using Rows = std::vector<std::vector<std::string>>;
 
 std::vector<std::size_t> columnWidths(const Rows& rows) {
     std::vector<std::size_t> widths;
-    for (const auto& row : rows) {
+    for (const Row& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths[column], terminalWidth(row[column]));
+            widths[column] = std::max(widths[column], row[column].width());
     }
     return widths;
 }
 
-std::string lineText(const std::vector<std::string>& cells, const std::vector<std::size_t>& widths) {
-    std::string line;
+TerminalText lineText(const Row& cells, const std::vector<std::size_t>& widths) {
+    TerminalText line;
+    std::size_t owedBlanks = 0;
     for (std::size_t column = 0; column < cells.size(); ++column) {
-        line += cells[column];
-        line.append(widths[column] - terminalWidth(cells[column]) + columnGap, ' ');
+        if (!cells[column].isEmpty())
+            line += TerminalText::blanks(std::exchange(owedBlanks, 0)) + cells[column];
+        owedBlanks += widths[column] - cells[column].width() + columnGap;
     }
-    line.erase(line.find_last_not_of(' ') + 1);
-    return line + '\n';
+    return line + "\n";
 }
 
-std::string tableText(const Rows& rows, const std::vector<std::size_t>& widths) {
-    std::string text;
-    for (const auto& row : rows)
+TerminalText tableText(const Rows& rows, const std::vector<std::size_t>& widths) {
+    TerminalText text;
+    for (const Row& row : rows)
         text += lineText(row, widths);
     return text;
 }
 
-std::vector<std::string> rowOf(const MenuEntry& entry) {
-    return {"  " + titleInItsMenu(entry), entry.shortcut.display(), entry.enabled ? "" : "(disabled)"};
+Row rowOf(const MenuEntry& entry) {
+    return {
+        "  " + titleInItsMenu(entry), TerminalText::of(entry.shortcut.display()),
+        entry.enabled ? TerminalText() : "(disabled)"};
+}
+
+/// A text that stays on its line in Markdown and on a terminal.
+std::string line(const std::string& foreign) {
+    return TerminalText::of(foreign).bytes();
+}
+
+AppSheet linesOf(AppSheet sheet) {
+    sheet.appName = line(sheet.appName);
+    for (MenuEntry& entry : sheet.entries)
+        std::ranges::transform(entry.path, entry.path.begin(), line);
+    return sheet;
+}
+
+/// The annotations of a sheet whose titles are lines.
+Annotations linesOf(const Annotations& annotations) {
+    Annotations lines;
+    for (const auto& [id, annotation] : annotations)
+        lines[line(id)] = {annotation.pinned, line(annotation.note), annotation.muted};
+    return lines;
 }
 
 } // namespace
 
-std::string tableText(const Rows& rows) {
+TerminalText tableText(const Rows& rows) {
     return tableText(rows, columnWidths(rows));
 }
 
-std::string sheetText(const AppSheet& sheet) {
+TerminalText sheetText(const AppSheet& sheet) {
     Rows all;
     for (const MenuEntry& entry : sheet.entries)
         all.push_back(rowOf(entry));
     const std::vector<std::size_t> widths = columnWidths(all);
 
-    std::string text = headline(sheet);
+    TerminalText text = headline(sheet);
     for (const MenuGroup& group : sheet.groups()) {
-        text += '\n' + group.menu + '\n';
+        text += "\n" + TerminalText::of(group.menu) + "\n";
         for (const MenuEntry& entry : group.entries)
             text += lineText(rowOf(entry), widths);
     }
     return text;
 }
 
-std::string practiceText(const std::vector<MenuEntry>& round) {
+TerminalText practiceText(const std::vector<MenuEntry>& round) {
     Rows rows;
     for (std::size_t i = 0; i < round.size(); ++i)
-        rows.push_back({std::to_string(i + 1) + '.', round[i].id(), round[i].shortcut.display()});
+        rows.push_back(
+            {TerminalText::of(std::to_string(i + 1)) + ".", TerminalText::of(round[i].id()),
+             TerminalText::of(round[i].shortcut.display())});
     return tableText(rows);
+}
+
+TerminalText markdownText(const AppSheet& sheet, const Annotations& annotations) {
+    return TerminalText::linesOf(CheatSheet::markdown(linesOf(sheet), linesOf(annotations)));
 }
 
 } // namespace quillon

@@ -1,22 +1,27 @@
 #pragma once
 
-#include <quillon/kit/menu/app_sheet.h>
+#include "terminal_text.h"
 
-#include <string>
+#include <quillon/kit/menu/app_sheet.h>
+#include <quillon/kit/records/annotations.h>
+
 #include <vector>
 
 namespace quillon {
 
 /// A sheet as people read it in a terminal: a table of commands and their keys for every top-level menu, the
 /// keys in one column. Ends with a line break.
-std::string sheetText(const AppSheet& sheet);
+TerminalText sheetText(const AppSheet& sheet);
 
 /// A practice round as people read it in a terminal: its commands numbered in the order in which they are
 /// asked, with their menus and keys.
-std::string practiceText(const std::vector<MenuEntry>& round);
+TerminalText practiceText(const std::vector<MenuEntry>& round);
+
+/// The sheet with its pins and notes as Markdown.
+TerminalText markdownText(const AppSheet& sheet, const Annotations& annotations);
 
 /// Rows of cells as a table: each column as wide as its widest cell, two blanks between columns, no blanks at
 /// the end of a line. The width of a text is what a terminal gives it.
-std::string tableText(const std::vector<std::vector<std::string>>& rows);
+TerminalText tableText(const std::vector<std::vector<TerminalText>>& rows);
 
 } // namespace quillon

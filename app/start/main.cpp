@@ -1,14 +1,17 @@
-#include "commands.h"
-#include "overloaded.h"
+#include "run_program.h"
+#include "this_platform.h"
+
+#include <quillon/app/commands/commands.h>
+#include <quillon/app/platform/qt/system_clock.h>
 
 #include <QCoreApplication>
 #include <QStringList>
 
 #include <clocale>
-#include <cstdio>
-#include <utility>
 
 namespace {
+
+using namespace quillon;
 
 QStringList argumentsAfterName(int argc, char** argv) {
     QStringList arguments;
@@ -17,38 +20,66 @@ QStringList argumentsAfterName(int argc, char** argv) {
     return arguments;
 }
 
-/// Commands without windows still need what makes Qt's sockets and buses work.
-template <class Command>
-auto withEventLoop(int& argc, char** argv, quillon::ExitCode (*run)(const Command&)) {
-    return [&argc, argv, run](const Command& command) {
-        const QCoreApplication application(argc, argv);
-        return static_cast<int>(run(command));
-    };
-}
+/// Carries out what the command line asks for.
+class Execution {
+  public:
+    Execution(int& argc, char** argv, Output& output) : m_argc(argc), m_argv(argv), m_output(output) {}
+
+    ExitCode operator()(const RunCommand&) { return run(FirstShow::nothing); }
+    ExitCode operator()(const ShowCommand& show) {
+        return run(show.sample ? FirstShow::sample : FirstShow::overlay);
+    }
+    ExitCode operator()(const AppsCommand&) {
+        return withPlatform([&](Platform& platform) {
+            return runApps(platform.applications(), platform.menuReader(), m_output);
+        });
+    }
+    ExitCode operator()(const SheetCommand& sheet) {
+        return withPlatform([&](Platform& platform) {
+            return runSheet(
+                sheet, platform.applications(), platform.menuReader(), platform.dataFolder(), SystemClock(),
+                m_output);
+        });
+    }
+    ExitCode operator()(const DoctorCommand&) {
+        return withPlatform([&](Platform& platform) { return runDoctor(platform.diagnosis(), m_output); });
+    }
+    ExitCode operator()(const QuitCommand&) {
+        return withPlatform([&](Platform& platform) { return runQuit(platform.runningProgram(), m_output); });
+    }
+    ExitCode operator()(const PrintCommand& print) {
+        m_output.print(TerminalText::linesOf(print.text));
+        return ExitCode::success;
+    }
+    ExitCode operator()(const UsageError& error) {
+        return m_output.fail(ExitCode::usage, TerminalText::of(error.message));
+    }
+
+  private:
+    ExitCode run(FirstShow firstShow) {
+        return runProgram(*thisPlatform(), firstShow, m_argc, m_argv, m_output);
+    }
+
+    /// Commands without windows still need what makes Qt's sockets and buses work.
+    template <class Work>
+    ExitCode withPlatform(Work work) {
+        const QCoreApplication application(m_argc, m_argv);
+        const std::unique_ptr<Platform> platform = thisPlatform();
+        return work(*platform);
+    }
+
+    int& m_argc;
+    char** m_argv;
+    Output& m_output;
+};
 
 } // namespace
 
 int main(int argc, char** argv) {
-    using namespace quillon;
+    fillClosedStreams();
     std::setlocale(LC_ALL, "");
-    return std::visit(
-        Overloaded{
-            [&](const RunCommand&) { return runProgram(argc, argv, FirstShow::nothing); },
-            [&](const ShowCommand& show) {
-                return runProgram(argc, argv, show.sample ? FirstShow::sample : FirstShow::overlay);
-            },
-            withEventLoop(argc, argv, runApps),
-            withEventLoop(argc, argv, runSheet),
-            withEventLoop(argc, argv, runDoctor),
-            withEventLoop(argc, argv, runQuit),
-            [](const PrintCommand& print) {
-                std::fputs(print.text.c_str(), stdout);
-                return static_cast<int>(ExitCode::success);
-            },
-            [](const UsageError& error) {
-                std::fprintf(stderr, "%s\n", error.message.c_str());
-                return static_cast<int>(ExitCode::usage);
-            },
-        },
-        parseCommandLine(argumentsAfterName(argc, argv)));
+    Output output;
+    const ExitCode code =
+        std::visit(Execution(argc, argv, output), parseCommandLine(argumentsAfterName(argc, argv)));
+    return static_cast<int>(output.finish(code));
 }

@@ -3,8 +3,6 @@
 #include "overlay_content.h"
 #include "showcase.h"
 
-#include <quillon/app/platform/linux/session/paths.h>
-
 #include <QApplication>
 #include <QCursor>
 
@@ -18,17 +16,18 @@ constexpr Seconds patienceForTrust{0.5};
 
 } // namespace
 
-Program::Program()
-    : m_desktop(m_background, m_clock), m_settings(QString::fromStdString(settingsFile().string())),
-      m_themes(m_desktop.appearance()), m_icons(m_desktop.icons()),
+Program::Program(Platform& platform)
+    : m_desktop(platform.openDesktop(m_background, m_clock)),
+      m_settings(QString::fromStdString(platform.settingsFile().string())),
+      m_themes(m_desktop->appearance()), m_icons(m_desktop->icons()),
       m_panels(
-          m_themes, m_desktop.panelWindows(),
+          m_themes, m_desktop->panelWindows(),
           [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); }),
-      m_windows(m_desktop.accessibility()), m_model({
-                                                .frontApplication = m_desktop.frontApplication(),
-                                                .menuReader = m_desktop.menuReader(),
-                                                .accessibility = m_desktop.accessibility(),
-                                                .keyboard = m_desktop.keyboard(),
+      m_windows(m_desktop->accessibility()), m_model({
+                                                .frontApplication = m_desktop->frontApplication(),
+                                                .menuReader = m_desktop->menuReader(),
+                                                .accessibility = m_desktop->accessibility(),
+                                                .keyboard = m_desktop->keyboard(),
                                                 .clock = m_clock,
                                                 .timers = m_timers,
                                                 .background = m_background,
@@ -51,9 +50,6 @@ InstanceRequests Program::requests() {
         .showSample = [this] { showSample(); },
         .quit = [] { QApplication::quit(); },
         .isWatching = [this] { return m_model.isWatching(); },
-        .measureStalls = [this] { m_stalls.start(); },
-        .longestStall =
-            [this] { return std::chrono::duration<double, std::milli>(m_stalls.longest()).count(); },
     };
 }
 
@@ -89,7 +85,7 @@ void Program::activate() {
 void Program::showSample() {
     if (!m_showcase)
         m_showcase = std::make_unique<Showcase>(
-            m_clock, m_timers, m_background, m_themes, m_icons, m_desktop.panelWindows(), m_settings);
+            m_clock, m_timers, m_background, m_themes, m_icons, m_desktop->panelWindows(), m_settings);
     m_showcase->show();
 }
 

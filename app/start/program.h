@@ -1,15 +1,13 @@
 #pragma once
 
-#include "commands.h"
-#include "linux_desktop.h"
 #include "program_windows.h"
 
 #include <quillon/app/core/app_model.h>
-#include <quillon/app/platform/linux/session/instance.h>
 #include <quillon/app/platform/qt/qt_timers.h>
-#include <quillon/app/platform/qt/stall_meter.h>
 #include <quillon/app/platform/qt/system_clock.h>
 #include <quillon/app/platform/qt/thread_background.h>
+#include <quillon/app/ports/instance.h>
+#include <quillon/app/ports/platform.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/panels/qt_panel_host.h>
@@ -21,11 +19,15 @@ namespace quillon {
 
 class Showcase;
 
+/// What the program shows when it starts.
+enum class FirstShow { nothing, overlay, sample };
+
 /// The running program: everything that lives from its start to its end, in the order in which it needs one
 /// another.
 class Program {
   public:
-    Program();
+    /// `platform` outlives it.
+    explicit Program(Platform& platform);
     ~Program();
 
     /// What other processes of the session may ask of this one.
@@ -40,7 +42,7 @@ class Program {
     SystemClock m_clock;
     QtTimers m_timers;
     ThreadBackground m_background;
-    LinuxDesktop m_desktop;
+    std::unique_ptr<Desktop> m_desktop;
     Settings m_settings;
     ThemeSource m_themes;
     AppIconCache m_icons;
@@ -48,7 +50,6 @@ class Program {
     ProgramWindows m_windows;
     AppModel m_model;
     TrayMenu m_tray;
-    StallMeter m_stalls;
     std::unique_ptr<Showcase> m_showcase;
     Subscription m_preparation;
     Subscription m_firstShow;

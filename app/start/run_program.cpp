@@ -1,91 +1,90 @@
-#include "commands.h"
-#include "program.h"
+#include "run_program.h"
+
+#include "stall_hook.h"
 
 #include <QApplication>
-#include <QByteArray>
-#include <QDir>
-#include <QLibraryInfo>
 
-#include <xcb/xcb.h>
-
-#include <iostream>
+#include <array>
 
 namespace quillon {
 
 namespace {
 
-bool hasXServer() {
-    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
-    const bool reached = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return reached;
-}
-
-QString operationOf(FirstShow firstShow) {
+ProgramRequest requestOf(FirstShow firstShow) {
     switch (firstShow) {
-    case FirstShow::overlay: return QStringLiteral("ShowOverlay");
-    case FirstShow::sample: return QStringLiteral("ShowSample");
+    case FirstShow::overlay: return ProgramRequest::showOverlay;
+    case FirstShow::sample: return ProgramRequest::showSample;
     case FirstShow::nothing: break;
     }
-    return QStringLiteral("Activate");
+    return ProgramRequest::activate;
 }
 
-int askRunning(FirstShow firstShow) {
-    if (askRunningInstance(operationOf(firstShow)))
-        return static_cast<int>(ExitCode::success);
-    std::cerr << "quillon: the running instance does not answer\n";
-    return static_cast<int>(ExitCode::failure);
+ExitCode failUnanswered(Output& output) {
+    return output.fail(ExitCode::failure, "the running instance does not answer");
 }
 
-int failWithoutDisplay() {
-    std::cerr << "quillon: there is no display; start it in a graphical session, or use quillon sheet\n";
-    return static_cast<int>(ExitCode::failure);
+/// How the event loop ended.
+enum LoopEnd { quit = 0, startAnew = 1 };
+
+/// Runs until the user quits or the session that was lost is back.
+LoopEnd run(Program& program, Instance& instance, FirstShow firstShow) {
+    const Subscription returned = instance.onReturn([](Instance::Return how) {
+        QApplication::exit(how == Instance::Return::startAnew ? LoopEnd::startAnew : LoopEnd::quit);
+    });
+    program.start(firstShow);
+    return static_cast<LoopEnd>(QApplication::exec());
 }
 
-bool hasWaylandPlugin() {
-    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
-    return plugins.exists(QStringLiteral("libqwayland-generic.so"));
-}
+struct Ended {
+    ExitCode code = ExitCode::success;
+    LoopEnd how = LoopEnd::quit;
+};
 
-/// The Qt platform to draw with; "" when there is none that would work. Where an X server can be reached
-/// windows can be placed freely, which Wayland does not allow.
-QByteArray usablePlatform() {
-    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
-    if (!chosen.isEmpty() && !chosen.startsWith("xcb"))
-        return chosen;
-    if (hasXServer())
-        return "xcb";
-    const bool wayland = chosen.isEmpty() && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    return wayland && hasWaylandPlugin() ? "wayland" : "";
+Ended runInstance(Platform& platform, FirstShow firstShow, Output& output) {
+    switch (platform.runningProgram().ask(requestOf(firstShow))) {
+    case RunningProgram::Answer::done: return {};
+    case RunningProgram::Answer::silent: return {failUnanswered(output)};
+    case RunningProgram::Answer::notRunning:
+    case RunningProgram::Answer::unreachable: break;
+    }
+    Program program(platform);
+    const std::unique_ptr<Instance> instance = platform.makeInstance();
+    switch (instance->claim(program.requests())) {
+    case Instance::Claim::first: break;
+    case Instance::Claim::noSession:
+        output.say("the session bus cannot be reached; menus cannot be read, see quillon doctor");
+        break;
+    case Instance::Claim::taken:
+        if (platform.runningProgram().ask(requestOf(firstShow)) == RunningProgram::Answer::done)
+            return {};
+        return {failUnanswered(output)};
+    case Instance::Claim::unreachable: return {failUnanswered(output)};
+    }
+    const std::unique_ptr<QObject> measuring = stallHook();
+    return {ExitCode::success, run(program, *instance, firstShow)};
 }
 
 } // namespace
 
-int runProgram(int argc, char** argv, FirstShow firstShow) {
-    const QByteArray platform = usablePlatform();
-    if (platform.isEmpty())
-        return failWithoutDisplay();
-    qputenv("QT_QPA_PLATFORM", platform);
-
+ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** argv, Output& output) {
+    if (!platform.prepareDisplay())
+        return output.fail(
+            ExitCode::failure, "there is no display; start it in a graphical session, or use quillon sheet");
     QApplication::setApplicationName(QStringLiteral("quillon"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QStringLiteral("app.quillon.Quillon"));
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
 
-    if (instanceIsRunning())
-        return askRunning(firstShow);
-    Program program;
-    InstanceService service(program.requests());
-    switch (service.claim()) {
-    case InstanceService::Claim::first: break;
-    case InstanceService::Claim::noSessionBus:
-        std::cerr << "quillon: there is no session bus; menus cannot be read, see quillon doctor\n";
-        break;
-    case InstanceService::Claim::alreadyTaken: return askRunning(firstShow);
+    Ended ended;
+    {
+        const QApplication application(argc, argv);
+        QApplication::setQuitOnLastWindowClosed(false);
+        ended = runInstance(platform, firstShow, output);
     }
-    program.start(firstShow);
-    return QApplication::exec();
+    if (ended.how == LoopEnd::startAnew) {
+        std::array<char*, 2> alone{argv[0], nullptr};
+        platform.startAnew(alone.data());
+    }
+    return ended.code;
 }
 
 } // namespace quillon

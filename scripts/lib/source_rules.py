@@ -17,6 +17,7 @@ FLOORS = {
     "app/core": ("kit", "app/ports"),
     "app/views": ("kit", "app/ports", "app/core", "app/views"),
     "app/cli": ("kit", "app/ports"),
+    "app/commands": ("kit", "app/ports", "app/cli"),
     "app/platform": ("kit", "app/ports", "app/platform"),
 }
 SEES_EVERYTHING = ("app/start", "tests", "bench", "fuzz")

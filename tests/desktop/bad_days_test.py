@@ -7,7 +7,7 @@ import desktop
 from accessible import application_of
 from desktop import wait_until
 from independent_sheet import entries, read_menu_bar
-from quillon import QuillonTestCase, Ran, request, row, sheet
+from quillon import QuillonTestCase, Ran, longest_stall, measure_stalls, row, sheet
 
 LONGEST_READ = 12.0  # seconds that reading an application that does not answer may take in all
 STALL_BUDGET = 5.0  # milliseconds that another process may keep the program from answering its user
@@ -69,10 +69,10 @@ class BadDaysTest(QuillonTestCase):
         desktop.activate("Geany")
         if is_stopped:
             self.mousepad.stop()
-        request("MeasureStalls")
+        measure_stalls()
         desktop.activate("Mousepad")
         time.sleep(1.5)  # past the time that one question to it may take
-        return request("LongestStallMilliseconds")[0]
+        return longest_stall()
 
     def test_the_program_answers_its_user_while_an_application_does_not(self):
         """Against the same with the application answering, for a busy machine makes everything wait."""

@@ -17,6 +17,7 @@ HOLD_DELAY = 0.8  # seconds, the default
 NO_OVERLAY_FOR = HOLD_DELAY + 0.7  # to be sure that none comes
 
 SERVICE, OBJECT, INTERFACE = "app.quillon.Quillon", "/app/quillon/Quillon", "app.quillon.Quillon1"
+STALL_METER = "/app/quillon/StallMeter", "app.quillon.StallMeter1"
 
 
 class Ran:
@@ -160,3 +161,13 @@ def owns_name(name):
 def request(method):
     """Calls the running program; GLib.Error when it does not answer in time."""
     return accessible.ask(accessible.session_bus(), SERVICE, OBJECT, INTERFACE, method)
+
+
+def measure_stalls():
+    """Begins to measure how long the running program keeps its user waiting."""
+    accessible.ask(accessible.session_bus(), SERVICE, *STALL_METER, "Start")
+
+
+def longest_stall():
+    """The longest time since then, in milliseconds."""
+    return accessible.ask(accessible.session_bus(), SERVICE, *STALL_METER, "LongestMilliseconds")[0]

@@ -11,11 +11,16 @@ TEST(Checkup, PutsEachRemedyBelowItsCheck) {
         {"Tray", Check::Result::limited, "no host", "Use `quillon show`."},
         {"Accessibility", Check::Result::missing, "is off", "Turn it on."}};
     EXPECT_EQ(
-        checkupText(checks), "ok      Session bus    answers\n"
-                             "limited Tray           no host\n"
-                             "        → Use `quillon show`.\n"
-                             "missing Accessibility  is off\n"
-                             "        → Turn it on.\n");
+        checkupText(checks).bytes(), "ok      Session bus    answers\n"
+                                     "limited Tray           no host\n"
+                                     "        → Use `quillon show`.\n"
+                                     "missing Accessibility  is off\n"
+                                     "        → Turn it on.\n");
+}
+
+TEST(Checkup, KeepsWhatOthersSayInItsLine) {
+    const std::vector<Check> checks{{"Window manager", Check::Result::good, "O\x1b[31m\npenbox", ""}};
+    EXPECT_EQ(checkupText(checks).bytes(), "ok      Window manager  O<U+001B>[31m<U+000A>penbox\n");
 }
 
 TEST(Checkup, IsWellWhenNothingIsMissing) {

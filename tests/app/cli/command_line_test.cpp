@@ -99,6 +99,11 @@ TEST(CommandLine, ErrorsAreOneLineThatSaysWhereToLook) {
     }
 }
 
+TEST(CommandLine, ErrorsFitIntoTheirLine) {
+    EXPECT_EQ(errorOf(parse({"sheet", "--colour"})), "unknown option 'colour'; see quillon --help");
+    EXPECT_EQ(errorOf(parse({"dance"})), "unknown command 'dance'; see quillon --help");
+}
+
 TEST(CommandLine, HelpWinsAnywhere) {
     for (const Command& command : {parse({"--help"}), parse({"sheet", "--help"}), parse({"-h"})}) {
         const auto* print = std::get_if<PrintCommand>(&command);

@@ -17,8 +17,7 @@ class AccessibilityBusAccess final : public AccessibilityAccess {
     static constexpr std::chrono::milliseconds defaultAskInterval{10'000};
 
     explicit AccessibilityBusAccess(
-        QDBusConnection bus = QDBusConnection::sessionBus(),
-        std::chrono::milliseconds askInterval = defaultAskInterval);
+        QDBusConnection bus, std::chrono::milliseconds askInterval = defaultAskInterval);
 
     bool isTrusted() const override;
     /// Turns the desktop's switch on. It stays on when the program ends.

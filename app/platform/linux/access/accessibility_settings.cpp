@@ -37,24 +37,24 @@ bool isNamed(std::string_view desktops, std::string_view desktop) {
     }
 }
 
-Command commandOf(const Panel& panel) {
-    Command command{std::string(panel.program)};
+ProgramCall callOf(const Panel& panel) {
+    ProgramCall call{std::string(panel.program)};
     if (!panel.argument.empty())
-        command.emplace_back(panel.argument);
-    return command;
+        call.emplace_back(panel.argument);
+    return call;
 }
 
 } // namespace
 
-std::optional<Command>
+std::optional<ProgramCall>
 accessibilitySettings(std::string_view desktops, const std::function<bool(const std::string&)>& isInstalled) {
     const auto installed = [&](const Panel& panel) { return isInstalled(std::string(panel.program)); };
     const auto own = std::ranges::find_if(
         panels, [&](const Panel& panel) { return isNamed(desktops, panel.desktop) && installed(panel); });
     if (own != panels.end())
-        return commandOf(*own);
+        return callOf(*own);
     const auto any = std::ranges::find_if(panels, installed);
-    return any == panels.end() ? std::nullopt : std::optional(commandOf(*any));
+    return any == panels.end() ? std::nullopt : std::optional(callOf(*any));
 }
 
 } // namespace quillon

@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-std::optional<Command> chosen(std::string_view desktops, std::set<std::string> installed) {
+std::optional<ProgramCall> chosen(std::string_view desktops, std::set<std::string> installed) {
     return accessibilitySettings(
         desktops, [&installed](const std::string& program) { return installed.contains(program); });
 }
@@ -18,18 +18,18 @@ std::optional<Command> chosen(std::string_view desktops, std::set<std::string> i
 TEST(AccessibilitySettingsTest, TheDesktopsOwnComeFirst) {
     EXPECT_EQ(
         chosen("XFCE", {"gnome-control-center", "xfce4-accessibility-settings"}),
-        Command{"xfce4-accessibility-settings"});
+        ProgramCall{"xfce4-accessibility-settings"});
     EXPECT_EQ(
         chosen("ubuntu:GNOME", {"gnome-control-center", "systemsettings"}),
-        (Command{"gnome-control-center", "universal-access"}));
-    EXPECT_EQ(chosen("KDE", {"kcmshell5", "systemsettings5"}), (Command{"systemsettings5", "kcm_access"}));
-    EXPECT_EQ(chosen("KDE", {"kcmshell5"}), (Command{"kcmshell5", "kcm_access"}));
-    EXPECT_EQ(chosen("X-Cinnamon", {"cinnamon-settings"}), (Command{"cinnamon-settings", "accessibility"}));
+        (ProgramCall{"gnome-control-center", "universal-access"}));
+    EXPECT_EQ(chosen("KDE", {"kcmshell5", "systemsettings5"}), (ProgramCall{"systemsettings5", "kcm_access"}));
+    EXPECT_EQ(chosen("KDE", {"kcmshell5"}), (ProgramCall{"kcmshell5", "kcm_access"}));
+    EXPECT_EQ(chosen("X-Cinnamon", {"cinnamon-settings"}), (ProgramCall{"cinnamon-settings", "accessibility"}));
 }
 
 TEST(AccessibilitySettingsTest, ElseAnyThatIsInstalled) {
-    EXPECT_EQ(chosen("KDE", {"mate-at-properties"}), Command{"mate-at-properties"});
-    EXPECT_EQ(chosen("", {"mate-at-properties"}), Command{"mate-at-properties"});
+    EXPECT_EQ(chosen("KDE", {"mate-at-properties"}), ProgramCall{"mate-at-properties"});
+    EXPECT_EQ(chosen("", {"mate-at-properties"}), ProgramCall{"mate-at-properties"});
     EXPECT_EQ(chosen("GNOMEX", {"xterm"}), std::nullopt);
 }
 

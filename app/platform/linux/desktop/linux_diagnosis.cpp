@@ -1,14 +1,11 @@
-#include "app_list.h"
-#include "commands.h"
+#include "linux_diagnosis.h"
 
-#include <quillon/app/cli/diagnosis.h>
+#include "desktop_facts.h"
+
 #include <quillon/app/platform/linux/atspi/accessibility_bus.h>
-#include <quillon/app/platform/linux/session/instance.h>
 #include <quillon/app/platform/linux/session/session_kind.h>
 #include <quillon/app/platform/linux/session/tray_host.h>
 #include <quillon/app/platform/linux/x11/x11_report.h>
-
-#include <iostream>
 
 namespace quillon {
 
@@ -20,11 +17,18 @@ std::optional<std::string> inputVersion(const X11Report& report) {
     return std::to_string(report.xinput->major) + '.' + std::to_string(report.xinput->minor);
 }
 
-DesktopFacts gatherFacts() {
-    const atspi::AccessibilityBusState bus = atspi::probeAccessibilityBus();
+/// Without a session bus that answers there is no way to the accessibility bus either.
+atspi::AccessibilityBusState accessibilityBus(const SessionBus& session) {
+    return session.answers() ? atspi::probeAccessibilityBus() : atspi::AccessibilityBusState{};
+}
+
+} // namespace
+
+std::vector<Check> LinuxDiagnosis::checks() {
+    const atspi::AccessibilityBusState bus = accessibilityBus(m_session);
     const X11Report x11 = x11Report();
-    return {
-        .sessionBus = bus.hasSessionBus,
+    return diagnose({
+        .sessionBus = m_session.found().state,
         .accessibilityBus = bus.hasAccessibilityBus,
         .accessibilityOn = bus.isEnabled,
         .waylandSession = sessionKind() == SessionKind::wayland,
@@ -34,18 +38,10 @@ DesktopFacts gatherFacts() {
         .shapeExtension = x11.shape,
         .windowManager = x11.windowManager,
         .compositor = x11.compositor,
-        .trayHost = x11.tray || hasTrayHost(),
-        .front = frontApp(),
-        .instanceRunning = instanceIsRunning(),
-    };
-}
-
-} // namespace
-
-ExitCode runDoctor(const DoctorCommand&) {
-    const std::vector<Check> checks = diagnose(gatherFacts());
-    std::cout << checkupText(checks);
-    return allWell(checks) ? ExitCode::success : ExitCode::failure;
+        .trayHost = x11.tray || hasTrayHost(m_session.connection()),
+        .front = m_applications.front(),
+        .instanceRunning = m_session.found().isOwned,
+    });
 }
 
 } // namespace quillon

@@ -1,4 +1,4 @@
-#include "diagnosis.h"
+#include "desktop_facts.h"
 
 namespace quillon {
 
@@ -7,8 +7,14 @@ namespace {
 using Result = Check::Result;
 
 Check sessionBus(const DesktopFacts& facts) {
-    if (facts.sessionBus)
-        return {"Session bus", Result::good, "answers", ""};
+    switch (facts.sessionBus) {
+    case BusState::answers: return {"Session bus", Result::good, "answers", ""};
+    case BusState::silent:
+        return {
+            "Session bus", Result::missing, "takes connections and does not answer",
+            "Log out and in again; every program of this session waits for it."};
+    case BusState::absent: break;
+    }
     return {
         "Session bus", Result::missing, "cannot be reached",
         "Start Quillon from a desktop session, or with dbus-run-session."};

@@ -3,14 +3,11 @@
 #include <quillon/app/platform/linux/applications/app_identifier.h>
 #include <quillon/app/platform/linux/atspi/menu_reader.h>
 #include <quillon/app/platform/none/no_desktop.h>
-#include <quillon/app/ports/accessibility_access.h>
-#include <quillon/app/ports/app_icons.h>
-#include <quillon/app/ports/appearance.h>
 #include <quillon/app/ports/background.h>
 #include <quillon/app/ports/clock.h>
-#include <quillon/app/ports/front_application.h>
-#include <quillon/app/ports/keyboard.h>
-#include <quillon/app/ports/panel_windows.h>
+#include <quillon/app/ports/desktop.h>
+
+#include <QDBusConnection>
 
 #include <memory>
 
@@ -21,18 +18,19 @@ class XdgAppIcons;
 
 /// The ports of a Linux desktop. Where it lacks something, that port is the one of a desktop that offers
 /// nothing.
-class LinuxDesktop {
+class LinuxDesktop final : public Desktop {
   public:
-    LinuxDesktop(Background& background, const Clock& clock);
-    ~LinuxDesktop();
+    /// `sessionBus` may be one that is not connected. `background` and `clock` outlive it.
+    LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock);
+    ~LinuxDesktop() override;
 
-    FrontApplication& frontApplication();
-    MenuReader& menuReader() { return m_menuReader; }
-    AccessibilityAccess& accessibility() { return *m_access; }
-    Keyboard& keyboard();
-    AppIcons& icons();
-    Appearance& appearance() { return *m_appearance; }
-    PanelWindows& panelWindows();
+    FrontApplication& frontApplication() override;
+    MenuReader& menuReader() override { return m_menuReader; }
+    AccessibilityAccess& accessibility() override { return *m_access; }
+    Keyboard& keyboard() override;
+    AppIcons& icons() override;
+    Appearance& appearance() override { return *m_appearance; }
+    PanelWindows& panelWindows() override;
 
   private:
     NoDesktop m_none;

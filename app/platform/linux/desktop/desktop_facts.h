@@ -1,7 +1,7 @@
 #pragma once
 
-#include "checkup.h"
-
+#include <quillon/app/platform/linux/session/session_bus.h>
+#include <quillon/app/ports/diagnosis.h>
 #include <quillon/app/ports/running_app.h>
 
 #include <optional>
@@ -10,9 +10,9 @@
 
 namespace quillon {
 
-/// What was found of the desktop.
+/// What was found of a Linux desktop.
 struct DesktopFacts {
-    bool sessionBus = false;
+    BusState sessionBus = BusState::absent;
     bool accessibilityBus = false;
     std::optional<bool> accessibilityOn; ///< the desktop's switch; absent when it has none
     bool waylandSession = false;

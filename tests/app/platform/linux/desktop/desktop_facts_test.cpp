@@ -1,4 +1,4 @@
-#include <quillon/app/cli/diagnosis.h>
+#include <quillon/app/platform/linux/desktop/desktop_facts.h>
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 
 DesktopFacts wellDesktop() {
     return {
-        .sessionBus = true,
+        .sessionBus = BusState::answers,
         .accessibilityBus = true,
         .accessibilityOn = true,
         .display = true,
@@ -39,12 +39,18 @@ TEST(Diagnosis, OfAWellDesktopNeedsNoRemedy) {
 }
 
 TEST(Diagnosis, OfABareMachineNamesARemedyForWhatIsMissing) {
-    const auto checks = diagnose({});
-    EXPECT_FALSE(allWell(checks));
     for (const std::string subject : {"Session bus", "Accessibility bus", "Display"}) {
         EXPECT_EQ(checkOf({}, subject).result, Check::Result::missing) << subject;
         EXPECT_NE(checkOf({}, subject).remedy, "") << subject;
     }
+}
+
+TEST(Diagnosis, TellsASilentSessionBusFromNone) {
+    DesktopFacts facts = wellDesktop();
+    facts.sessionBus = BusState::silent;
+    EXPECT_EQ(checkOf(facts, "Session bus").result, Check::Result::missing);
+    EXPECT_EQ(checkOf(facts, "Session bus").finding, "takes connections and does not answer");
+    EXPECT_NE(checkOf({}, "Session bus").finding, checkOf(facts, "Session bus").finding);
 }
 
 TEST(Diagnosis, NamesTheFrontApplication) {
@@ -66,7 +72,8 @@ TEST(Diagnosis, ADesktopWithoutExtrasIsStillWell) {
     facts.windowManager.reset();
     facts.front.reset();
     facts.instanceRunning = false;
-    EXPECT_TRUE(allWell(diagnose(facts)));
+    for (const Check& check : diagnose(facts))
+        EXPECT_NE(check.result, Check::Result::missing) << check.subject;
     for (const std::string subject : {"Compositor", "Tray", "Window manager", "Front application", "Quillon"})
         EXPECT_NE(checkOf(facts, subject).remedy, "") << subject;
 }

@@ -1,9 +1,11 @@
-#include "app_list.h"
+#include "linux_application_list.h"
 
 #include "inline_background.h"
 
 #include <quillon/app/platform/linux/applications/app_identifier.h>
 #include <quillon/app/platform/linux/applications/process_facts.h>
+#include <quillon/app/platform/linux/atspi/accessibility_bus.h>
+#include <quillon/app/platform/linux/atspi/running_apps.h>
 #include <quillon/app/platform/linux/x11/open_windows.h>
 #include <quillon/app/platform/linux/x11/x11_connection.h>
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
@@ -50,10 +52,24 @@ RunningApp appWithoutWindows(const atspi::SharingApp& sharing, const DesktopEntr
 
 } // namespace
 
-std::optional<std::vector<ListedApp>> listApps() {
+std::optional<std::string> LinuxApplicationList::obstacle() {
+    switch (m_session.found().state) {
+    case BusState::absent: return "there is no session bus; run this inside of a desktop session";
+    case BusState::silent: return "the session bus does not answer; see quillon doctor";
+    case BusState::answers: break;
+    }
+    const atspi::AccessibilityBusState bus = atspi::probeAccessibilityBus();
+    if (!bus.hasAccessibilityBus)
+        return "the accessibility bus cannot be reached; install at-spi2-core and log in again";
+    if (bus.isEnabled && !*bus.isEnabled)
+        return "accessibility is off; choose “Allow Accessibility…” in Quillon’s menu";
+    return std::nullopt;
+}
+
+std::vector<ListedApp> LinuxApplicationList::apps() {
     const auto sharing = atspi::sharingApps();
     if (!sharing)
-        return std::nullopt;
+        return {};
     const std::vector<RunningApp> windowed = appsWithWindows();
     const DesktopEntries entries = DesktopEntries::installed();
     std::vector<ListedApp> listed;
@@ -72,7 +88,7 @@ std::optional<std::vector<ListedApp>> listApps() {
     return listed;
 }
 
-std::optional<RunningApp> frontApp() {
+std::optional<RunningApp> LinuxApplicationList::front() {
     const auto x11 = X11Connection::open({}, patience);
     if (!x11)
         return std::nullopt;

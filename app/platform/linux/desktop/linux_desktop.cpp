@@ -11,10 +11,10 @@
 
 namespace quillon {
 
-LinuxDesktop::LinuxDesktop(Background& background, const Clock& clock)
-    : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>()),
-      m_appearance(std::make_unique<XdgAppearance>()), m_icons(std::make_unique<XdgAppIcons>(m_identifier)),
-      m_x11(X11Connection::open()) {
+LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock)
+    : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
+      m_appearance(std::make_unique<XdgAppearance>(sessionBus)),
+      m_icons(std::make_unique<XdgAppIcons>(m_identifier)), m_x11(X11Connection::open()) {
     if (!m_x11)
         return;
     const auto input = std::make_shared<RawInput>(m_x11);

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "command_line.h"
+#include "terminal_text.h"
+
+#include <string_view>
+
+#include <unistd.h>
+
+namespace quillon {
+
+/// Where a command's results and messages go: the only way out for whatever is printed.
+class Output {
+  public:
+    /// Open descriptors; `results` may be one that takes nothing.
+    explicit Output(int results = STDOUT_FILENO, int messages = STDERR_FILENO)
+        : m_results(results), m_messages(messages) {}
+
+    /// A result for a person.
+    void print(const TerminalText& text) { write(text.bytes()); }
+    /// A result for another program, which gets it byte by byte.
+    void printData(std::string_view bytes) { write(bytes); }
+    /// A message to the user, in one line.
+    void say(const TerminalText& message);
+    /// Says `message` and passes `code` on.
+    ExitCode fail(ExitCode code, const TerminalText& message);
+
+    /// How the command ended that ended with `code`: results that did not arrive make it a failure, and the
+    /// user is told.
+    ExitCode finish(ExitCode code);
+
+  private:
+    void write(std::string_view bytes);
+
+    int m_results;
+    int m_messages;
+    int m_error = 0; ///< why results were lost, an errno; 0 when none were
+};
+
+/// Where the program was started with standard streams closed, puts something in their places that takes
+/// nothing, so that no file or socket opened later is taken for one of them. Before anything else is opened.
+void fillClosedStreams();
+
+} // namespace quillon

@@ -1,0 +1,132 @@
+#include "commands.h"
+
+#include <quillon/app/cli/app_choice.h>
+#include <quillon/app/cli/sheet_text.h>
+#include <quillon/kit/coach/practice_deck.h>
+#include <quillon/kit/coach/seeded_generator.h>
+#include <quillon/kit/menu/menu_parser.h>
+#include <quillon/kit/menu/shortcut_search.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/kit/records/json_file.h>
+
+#include <QRandomGenerator>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+std::optional<RunningApp> chosenApp(const SheetCommand& command, ApplicationList& applications) {
+    if (!command.appName && !command.pid)
+        return applications.front();
+    std::vector<RunningApp> apps;
+    for (ListedApp& listed : applications.apps())
+        apps.push_back(std::move(listed.app));
+    return command.pid ? appOfProcess(*command.pid, apps) : appCalled(*command.appName, apps);
+}
+
+TerminalText missingAppMessage(const SheetCommand& command) {
+    if (command.pid)
+        return "process " + TerminalText::of(std::to_string(*command.pid))
+               + " is no application that shares its menus; see quillon apps";
+    if (command.appName)
+        return "no running application is called '" + TerminalText::of(*command.appName)
+               + "'; see quillon apps";
+    return "no application is in front; name one with --app, see quillon apps";
+}
+
+TerminalText nameOf(const RunningApp& app) {
+    return TerminalText::of(app.name.empty() ? app.bundleID : app.name);
+}
+
+TerminalText whyNoShortcuts(const RunningApp& app, ReadOutcome outcome) {
+    if (outcome == ReadOutcome::partial)
+        return nameOf(app) + " does not answer; try again when it does";
+    return nameOf(app)
+           + " shares no menu shortcuts; if it was started before accessibility was on, restart it";
+}
+
+/// What the user has done and said of the applications so far.
+struct Records {
+    UsageBook usage;
+    AnnotationBook annotations;
+
+    /// Nothing where there is no folder, or no file in it that can be read.
+    static Records load(const std::filesystem::path& folder) {
+        if (folder.empty())
+            return {};
+        return {
+            JSONFile<UsageBook>(folder / "usage.json").load().value_or(UsageBook{}),
+            JSONFile<AnnotationBook>(folder / "notes.json").load().value_or(AnnotationBook{})};
+    }
+};
+
+std::vector<MenuEntry>
+practiceRound(const AppSheet& sheet, const PracticeRequest& request, const Records& records) {
+    const std::uint64_t anySeed = QRandomGenerator::system()->generate64();
+    SeededGenerator generator(request.seed.value_or(anySeed));
+    return PracticeDeck::round(
+        sheet.entries, records.usage.records(sheet.bundleID), records.annotations.pinned(sheet.bundleID),
+        request.count, generator);
+}
+
+Annotations annotationsOf(const std::string& bundleID, const Records& records) {
+    const auto found = records.annotations.apps.find(bundleID);
+    return found == records.annotations.apps.end() ? Annotations{} : found->second;
+}
+
+void print(const AppSheet& sheet, const SheetCommand& command, const Records& records, Output& output) {
+    switch (command.format) {
+    case SheetFormat::json: output.printData(Json::encode(sheet).value_or("") + '\n'); return;
+    case SheetFormat::markdown:
+        output.print(markdownText(sheet, annotationsOf(sheet.bundleID, records)));
+        return;
+    case SheetFormat::text: break;
+    }
+    output.print(command.practice ? practiceText(sheet.entries) : sheetText(sheet));
+}
+
+/// The whole sheet of `app`. Says what it lacks; without entries there is none to print.
+AppSheet readSheet(const RunningApp& app, MenuReader& menuReader, const Clock& clock, Output& output) {
+    const MenuReading reading = menuReader.readMenus(app, {});
+    AppSheet sheet{
+        app.bundleID, app.name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
+        clock.now()};
+    if (sheet.entries.empty())
+        output.say(whyNoShortcuts(app, reading.outcome));
+    else if (reading.outcome == ReadOutcome::partial)
+        output.say(nameOf(app) + " stopped answering; the sheet is not complete");
+    else if (reading.outcome == ReadOutcome::limited)
+        output.say(nameOf(app) + " has more menu items than are read");
+    return sheet;
+}
+
+} // namespace
+
+ExitCode runSheet(
+    const SheetCommand& command, ApplicationList& applications, MenuReader& menuReader,
+    const std::filesystem::path& dataFolder, const Clock& clock, Output& output) {
+    if (const auto obstacle = applications.obstacle())
+        return output.fail(ExitCode::noAccessibility, TerminalText::of(*obstacle));
+    const std::optional<RunningApp> app = chosenApp(command, applications);
+    if (!app)
+        return output.fail(ExitCode::noSuchApp, missingAppMessage(command));
+    AppSheet sheet = readSheet(*app, menuReader, clock, output);
+    if (sheet.entries.empty())
+        return ExitCode::noShortcuts;
+
+    const Records records = Records::load(dataFolder);
+    sheet.entries =
+        ShortcutSearch::filter(sheet.entries, command.query, records.annotations.notes(sheet.bundleID));
+    if (sheet.entries.empty())
+        output.say("no shortcut of " + nameOf(*app) + " matches '" + TerminalText::of(command.query) + "'");
+    if (command.practice)
+        sheet.entries = practiceRound(sheet, *command.practice, records);
+    print(sheet, command, records, output);
+    return ExitCode::success;
+}
+
+} // namespace quillon

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "accessibility_access.h"
+#include "app_icons.h"
+#include "appearance.h"
+#include "front_application.h"
+#include "keyboard.h"
+#include "menu_reader.h"
+#include "panel_windows.h"
+
+namespace quillon {
+
+/// Every port of one desktop. What it cannot offer is a port that offers nothing.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+
+    virtual FrontApplication& frontApplication() = 0;
+    virtual MenuReader& menuReader() = 0;
+    virtual AccessibilityAccess& accessibility() = 0;
+    virtual Keyboard& keyboard() = 0;
+    virtual AppIcons& icons() = 0;
+    virtual Appearance& appearance() = 0;
+    virtual PanelWindows& panelWindows() = 0;
+};
+
+} // namespace quillon

@@ -1,0 +1,150 @@
+#include <quillon/app/commands/commands.h>
+#include <quillon/app/platform/fake/fake_application_list.h>
+#include <quillon/app/platform/fake/fake_clock.h>
+#include <quillon/app/platform/fake/fake_menu_reader.h>
+#include <quillon/app/platform/fake/fake_running_program.h>
+#include <quillon/tests/support/temporary_folder.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include <fcntl.h>
+
+namespace quillon {
+namespace {
+
+/// What is written to a file without a name.
+class Written {
+  public:
+    Written() : m_file(::open("/tmp", O_TMPFILE | O_RDWR | O_CLOEXEC, 0600)) {}
+    ~Written() { ::close(m_file); }
+    Written(const Written&) = delete;
+    Written& operator=(const Written&) = delete;
+
+    int file() const { return m_file; }
+    std::string text() const {
+        std::string text;
+        std::array<char, 4096> part{};
+        for (ssize_t count = 0;
+             (count = ::pread(m_file, part.data(), part.size(), static_cast<off_t>(text.size()))) > 0;)
+            text.append(part.data(), static_cast<std::size_t>(count));
+        return text;
+    }
+
+  private:
+    int m_file;
+};
+
+RawMenuItem item(const char* title, const char* character) {
+    RawMenuItem made;
+    made.title = title;
+    made.cmdChar = character;
+    return made;
+}
+
+MenuReading menus(std::vector<RawMenuItem> items) {
+    RawMenuItem file;
+    file.title = "File";
+    file.children = std::move(items);
+    return {{file}, ReadOutcome::complete};
+}
+
+class CommandsTest : public testing::Test {
+  protected:
+    CommandsTest() {
+        applications.running = {
+            {{10, "org.example.sketch", "Sketch", {}}, "gtk 3"}, {{20, "", "Nameless", {}}, ""}};
+        applications.inFront = applications.running[0].app;
+        reader.answer(10, menus({item("New", "N"), item("Save", "S")}));
+        reader.answer(20, menus({item("Open", "O")}));
+    }
+
+    ExitCode sheet(const SheetCommand& command = {}) {
+        return runSheet(command, applications, reader, folder.path(), clock, output);
+    }
+
+    TemporaryFolder folder;
+    FakeApplicationList applications;
+    FakeMenuReader reader;
+    FakeClock clock;
+    FakeRunningProgram program;
+    Written results;
+    Written messages;
+    Output output{results.file(), messages.file()};
+};
+
+TEST_F(CommandsTest, AppsListsThoseThatShareMenus) {
+    applications.running.push_back({{30, "mute", "Mute", {}}, "Qt"});
+    EXPECT_EQ(runApps(applications, reader, output), ExitCode::success);
+    EXPECT_EQ(results.text(), "10  org.example.sketch  Sketch    gtk 3\n20  -                   Nameless\n");
+    EXPECT_EQ(messages.text(), "");
+}
+
+TEST_F(CommandsTest, AnObstacleIsTheSameForAllThatReadMenus) {
+    applications.problem = "accessibility is off";
+    EXPECT_EQ(runApps(applications, reader, output), ExitCode::noAccessibility);
+    EXPECT_EQ(sheet(), ExitCode::noAccessibility);
+    EXPECT_EQ(results.text(), "");
+    EXPECT_EQ(messages.text(), "quillon: accessibility is off\nquillon: accessibility is off\n");
+}
+
+TEST_F(CommandsTest, SheetIsOfTheFrontApplication) {
+    EXPECT_EQ(sheet(), ExitCode::success);
+    EXPECT_EQ(results.text(), "Sketch (org.example.sketch): 2 shortcuts\n\nFile\n  New   ⌘N\n  Save  ⌘S\n");
+    EXPECT_EQ(messages.text(), "");
+}
+
+TEST_F(CommandsTest, AQueryWithoutAMatchSaysSo) {
+    SheetCommand command;
+    command.query = "zz\x1bzz";
+    EXPECT_EQ(sheet(command), ExitCode::success);
+    command.practice = PracticeRequest{5, 1};
+    EXPECT_EQ(sheet(command), ExitCode::success);
+    const std::string said = "quillon: no shortcut of Sketch matches 'zz<U+001B>zz'\n";
+    EXPECT_EQ(messages.text(), said + said);
+}
+
+TEST_F(CommandsTest, TellsWhatIsMissing) {
+    SheetCommand command;
+    command.appName = "a\nb";
+    EXPECT_EQ(sheet(command), ExitCode::noSuchApp);
+    applications.inFront.reset();
+    EXPECT_EQ(sheet(), ExitCode::noSuchApp);
+    EXPECT_EQ(
+        messages.text(), "quillon: no running application is called 'a<U+000A>b'; see quillon apps\n"
+                         "quillon: no application is in front; name one with --app, see quillon apps\n");
+}
+
+TEST_F(CommandsTest, AnApplicationWithoutShortcutsHasNoSheet) {
+    reader.answer(10, {{}, ReadOutcome::partial});
+    EXPECT_EQ(sheet(), ExitCode::noShortcuts);
+    EXPECT_EQ(results.text(), "");
+    EXPECT_EQ(messages.text(), "quillon: Sketch does not answer; try again when it does\n");
+}
+
+TEST_F(CommandsTest, JsonIsForProgramsAndNotForTerminals) {
+    reader.answer(10, menus({item("a\u202eb", "N")}));
+    SheetCommand command;
+    command.format = SheetFormat::json;
+    EXPECT_EQ(sheet(command), ExitCode::success);
+    EXPECT_NE(results.text().find("a\u202eb"), std::string::npos);
+}
+
+TEST_F(CommandsTest, QuitSaysWhyItFailed) {
+    program.answer = RunningProgram::Answer::done;
+    EXPECT_EQ(runQuit(program, output), ExitCode::success);
+    EXPECT_EQ(program.asked, std::vector{ProgramRequest::quit});
+    using enum RunningProgram::Answer;
+    for (const RunningProgram::Answer answer : {notRunning, silent, unreachable}) {
+        program.answer = answer;
+        EXPECT_EQ(runQuit(program, output), ExitCode::failure);
+    }
+    EXPECT_EQ(
+        messages.text(), "quillon: there is no running instance\n"
+                         "quillon: the running instance does not answer\n"
+                         "quillon: the session cannot be reached; see quillon doctor\n");
+}
+
+} // namespace
+} // namespace quillon
