@@ -12,6 +12,7 @@ class AccessibilityOffTest(QuillonTestCase):
         ran = Ran("sheet")
         self.assertEqual((ran.status, ran.output), (4, ""), ran)
         self.assertIn("accessibility is off", ran.errors)
+        self.assertEqual(repr(Ran("apps")), repr(ran))
         checks = doctor()
         self.assertEqual(checks["Accessibility bus"].split()[0], "ok")
         self.assertEqual(checks["Accessibility"].split()[0], "missing")

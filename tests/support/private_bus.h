@@ -5,6 +5,8 @@
 #include <QDBusConnection>
 #include <QProcess>
 
+#include <string>
+
 namespace quillon {
 
 /// A message bus of its own that starts no services, as long as this object lives.
@@ -16,6 +18,8 @@ class PrivateBus {
     PrivateBus& operator=(const PrivateBus&) = delete;
 
     bool isRunning() const { return !m_address.isEmpty(); }
+    /// Where it listens.
+    std::string address() const { return m_address.toStdString(); }
     /// Another connection to the bus, which ends with this object.
     QDBusConnection connect();
     void kill();

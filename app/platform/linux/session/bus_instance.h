@@ -5,6 +5,7 @@
 
 #include <quillon/app/platform/linux/base/bus_registration.h>
 #include <quillon/app/ports/instance.h>
+#include <quillon/kit/base/subscription.h>
 
 #include <QObject>
 

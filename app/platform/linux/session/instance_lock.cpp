@@ -66,9 +66,12 @@ bool InstanceLock::takeOver(std::chrono::milliseconds limit) {
     const pid_t pid = holderOf(m_file.get());
     const Descriptor process(pid > 0 ? ::pidfd_open(pid, 0) : -1);
     // Asked again, for the number may have become another process's before it was opened.
-    if (!process || holderOf(m_file.get()) != pid
-        || ::pidfd_send_signal(process.get(), SIGTERM, nullptr, 0) < 0)
+    if (!process || holderOf(m_file.get()) != pid)
         return take();
+    // A process that is stopped has to go on to end.
+    for (const int wanted : {SIGTERM, SIGCONT})
+        if (::pidfd_send_signal(process.get(), wanted, nullptr, 0) < 0)
+            return take();
     return endsWithin(process.get(), limit) && take();
 }
 

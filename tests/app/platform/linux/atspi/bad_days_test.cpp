@@ -13,6 +13,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <deque>
 #include <systemd/sd-bus.h>
 #include <thread>
 
@@ -293,6 +294,24 @@ TEST(SharingApps, AStoppedOneIsListedWithoutItsName) {
     ASSERT_EQ(apps->size(), 1U);
     EXPECT_EQ(apps->front().pid, process.pid());
     EXPECT_EQ(apps->front().name, "");
+}
+
+TEST(SharingApps, StoppedOnesCostOthersNothing) {
+    std::deque<FakeAppProcess> hung;
+    for (int i = 0; i < 6; ++i)
+        hung.emplace_back(std::vector<std::string>{});
+    const FakeAppProcess healthy({"--name", "Sketchpad", "--toolkit", "Qt"});
+    for (const FakeAppProcess& process : hung)
+        kill(process.pid(), SIGSTOP);
+    const auto start = Clock::now();
+    const auto apps = atspi::sharingApps();
+    EXPECT_LT(Clock::now() - start, oneSilence);
+    ASSERT_TRUE(apps);
+    ASSERT_EQ(apps->size(), 7U);
+    EXPECT_EQ(apps->back().pid, healthy.pid());
+    EXPECT_EQ(apps->back().name, "Sketchpad");
+    EXPECT_EQ(apps->back().toolkit, "Qt");
+    EXPECT_EQ(apps->back().toolkitVersion, "3.24.38");
 }
 
 } // namespace

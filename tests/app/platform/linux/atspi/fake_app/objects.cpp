@@ -150,6 +150,8 @@ void Objects::spoil(Object& menuBar, const Options& options) {
                 child->claimedRole = role::menuItem;
     const auto first =
         std::ranges::find_if(menu.children, [](const Object* item) { return !item->name.empty(); });
+    if (first != menu.children.end() && !options.title.empty())
+        (*first)->name = options.title;
     if (first != menu.children.end() && options.titleBytes > 0)
         (*first)->name.assign(options.titleBytes, 'x');
     if (first != menu.children.end() && options.hasBrokenText)

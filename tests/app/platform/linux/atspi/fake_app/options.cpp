@@ -30,6 +30,7 @@ const std::map<std::string_view, Setter> valued{
     {"--mute-member", [](Options& o, const char* v) { o.muteMember = v; }},
     {"--refuse-name", [](Options& o, const char* v) { o.refusedName = v; }},
     {"--delay", [](Options& o, const char* v) { o.delay = static_cast<int>(number(v)); }},
+    {"--title", [](Options& o, const char* v) { o.title = v; }},
     {"--title-bytes", [](Options& o, const char* v) { o.titleBytes = number(v); }},
 };
 

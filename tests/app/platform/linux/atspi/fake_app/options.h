@@ -31,6 +31,7 @@ struct Options {
     int delay = 0;                          ///< milliseconds before each answer
     bool hasCycle = false;                  ///< the first menu holds itself and the menu bar
     bool hasStaleRole = false;              ///< a submenu claims to be a plain item
+    std::string title;                      ///< the first item's; "" for a usual one
     std::size_t titleBytes = 0;             ///< length of the first item's title; 0 for a usual one
     bool hasBrokenText = false;             ///< the first item's title is no UTF-8
 };

@@ -1,0 +1,57 @@
+#include <quillon/tests/support/mute_bus.h>
+#include <quillon/tests/support/private_bus.h>
+
+#include <quillon/app/platform/linux/session/session_bus.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(SessionBusTest, ABusThatAnswersTellsOwners) {
+    PrivateBus bus;
+    ASSERT_TRUE(bus.isRunning());
+    EXPECT_EQ(askBus(bus.address(), "org.example.Nobody", 5s).state, BusState::answers);
+    EXPECT_FALSE(askBus(bus.address(), "org.example.Nobody", 5s).isOwned);
+    QDBusConnection owner = bus.connect();
+    ASSERT_TRUE(owner.registerService(QStringLiteral("org.example.Somebody")));
+    EXPECT_TRUE(askBus(bus.address(), "org.example.Somebody", 5s).isOwned);
+}
+
+TEST(SessionBusTest, NobodyListeningIsAbsent) {
+    PrivateBus bus;
+    bus.kill();
+    EXPECT_EQ(askBus(bus.address(), "org.example.Nobody", 5s).state, BusState::absent);
+    EXPECT_EQ(askBus("unix:path=/nonexistent", "org.example.Nobody", 5s).state, BusState::absent);
+    EXPECT_EQ(askBus("nonsense", "org.example.Nobody", 5s).state, BusState::absent);
+    EXPECT_EQ(askBus("", "org.example.Nobody", 5s).state, BusState::absent);
+}
+
+TEST(SessionBusTest, ASilentBusIsGivenUpInTime) {
+    const MuteBus bus;
+    ASSERT_TRUE(bus.isListening());
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(askBus(bus.address(), "org.example.Nobody", 300ms).state, BusState::silent);
+    const auto passed = std::chrono::steady_clock::now() - begin;
+    EXPECT_GE(passed, 300ms);
+    EXPECT_LT(passed, 5s);
+}
+
+TEST(SessionBusTest, AskingASilentBusCanBeStopped) {
+    const MuteBus bus;
+    const auto begin = std::chrono::steady_clock::now();
+    {
+        const std::jthread asking([&bus](const std::stop_token& stop) {
+            EXPECT_EQ(askBus(bus.address(), "org.example.Nobody", 60s, stop).state, BusState::silent);
+        });
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 30s);
+}
+
+} // namespace
+} // namespace quillon
