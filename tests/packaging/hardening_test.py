@@ -10,7 +10,7 @@ import unittest
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "scripts/lib"))
 
-from hardening import findings  # noqa: E402
+from hardening import findings
 
 COMPILER, RELEASE = os.environ["QUILLON_COMPILER"], pathlib.Path(os.environ["QUILLON_RELEASE"])
 HARDENED = ["-O2", "-fPIE", "-pie", "-fstack-protector-strong", "-U_FORTIFY_SOURCE", "-D_FORTIFY_SOURCE=2",
