@@ -18,24 +18,24 @@ constexpr Seconds patienceForTrust{0.5};
 
 Program::Program(Platform& platform)
     : m_desktop(platform.openDesktop(m_background, m_clock)),
-      m_settings(QString::fromStdString(platform.settingsFile().string())),
-      m_themes(m_desktop->appearance()), m_icons(m_desktop->icons()),
+      m_settings(QString::fromStdString(platform.settingsFile().string())), m_themes(m_desktop->appearance()),
+      m_icons(m_desktop->icons()),
       m_panels(
           m_themes, m_desktop->panelWindows(),
           [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); }),
       m_windows(m_desktop->accessibility()), m_model({
-                                                .frontApplication = m_desktop->frontApplication(),
-                                                .menuReader = m_desktop->menuReader(),
-                                                .accessibility = m_desktop->accessibility(),
-                                                .keyboard = m_desktop->keyboard(),
-                                                .clock = m_clock,
-                                                .timers = m_timers,
-                                                .background = m_background,
-                                                .panels = m_panels,
-                                                .windows = m_windows,
-                                                .settings = m_settings,
-                                                .ownPid = getpid(),
-                                            }),
+                                                 .frontApplication = m_desktop->frontApplication(),
+                                                 .menuReader = m_desktop->menuReader(),
+                                                 .accessibility = m_desktop->accessibility(),
+                                                 .keyboard = m_desktop->keyboard(),
+                                                 .clock = m_clock,
+                                                 .timers = m_timers,
+                                                 .background = m_background,
+                                                 .panels = m_panels,
+                                                 .windows = m_windows,
+                                                 .settings = m_settings,
+                                                 .ownPid = getpid(),
+                                             }),
       m_tray(m_model, m_themes, [] { QApplication::quit(); }) {}
 
 Program::~Program() {

@@ -22,9 +22,11 @@ TEST(AccessibilitySettingsTest, TheDesktopsOwnComeFirst) {
     EXPECT_EQ(
         chosen("ubuntu:GNOME", {"gnome-control-center", "systemsettings"}),
         (ProgramCall{"gnome-control-center", "universal-access"}));
-    EXPECT_EQ(chosen("KDE", {"kcmshell5", "systemsettings5"}), (ProgramCall{"systemsettings5", "kcm_access"}));
+    EXPECT_EQ(
+        chosen("KDE", {"kcmshell5", "systemsettings5"}), (ProgramCall{"systemsettings5", "kcm_access"}));
     EXPECT_EQ(chosen("KDE", {"kcmshell5"}), (ProgramCall{"kcmshell5", "kcm_access"}));
-    EXPECT_EQ(chosen("X-Cinnamon", {"cinnamon-settings"}), (ProgramCall{"cinnamon-settings", "accessibility"}));
+    EXPECT_EQ(
+        chosen("X-Cinnamon", {"cinnamon-settings"}), (ProgramCall{"cinnamon-settings", "accessibility"}));
 }
 
 TEST(AccessibilitySettingsTest, ElseAnyThatIsInstalled) {
