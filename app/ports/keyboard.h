@@ -29,7 +29,7 @@ class Keyboard {
   public:
     virtual ~Keyboard() = default;
 
-    /// The modifiers that are down right now, asked anew.
+    /// The modifiers that are down right now, as far as the desktop has told. Asks nobody.
     virtual Modifiers modifiers() const = 0;
     /// Called on the main thread with the full set whenever it changes; never with key or pointer input.
     virtual Subscription onModifiersChanged(std::function<void(Modifiers)> callback) = 0;

@@ -18,6 +18,7 @@ constexpr int focusAttempts = 4;
 ActiveWindow::ActiveWindow(std::shared_ptr<X11Connection> x11) : m_x11(std::move(x11)) {
     m_rootEvents = m_x11->selectEvents(m_x11->root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
     m_events = m_x11->onEvent([this](const xcb_generic_event_t& event) { handle(event); });
+    m_drained = m_x11->onDrained([this] { drained(); });
     m_caughtUp = m_x11->onCaughtUp([this] {
         findManager();
         update();
@@ -39,30 +40,31 @@ void ActiveWindow::handle(const xcb_generic_event_t& event) {
         windowGone(reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
         break;
     case XCB_FOCUS_IN:
-    case XCB_FOCUS_OUT:
-        if (m_manager == XCB_NONE)
-            update();
-        break;
+    case XCB_FOCUS_OUT: m_isStale = m_isStale || m_manager == XCB_NONE; break;
     default: break;
     }
 }
 
-void ActiveWindow::windowGone(xcb_window_t window) {
-    if (window == m_manager)
+void ActiveWindow::drained() {
+    if (std::exchange(m_managerIsStale, false)) {
         findManager();
-    else if (window != m_focus)
-        return;
-    update();
+        m_isStale = true;
+    }
+    if (std::exchange(m_isStale, false))
+        update();
+}
+
+void ActiveWindow::windowGone(xcb_window_t window) {
+    m_managerIsStale = m_managerIsStale || window == m_manager;
+    m_isStale = m_isStale || window == m_focus;
 }
 
 void ActiveWindow::propertyChanged(xcb_atom_t property) {
     if (property == m_x11->atom(X11Name::netSupported)
-        || property == m_x11->atom(X11Name::netSupportingWmCheck)) {
-        findManager();
-        update();
-    } else if (property == m_x11->atom(X11Name::netActiveWindow)) {
-        update();
-    }
+        || property == m_x11->atom(X11Name::netSupportingWmCheck))
+        m_managerIsStale = true;
+    else if (property == m_x11->atom(X11Name::netActiveWindow))
+        m_isStale = true;
 }
 
 void ActiveWindow::findManager() {

@@ -26,6 +26,7 @@ class ActiveWindow {
     void handle(const xcb_generic_event_t& event);
     void windowGone(xcb_window_t window);
     void propertyChanged(xcb_atom_t property);
+    void drained();
     void findManager();
     void update();
     xcb_window_t managersAnswer();
@@ -39,11 +40,14 @@ class ActiveWindow {
     xcb_window_t m_current = XCB_NONE;
     xcb_window_t m_manager = XCB_NONE; ///< the window manager's own window, while it tells the active one
     xcb_window_t m_focus = XCB_NONE;   ///< whose focus events are selected
+    bool m_managerIsStale = false;     ///< another manager may be at work
+    bool m_isStale = false;            ///< another window may be active
     Event<> m_changed;
     Subscription m_rootEvents;
     Subscription m_managerEvents;
     Subscription m_focusEvents;
     Subscription m_events;
+    Subscription m_drained;
     Subscription m_caughtUp;
     Subscription m_lost;
 };

@@ -13,6 +13,10 @@ namespace quillon {
 
 namespace {
 
+/// The events that are read in one go; what a busy client goes on sending waits until the event loop had its
+/// turn.
+constexpr int mostEventsAtOnce = 4096;
+
 const xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
     for (auto it = xcb_setup_roots_iterator(xcb_get_setup(connection)); it.rem > 0; xcb_screen_next(&it)) {
         if (number-- == 0)
@@ -71,20 +75,42 @@ bool X11Connection::isAlive() const {
 void X11Connection::pump() {
     const auto self = shared_from_this();
     m_pumpQueued = false;
-    while (auto* event = xcb_poll_for_event(xcb()))
-        keep(X11Reply<xcb_generic_event_t>(event));
+    readEvents();
     const bool alive = isAlive();
     if (alive && std::exchange(m_late, false)) {
         flush();
         m_caughtUp.emit();
     }
+    tellEvents();
+    if (!alive)
+        loseServer();
+}
+
+void X11Connection::readEvents() {
+    for (int count = 0; count < mostEventsAtOnce; ++count) {
+        auto* event = xcb_poll_for_event(xcb());
+        if (event == nullptr)
+            return;
+        keep(X11Reply<xcb_generic_event_t>(event));
+    }
+    queuePump();
+}
+
+void X11Connection::tellEvents() {
+    if (m_queue.empty())
+        return;
     while (!m_queue.empty()) {
         const auto event = std::move(m_queue.front());
         m_queue.pop_front();
         m_event.emit(*event);
     }
-    if (!alive)
-        loseServer();
+    m_drained.emit();
+}
+
+void X11Connection::queuePump() {
+    if (!std::exchange(m_pumpQueued, true))
+        QMetaObject::invokeMethod(
+            m_notifier.get(), [this] { pump(); }, Qt::QueuedConnection);
 }
 
 void X11Connection::keep(X11Reply<xcb_generic_event_t> event) {
@@ -142,10 +168,8 @@ void X11Connection::queueWhatWasReadBeside() {
     while (auto* event = xcb_poll_for_queued_event(xcb()))
         keep(X11Reply<xcb_generic_event_t>(event));
     // None of this makes the socket readable again.
-    const bool somethingToTell = !m_queue.empty() || !isAlive();
-    if (somethingToTell && !std::exchange(m_pumpQueued, true))
-        QMetaObject::invokeMethod(
-            m_notifier.get(), [this] { pump(); }, Qt::QueuedConnection);
+    if (!m_queue.empty() || !isAlive())
+        queuePump();
 }
 
 Subscription X11Connection::selectEvents(xcb_window_t window, std::uint32_t mask) {

@@ -81,9 +81,14 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     /// Sends the requests that were made; once it answers again when the server is late.
     void flush();
 
-    /// Called with every event.
+    /// Called with every event. What an event calls for is only noted here, and asked for when `onDrained`
+    /// tells: other clients can cause thousands of events at once.
     Subscription onEvent(std::function<void(const xcb_generic_event_t&)> callback) {
         return m_event.subscribe(std::move(callback));
+    }
+    /// Called after events, once all of those that have arrived were told.
+    Subscription onDrained(std::function<void()> callback) {
+        return m_drained.subscribe(std::move(callback));
     }
     /// Called when a server that was late answers again.
     Subscription onCaughtUp(std::function<void()> callback) {
@@ -109,6 +114,9 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     void* waitForReply(unsigned sequence);
     std::optional<void*> poll(unsigned sequence);
     void pump();
+    void queuePump();
+    void readEvents();
+    void tellEvents();
     void keep(X11Reply<xcb_generic_event_t> event);
     void queueWhatWasReadBeside();
     void loseServer();
@@ -129,6 +137,7 @@ class X11Connection : public std::enable_shared_from_this<X11Connection> {
     std::uint64_t m_nextSelection = 0;
     std::map<std::pair<xcb_window_t, std::uint64_t>, std::uint32_t> m_selections;
     Event<const xcb_generic_event_t&> m_event;
+    Event<> m_drained;
     Event<> m_caughtUp;
     Event<> m_lost;
 };

@@ -34,7 +34,7 @@ InputKind inputKindOfButton(std::uint32_t button) {
 /// When each kind of input last happened. Observed as long as it lives; shared by all observations.
 class X11Keyboard::LastInputs {
   public:
-    LastInputs(RawInput& input, const X11Keyboard& keyboard) : m_modifierKeys(keyboard.map().isModifierKey) {
+    LastInputs(RawInput& input, const X11Keyboard& keyboard) : m_modifierKeys(keyboard.m_map.isModifierKey) {
         m_keys = input.onKeyPress([this](const RawPress& press) {
             if (press.detail >= m_modifierKeys.size() || !m_modifierKeys.test(press.detail))
                 note(InputKind::keyDown);
@@ -77,7 +77,14 @@ X11Keyboard::X11Keyboard(std::shared_ptr<X11Connection> x11, std::shared_ptr<Raw
     : m_x11(std::move(x11)), m_input(std::move(input)) {
     selectXkbEvents();
     m_events = m_x11->onEvent([this](const xcb_generic_event_t& event) { handle(event); });
-    m_lost = m_x11->onLost([this] { stateChanged(0); });
+    m_drained = m_x11->onDrained([this] { drained(); });
+    m_caughtUp = m_x11->onCaughtUp([this] { drained(); });
+    m_lost = m_x11->onLost([this] {
+        m_mask = 0;
+        tell();
+    });
+    askState();
+    askMap();
     m_told = modifiers();
 }
 
@@ -90,7 +97,8 @@ void X11Keyboard::selectXkbEvents() {
         XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
     constexpr std::uint16_t mapParts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
     xcb_xkb_select_events_details_t details{};
-    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_STATE;
+    details.affectState = details.stateDetails =
+        XCB_XKB_STATE_PART_MODIFIER_BASE | XCB_XKB_STATE_PART_MODIFIER_LATCH;
     details.affectNewKeyboard = details.newKeyboardDetails =
         XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_GEOMETRY | XCB_XKB_NKN_DETAIL_DEVICE_ID;
     xcb_xkb_select_events_aux(
@@ -99,25 +107,28 @@ void X11Keyboard::selectXkbEvents() {
     m_x11->flush();
 }
 
-const KeyboardMap& X11Keyboard::map() const {
-    if (m_mapIsStale && !m_x11->isLate()) {
-        if (const auto asked = KeyboardMap::ask(*m_x11)) {
-            m_map = *asked;
-            m_mapIsStale = false;
-        }
+void X11Keyboard::askMap() {
+    if (!m_mapIsStale || m_x11->isLate())
+        return;
+    if (const auto asked = KeyboardMap::ask(*m_x11)) {
+        m_map = *asked;
+        m_mapIsStale = false;
     }
-    return m_map;
+}
+
+/// Once; from then on the events tell.
+void X11Keyboard::askState() {
+    if (!m_stateIsStale || m_x11->isLate() || !m_x11->extensions().xkbFirstEvent)
+        return;
+    const auto cookie = xcb_xkb_get_state(m_x11->xcb(), coreKeyboard);
+    if (const auto state = m_x11->reply<xcb_xkb_get_state_reply_t>(cookie)) {
+        m_mask = state->baseMods | state->latchedMods;
+        m_stateIsStale = false;
+    }
 }
 
 Modifiers X11Keyboard::modifiers() const {
-    if (!m_x11->isAlive() || !m_x11->extensions().xkbFirstEvent)
-        return {};
-    if (!m_x11->isLate()) {
-        const auto cookie = xcb_xkb_get_state(m_x11->xcb(), coreKeyboard);
-        if (const auto state = m_x11->reply<xcb_xkb_get_state_reply_t>(cookie))
-            m_mask = state->mods;
-    }
-    return map().modifiers.modifiers(m_mask);
+    return m_map.modifiers.modifiers(m_mask);
 }
 
 void X11Keyboard::handle(const xcb_generic_event_t& event) {
@@ -125,14 +136,27 @@ void X11Keyboard::handle(const xcb_generic_event_t& event) {
         return;
     const auto& state = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
     if (state.xkbType == XCB_XKB_STATE_NOTIFY)
-        stateChanged(state.mods);
+        stateChanged(state.baseMods | state.latchedMods);
     else
         m_mapIsStale = true;
 }
 
 void X11Keyboard::stateChanged(std::uint32_t mask) {
     m_mask = mask;
-    const Modifiers down = map().modifiers.modifiers(mask);
+    m_stateIsStale = false;
+    // What the keys stand for now is asked for once all events are told.
+    if (!m_mapIsStale)
+        tell();
+}
+
+void X11Keyboard::drained() {
+    askState();
+    askMap();
+    tell();
+}
+
+void X11Keyboard::tell() {
+    const Modifiers down = modifiers();
     if (std::exchange(m_told, down) != down)
         m_changed.emit(down);
 }

@@ -20,8 +20,8 @@ class X11Keyboard final : public Keyboard {
     X11Keyboard(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input);
     ~X11Keyboard() override;
 
-    /// What is down or latched or locked, of the four. The last known answer when the server does not
-    /// answer in time, none when it is gone.
+    /// What is down or latched, of the four; a modifier that is locked (sticky keys) is not held. As the
+    /// server's events have told it, so nothing is asked; none when the server is gone.
     Modifiers modifiers() const override;
     Subscription onModifiersChanged(std::function<void(Modifiers)> callback) override;
     std::unique_ptr<InputAges> observeInput() override;
@@ -33,17 +33,23 @@ class X11Keyboard final : public Keyboard {
     void selectXkbEvents();
     void handle(const xcb_generic_event_t& event);
     void stateChanged(std::uint32_t mask);
-    const KeyboardMap& map() const;
+    void drained();
+    void askState();
+    void askMap();
+    void tell();
 
     std::shared_ptr<X11Connection> m_x11;
     std::shared_ptr<RawInput> m_input;
     Event<Modifiers> m_changed;
-    mutable KeyboardMap m_map;
-    mutable bool m_mapIsStale = true;
-    mutable std::uint32_t m_mask = 0;
+    KeyboardMap m_map;
+    bool m_mapIsStale = true;
+    bool m_stateIsStale = true;
+    std::uint32_t m_mask = 0;
     Modifiers m_told;
     std::weak_ptr<LastInputs> m_lastInputs;
     Subscription m_events;
+    Subscription m_drained;
+    Subscription m_caughtUp;
     Subscription m_lost;
 };
 

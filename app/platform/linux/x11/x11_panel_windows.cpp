@@ -39,6 +39,7 @@ bool isWheel(std::uint32_t button) {
 X11PanelWindows::X11PanelWindows(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input)
     : m_x11(std::move(x11)), m_input(std::move(input)) {
     m_events = m_x11->onEvent([this](const xcb_generic_event_t& event) { handle(event); });
+    m_drained = m_x11->onDrained([this] { drained(); });
     m_lost = m_x11->onLost([this] { setComposited(false); });
     followCompositor();
 }
@@ -159,10 +160,8 @@ bool X11PanelWindows::isOnScreen(xcb_window_t window) {
 
 Subscription X11PanelWindows::onPressElsewhere(std::function<void()> callback) {
     if (++*m_pressListeners == 1)
-        m_presses = m_input->onButtonPress([this](const RawPress& press) {
-            if (!isWheel(press.detail))
-                pressed();
-        });
+        m_presses = m_input->onButtonPress(
+            [this](const RawPress& press) { m_isPressed = m_isPressed || !isWheel(press.detail); });
     auto inner = std::make_shared<Subscription>(m_pressElsewhere.subscribe(std::move(callback)));
     return Subscription([inner = std::move(inner), listeners = std::weak_ptr(m_pressListeners), this] {
         inner->reset();
@@ -172,8 +171,8 @@ Subscription X11PanelWindows::onPressElsewhere(std::function<void()> callback) {
     });
 }
 
-void X11PanelWindows::pressed() {
-    if (isPointerOverOurs() == false)
+void X11PanelWindows::drained() {
+    if (std::exchange(m_isPressed, false) && isPointerOverOurs() == false)
         m_pressElsewhere.emit();
 }
 

@@ -42,7 +42,7 @@ class X11PanelWindows final : public PanelWindows {
     void focus(xcb_window_t window);
     void learnWhoHadIt(xcb_window_t window, Taking& taking);
     bool isOnScreen(xcb_window_t window);
-    void pressed();
+    void drained();
     std::optional<bool> isPointerOverOurs();
     bool isOurs(xcb_window_t window);
 
@@ -56,7 +56,9 @@ class X11PanelWindows final : public PanelWindows {
     Event<> m_pressElsewhere;
     std::shared_ptr<std::size_t> m_pressListeners = std::make_shared<std::size_t>(0);
     Subscription m_presses;
+    bool m_isPressed = false; ///< a button went down; not known yet where
     Subscription m_events;
+    Subscription m_drained;
     Subscription m_lost;
 };
 

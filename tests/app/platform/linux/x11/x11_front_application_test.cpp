@@ -196,6 +196,21 @@ TEST_F(X11FrontApplicationTest, TheSameWindowIsToldOnce) {
     EXPECT_EQ(told.size(), 1U);
 }
 
+TEST_F(X11FrontApplicationTest, AFloodOfChangesIsAnsweredOnce) {
+    startWithManager();
+    std::vector<xcb_window_t> windows;
+    for (int i = 0; i < 40; ++i) {
+        const std::string name = "class" + std::to_string(i);
+        windows.push_back(client->makeWindow({.instance = name, .className = name}));
+    }
+    constexpr int times = 20'000;
+    const auto before = requestsSoFar();
+    client->floodActiveWindow(windows, times);
+    ASSERT_TRUE(waitFor([&] { return !told.empty() && told.back().windows.at(0).id == windows.back(); }));
+    EXPECT_LT(requestsSoFar() - before, times / 10U);
+    EXPECT_LT(told.size(), 100U);
+}
+
 TEST_F(X11FrontApplicationTest, WithoutAnActiveWindowThereIsNoFrontApplication) {
     startWithManager();
     const xcb_window_t window = writer("Letter");

@@ -1,8 +1,11 @@
 #include "test_client.h"
 
 #include <quillon/app/platform/linux/x11/x11_reply.h>
+#include <quillon/app/platform/linux/x11/xkb_header.h>
 
 #include <xcb/xtest.h>
+
+#include <array>
 
 namespace quillon {
 
@@ -14,6 +17,9 @@ constexpr std::uint8_t relative = 0;
 
 TestClient::TestClient(const std::string& display) : m_xcb(xcb_connect(display.c_str(), nullptr)) {
     m_screen = xcb_setup_roots_iterator(xcb_get_setup(m_xcb.get())).data;
+    const X11Reply<xcb_xkb_use_extension_reply_t> xkb(xcb_xkb_use_extension_reply(
+        m_xcb.get(), xcb_xkb_use_extension(m_xcb.get(), XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION),
+        nullptr));
 }
 
 void TestClient::sync() {
@@ -104,6 +110,15 @@ void TestClient::setActiveWindow(xcb_window_t window) {
     setNumbers(root(), "_NET_ACTIVE_WINDOW", "WINDOW", {window});
 }
 
+void TestClient::floodActiveWindow(const std::vector<xcb_window_t>& windows, int times) {
+    const xcb_atom_t property = atom("_NET_ACTIVE_WINDOW");
+    for (int i = 0; i < times; ++i)
+        xcb_change_property(
+            m_xcb.get(), XCB_PROP_MODE_REPLACE, root(), property, XCB_ATOM_WINDOW, 32, 1,
+            &windows[static_cast<std::size_t>(i) % windows.size()]);
+    sync();
+}
+
 void TestClient::setFocus(xcb_window_t window) {
     xcb_set_input_focus(m_xcb.get(), XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
     sync();
@@ -166,6 +181,20 @@ void TestClient::grabServer() {
 void TestClient::ungrabServer() {
     xcb_ungrab_server(m_xcb.get());
     sync();
+}
+
+void TestClient::setStickyKeys(bool on) {
+    constexpr std::uint32_t sticky = XCB_XKB_BOOL_CTRL_STICKY_KEYS;
+    constexpr std::array<std::uint8_t, 32> noKeys{};
+    xcb_xkb_set_controls(
+        m_xcb.get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, sticky, on ? sticky : 0, 0, 0,
+        0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, noKeys.data());
+    sync();
+}
+
+void TestClient::tap(std::uint8_t keyCode) {
+    keyDown(keyCode);
+    keyUp(keyCode);
 }
 
 void TestClient::changeSymbol(std::uint8_t keyCode, std::uint32_t symbol) {

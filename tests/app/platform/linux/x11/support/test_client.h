@@ -43,6 +43,8 @@ class TestClient {
     /// Announces a window manager that tells the active window; gives the window that stands for it.
     xcb_window_t becomeWindowManager();
     void setActiveWindow(xcb_window_t window);
+    /// Makes these windows active in turn, so many times altogether, as fast as requests go.
+    void floodActiveWindow(const std::vector<xcb_window_t>& windows, int times);
     void setFocus(xcb_window_t window);
     xcb_window_t focus();
 
@@ -55,6 +57,9 @@ class TestClient {
     void ungrab();
     void grabServer();
     void ungrabServer();
+    /// Sticky keys: a modifier that is tapped holds for the next key; tapped twice it is locked.
+    void setStickyKeys(bool on);
+    void tap(std::uint8_t keyCode);
     void changeSymbol(std::uint8_t keyCode, std::uint32_t symbol);
     void ownSelection(std::string_view name, xcb_window_t owner);
 

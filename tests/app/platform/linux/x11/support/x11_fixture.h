@@ -34,6 +34,9 @@ class X11Fixture : public testing::Test {
         QCoreApplication::processEvents();
     }
 
+    /// The number of requests that `x11` has made, this question included.
+    unsigned requestsSoFar() { return xcb_no_operation(x11->xcb()).sequence; }
+
     static const std::string& x11Display() { return s_server->display(); }
 
     /// Answers are to be exact here even when the machine is busy.
