@@ -4,8 +4,28 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace quillon {
+
+/// A box of a window's own pixels, counted from its top left corner.
+struct PixelBox {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const PixelBox&) const = default;
+};
+
+/// Which parts of a window are there for the eye and for the pointer.
+struct WindowShape {
+    std::optional<std::vector<PixelBox>> shown; ///< absent: all of the window
+    std::vector<PixelBox> touchable;            ///< elsewhere the pointer reaches what lies below
+
+    bool operator==(const WindowShape&) const = default;
+};
 
 /// What floating panels need of the desktop beyond what a toolkit offers. A window is given by its native
 /// number; it must exist and belong to this program.
@@ -16,6 +36,10 @@ class PanelWindows {
     /// Marks the window as a floating notice: above others, on every workspace, in no task list, and never
     /// given the focus by the window manager. Before it is shown for the first time.
     virtual void prepare(std::uintptr_t window) = 0;
+    virtual void setShape(std::uintptr_t window, const WindowShape& shape) = 0;
+    /// Takes the window off the screen, without the windows below being told that the pointer moved into
+    /// them: where the focus follows the pointer it would go there.
+    virtual void takeAway(std::uintptr_t window) = 0;
     /// Gives the keyboard to the shown window, remembering who had it.
     virtual void takeKeyboard(std::uintptr_t window) = 0;
     /// Gives the keyboard back to who had it before `takeKeyboard`; nothing when the window no longer has it.

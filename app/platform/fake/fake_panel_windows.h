@@ -14,6 +14,8 @@ namespace quillon {
 class FakePanelWindows final : public PanelWindows {
   public:
     void prepare(std::uintptr_t window) override { m_prepared.push_back(window); }
+    void setShape(std::uintptr_t, const WindowShape& shape) override { m_shape = shape; }
+    void takeAway(std::uintptr_t window) override { m_takenAway.push_back(window); }
     void takeKeyboard(std::uintptr_t window) override { m_keyboardOwner = window; }
     void returnKeyboard(std::uintptr_t window) override {
         if (m_keyboardOwner == window)
@@ -29,6 +31,10 @@ class FakePanelWindows final : public PanelWindows {
 
     /// The windows that were prepared, in order.
     const std::vector<std::uintptr_t>& prepared() const { return m_prepared; }
+    /// The shape that a window was given last.
+    const WindowShape& shape() const { return m_shape; }
+    /// The windows that were taken away, in order.
+    const std::vector<std::uintptr_t>& takenAway() const { return m_takenAway; }
     /// Which of this program's windows has the keyboard; absent while another application has it.
     std::optional<std::uintptr_t> keyboardOwner() const { return m_keyboardOwner; }
     /// Gives the keyboard to another application, as its user does by clicking into one.
@@ -45,6 +51,8 @@ class FakePanelWindows final : public PanelWindows {
 
   private:
     std::vector<std::uintptr_t> m_prepared;
+    WindowShape m_shape;
+    std::vector<std::uintptr_t> m_takenAway;
     std::optional<std::uintptr_t> m_keyboardOwner;
     bool m_composited = true;
     CountedEvent<> m_compositedChanged;

@@ -9,6 +9,8 @@ namespace quillon {
 class NoPanelWindows final : public PanelWindows {
   public:
     void prepare(std::uintptr_t) override {}
+    void setShape(std::uintptr_t, const WindowShape&) override {}
+    void takeAway(std::uintptr_t) override {}
     void takeKeyboard(std::uintptr_t) override {}
     void returnKeyboard(std::uintptr_t) override {}
     bool isComposited() const override { return false; }

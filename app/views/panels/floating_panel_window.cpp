@@ -1,13 +1,15 @@
 #include "floating_panel_window.h"
 
+#include "rounded_box.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QVBoxLayout>
 #include <QWindow>
 
 #include <chrono>
+#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -31,6 +33,8 @@ FloatingPanelWindow::FloatingPanelWindow(PanelContent content, ThemeSource& them
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_content);
+    // On a small screen the content shrinks rather than hang over.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     m_compositing = windows.onCompositedChanged([this] { followCompositing(); });
     m_return.setSingleShot(true);
     m_return.setInterval(returnDelay);
@@ -49,6 +53,8 @@ void FloatingPanelWindow::followCompositing() {
     const int reach = shadowReach();
     layout()->setContentsMargins(reach, reach, reach, reach);
     setFrame(m_frame);
+    applyShape();
+    update();
 }
 
 void FloatingPanelWindow::setFrame(Rect frame) {
@@ -60,13 +66,24 @@ void FloatingPanelWindow::setFrame(Rect frame) {
 
 void FloatingPanelWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (shadowReach() > 0) {
-        clearMask();
-        return;
-    }
-    QPainterPath shape;
-    shape.addRoundedRect(QRectF(rect()), m_cornerRadius, m_cornerRadius);
-    setMask(QRegion(shape.toFillPolygon().toPolygon()));
+    applyShape();
+}
+
+void FloatingPanelWindow::applyShape() {
+    if (m_isPrepared)
+        m_windows.setShape(static_cast<std::uintptr_t>(winId()), shape());
+}
+
+/// The panel without its shadow takes the pointer. What is not blended has to be cut to be round.
+WindowShape FloatingPanelWindow::shape() const {
+    const double ratio = devicePixelRatioF();
+    const int reach = static_cast<int>(std::lround(shadowReach() * ratio));
+    const QSize size = (QSizeF(this->size()) * ratio).toSize();
+    const PixelBox panel{reach, reach, size.width() - 2 * reach, size.height() - 2 * reach};
+    WindowShape shape{.shown = {}, .touchable = roundedBoxes(panel, m_cornerRadius * ratio)};
+    if (!m_windows.isComposited())
+        shape.shown = shape.touchable;
+    return shape;
 }
 
 void FloatingPanelWindow::prepare() {
@@ -82,6 +99,7 @@ void FloatingPanelWindow::prepareWindow() {
     m_isPrepared = true;
     m_windows.prepare(static_cast<std::uintptr_t>(winId()));
     windowHandle()->installEventFilter(this);
+    applyShape();
 }
 
 void FloatingPanelWindow::orderFront() {
@@ -115,6 +133,8 @@ void FloatingPanelWindow::orderOut() {
         m_return.start();
     else
         returnKeyboard();
+    if (isVisible())
+        m_windows.takeAway(static_cast<std::uintptr_t>(winId()));
     hide();
 }
 
@@ -161,7 +181,8 @@ bool FloatingPanelWindow::event(QEvent* event) {
 }
 
 void FloatingPanelWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Cancel) && onEscape)
+    // Whatever else is held: a modifier may be locked.
+    if (event->key() == Qt::Key_Escape && onEscape)
         onEscape();
     else
         QWidget::keyPressEvent(event);
@@ -173,10 +194,13 @@ void FloatingPanelWindow::mousePressEvent(QMouseEvent* event) {
 }
 
 void FloatingPanelWindow::paintEvent(QPaintEvent*) {
-    if (shadowReach() == 0)
-        return;
     QPainter painter(this);
-    m_shadow.paint(painter, QRectF(m_content->geometry()), m_cornerRadius, m_themes.theme().palette.shadow);
+    // Under the softened pixels of the content's edge, where nothing else shines through.
+    if (!m_windows.isComposited())
+        painter.fillRect(rect(), palette().color(QPalette::Mid));
+    else
+        m_shadow.paint(
+            painter, QRectF(m_content->geometry()), m_cornerRadius, m_themes.theme().palette.shadow);
 }
 
 } // namespace quillon

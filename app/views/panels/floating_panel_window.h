@@ -47,6 +47,8 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
 
     void prepareWindow();
     void followCompositing();
+    void applyShape();
+    WindowShape shape() const;
     void takeKeyboard();
     void returnKeyboard();
     void loseKeyboard();

@@ -3,6 +3,9 @@
 #include "x11_property.h"
 #include "x11_queries.h"
 
+#include <QGuiApplication>
+
+#include <xcb/shape.h>
 #include <xcb/xfixes.h>
 
 #include <string>
@@ -28,6 +31,15 @@ void setNumbers(
 
 xcb_window_t windowOf(std::uintptr_t number) {
     return static_cast<xcb_window_t>(number);
+}
+
+std::vector<xcb_rectangle_t> rectangles(const std::vector<PixelBox>& boxes) {
+    std::vector<xcb_rectangle_t> result;
+    for (const PixelBox& box : boxes)
+        result.push_back(
+            {static_cast<std::int16_t>(box.x), static_cast<std::int16_t>(box.y),
+             static_cast<std::uint16_t>(box.width), static_cast<std::uint16_t>(box.height)});
+    return result;
 }
 
 bool isWheel(std::uint32_t button) {
@@ -76,11 +88,24 @@ void X11PanelWindows::handle(const xcb_generic_event_t& event) {
         const auto taking = m_takings.find(window);
         if (taking != m_takings.end() && taking->second.isWanted)
             focus(window);
-    } else if (event.response_type == XCB_FOCUS_IN) {
-        const auto taking = m_takings.find(reinterpret_cast<const xcb_focus_in_event_t&>(event).event);
-        if (taking != m_takings.end())
-            taking->second.isWanted = false;
+    } else if (event.response_type == XCB_FOCUS_IN || event.response_type == XCB_FOCUS_OUT) {
+        focusChanged(reinterpret_cast<const xcb_focus_in_event_t&>(event));
     }
+}
+
+void X11PanelWindows::focusChanged(const xcb_focus_in_event_t& event) {
+    const auto taking = m_takings.find(event.event);
+    const bool staysInside =
+        event.detail == XCB_NOTIFY_DETAIL_INFERIOR || event.detail == XCB_NOTIFY_DETAIL_POINTER;
+    const bool isOfAGrab = event.mode == XCB_NOTIFY_MODE_GRAB || event.mode == XCB_NOTIFY_MODE_UNGRAB;
+    if (taking == m_takings.end() || staysInside || isOfAGrab)
+        return;
+    taking->second.isHere = event.response_type == XCB_FOCUS_IN;
+    if (!taking->second.isHere)
+        return;
+    taking->second.isWanted = false;
+    // The answer came before this event.
+    learnWhoHadIt(taking->first, taking->second);
 }
 
 void X11PanelWindows::setComposited(bool composited) {
@@ -107,6 +132,48 @@ void X11PanelWindows::prepare(std::uintptr_t number) {
     // Not to be focused when it appears.
     setNumbers(x11, window, X11Name::netWmUserTime, XCB_ATOM_CARDINAL, {0});
     x11.flush();
+}
+
+void X11PanelWindows::setShape(std::uintptr_t number, const WindowShape& shape) {
+    if (!m_x11->extensions().shape)
+        return;
+    const xcb_window_t window = windowOf(number);
+    const auto set = [&](xcb_shape_kind_t kind, const std::vector<PixelBox>& boxes) {
+        const auto area = rectangles(boxes);
+        xcb_shape_rectangles(
+            m_x11->xcb(), XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0,
+            static_cast<std::uint32_t>(area.size()), area.data());
+    };
+    if (shape.shown)
+        set(XCB_SHAPE_SK_BOUNDING, *shape.shown);
+    else
+        xcb_shape_mask(m_x11->xcb(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0, XCB_PIXMAP_NONE);
+    set(XCB_SHAPE_SK_INPUT, shape.touchable);
+    m_x11->flush();
+}
+
+/// A window that goes while the toolkit's client has the pointer leaves it in the window below by the end of
+/// a grab, and not by a move, which window managers tell apart. Where another client has the pointer (a menu
+/// is open) nobody is told of moves anyway.
+void X11PanelWindows::takeAway(std::uintptr_t number) {
+    constexpr std::uint8_t toOwner = 0;
+    xcb_connection_t* toolkit = toolkitsConnection();
+    const auto grab = xcb_grab_pointer(
+        toolkit, toOwner, m_x11->root(), XCB_EVENT_MASK_NO_EVENT, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+        XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
+    xcb_discard_reply(toolkit, grab.sequence);
+    xcb_unmap_window(toolkit, windowOf(number));
+    xcb_ungrab_pointer(toolkit, XCB_CURRENT_TIME);
+    xcb_flush(toolkit);
+}
+
+/// What the toolkit does with a window afterwards must not come first, and the server keeps no order between
+/// connections.
+xcb_connection_t* X11PanelWindows::toolkitsConnection() const {
+    const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
+    const auto* native =
+        application ? application->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return native ? native->connection() : m_x11->xcb();
 }
 
 void X11PanelWindows::takeKeyboard(std::uintptr_t number) {
@@ -145,17 +212,14 @@ void X11PanelWindows::returnKeyboard(std::uintptr_t number) {
         return;
     learnWhoHadIt(window, node.mapped());
     const xcb_window_t before = node.mapped().before;
-    const auto now = inputFocus(*m_x11);
-    // When the window is off the screen already, the server has let the keyboard follow the pointer.
-    const bool isStillOurs = now == window || now == pointerRoot;
-    if (isStillOurs && before != XCB_NONE)
-        focus(isOnScreen(before) ? before : pointerRoot);
+    if (before != XCB_NONE && (node.mapped().isHere || isWithOurs(window)))
+        focus(before);
 }
 
-bool X11PanelWindows::isOnScreen(xcb_window_t window) {
-    const auto attributes =
-        m_x11->reply<xcb_get_window_attributes_reply_t>(xcb_get_window_attributes(m_x11->xcb(), window));
-    return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+/// When the window is off the screen already, the server has let the keyboard follow the pointer.
+bool X11PanelWindows::isWithOurs(xcb_window_t window) {
+    const auto now = inputFocus(*m_x11);
+    return now == window || now == pointerRoot;
 }
 
 Subscription X11PanelWindows::onPressElsewhere(std::function<void()> callback) {

@@ -19,8 +19,12 @@ class X11PanelWindows final : public PanelWindows {
     ~X11PanelWindows() override;
 
     void prepare(std::uintptr_t window) override;
-    /// Never waits: a window that is not on the screen yet gets the keyboard as soon as it is.
+    void setShape(std::uintptr_t window, const WindowShape& shape) override;
+    void takeAway(std::uintptr_t window) override;
+    /// Does not wait: a window that is not on the screen yet gets the keyboard as soon as it is.
     void takeKeyboard(std::uintptr_t window) override;
+    /// Does not wait either for a window that has the keyboard: it may have to go at once. One to whose owner
+    /// it cannot be given follows the pointer as soon as the window goes.
     void returnKeyboard(std::uintptr_t window) override;
     bool isComposited() const override { return m_composited; }
     Subscription onCompositedChanged(std::function<void()> callback) override;
@@ -31,6 +35,7 @@ class X11PanelWindows final : public PanelWindows {
     /// What is known of a window that took the keyboard.
     struct Taking {
         bool isWanted = true;                              ///< it has not got it yet
+        bool isHere = false;                               ///< it has it
         std::optional<xcb_get_input_focus_cookie_t> asked; ///< who had it, if not looked up yet
         xcb_window_t before = XCB_NONE;                    ///< who had it
         Subscription events;                               ///< of the window
@@ -38,11 +43,13 @@ class X11PanelWindows final : public PanelWindows {
 
     void handle(const xcb_generic_event_t& event);
     void followCompositor();
+    void focusChanged(const xcb_focus_in_event_t& event);
     void setComposited(bool composited);
     void focus(xcb_window_t window);
     void learnWhoHadIt(xcb_window_t window, Taking& taking);
-    bool isOnScreen(xcb_window_t window);
+    bool isWithOurs(xcb_window_t window);
     void drained();
+    xcb_connection_t* toolkitsConnection() const;
     std::optional<bool> isPointerOverOurs();
     bool isOurs(xcb_window_t window);
 

@@ -1,6 +1,7 @@
 #include <quillon/app/platform/fake/fake_appearance.h>
 #include <quillon/app/platform/fake/fake_panel_windows.h>
 #include <quillon/app/views/panels/floating_panel_window.h>
+#include <quillon/app/views/panels/rounded_box.h>
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QWindow>
 
 namespace quillon {
@@ -57,7 +59,23 @@ TEST_F(FloatingPanelWindowTest, TheContentIsWhereTheFrameIsAndTheShadowAround) {
     panel.orderFront();
     EXPECT_EQ(QRect(content->mapToGlobal(QPoint(0, 0)), content->size()), QRect(100, 80, 400, 300));
     EXPECT_EQ(panel.geometry(), QRect(100, 80, 400, 300).adjusted(-36, -36, 36, 36));
-    EXPECT_TRUE(panel.mask().isEmpty());
+}
+
+TEST_F(FloatingPanelWindowTest, ThePointerReachesWhatLiesUnderTheShadow) {
+    panel.orderFront();
+    EXPECT_EQ(desktop.shape(), (WindowShape{.shown = {}, .touchable = roundedBoxes({36, 36, 400, 300}, 16)}));
+    panel.setFrame({100, 80, 500, 350});
+    EXPECT_EQ(desktop.shape().touchable, roundedBoxes({36, 36, 500, 350}, 16));
+}
+
+TEST_F(FloatingPanelWindowTest, OnATinyScreenTheContentShrinks) {
+    content->setLayout(new QVBoxLayout);
+    content->layout()->addWidget(field);
+    field->setMinimumWidth(600);
+    panel.setFrame({0, 0, 400, 300});
+    panel.orderFront();
+    EXPECT_EQ(panel.geometry(), QRect(0, 0, 400, 300).adjusted(-36, -36, 36, 36));
+    EXPECT_EQ(content->size(), QSize(400, 300));
 }
 
 TEST_F(FloatingPanelWindowTest, WithoutBlendingCornersAreCutAndThereIsNoShadow) {
@@ -65,11 +83,10 @@ TEST_F(FloatingPanelWindowTest, WithoutBlendingCornersAreCutAndThereIsNoShadow) 
     desktop.setComposited(false);
     EXPECT_EQ(panel.geometry(), QRect(100, 80, 400, 300));
     EXPECT_EQ(QRect(content->mapToGlobal(QPoint(0, 0)), content->size()), QRect(100, 80, 400, 300));
-    EXPECT_FALSE(panel.mask().contains(QPoint(1, 1)));
-    EXPECT_TRUE(panel.mask().contains(QPoint(200, 1)));
-    EXPECT_TRUE(panel.mask().contains(QPoint(200, 150)));
+    const auto round = roundedBoxes({0, 0, 400, 300}, 16);
+    EXPECT_EQ(desktop.shape(), (WindowShape{.shown = round, .touchable = round}));
     desktop.setComposited(true);
-    EXPECT_TRUE(panel.mask().isEmpty());
+    EXPECT_FALSE(desktop.shape().shown);
     EXPECT_EQ(panel.geometry().width(), 472);
 }
 
@@ -121,6 +138,20 @@ TEST_F(FloatingPanelWindowTest, EscapeAnywhereInsideIsTold) {
     QTest::keyClicks(field, QStringLiteral("typed"));
     EXPECT_EQ(field->text(), QStringLiteral("typed"));
     EXPECT_EQ(escapes, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, EscapeIsOneWhateverModifierIsLocked) {
+    showWithKeyboard();
+    QTest::keyClick(field, Qt::Key_Escape, Qt::MetaModifier);
+    EXPECT_EQ(escapes, 1);
+}
+
+TEST_F(FloatingPanelWindowTest, IsTakenAwayByTheDesktopWhenItGoes) {
+    panel.orderOut();
+    EXPECT_TRUE(desktop.takenAway().empty());
+    panel.orderFront();
+    panel.orderOut();
+    EXPECT_EQ(desktop.takenAway(), std::vector{window()});
 }
 
 TEST_F(FloatingPanelWindowTest, LosingTheKeyboardIsToldOnce) {

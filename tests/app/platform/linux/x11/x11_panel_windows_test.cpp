@@ -13,6 +13,7 @@
 namespace quillon {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 
@@ -111,7 +112,9 @@ TEST_F(X11PanelWindowsTest, AKeyboardThatAnotherWindowHasTakenStaysThere) {
     const xcb_window_t panel = makePanel();
     client->setFocus(editor);
     panels->takeKeyboard(panel);
+    ASSERT_TRUE(hasFocus(panel));
     client->setFocus(other);
+    settle();
     panels->returnKeyboard(panel);
     settle();
     EXPECT_EQ(client->focus(), other);
@@ -128,6 +131,23 @@ TEST_F(X11PanelWindowsTest, TheKeyboardOfAPanelThatIsOffTheScreenAlreadyGoesBack
     EXPECT_TRUE(hasFocus(editor));
 }
 
+TEST_F(X11PanelWindowsTest, GivingTheKeyboardBackAsksNobody) {
+    const xcb_window_t editor = client->makeWindow({});
+    const xcb_window_t panel = makePanel();
+    client->setFocus(editor);
+    panels->takeKeyboard(panel);
+    ASSERT_TRUE(hasFocus(panel));
+    settle();
+    client->grabServer();
+    const auto begin = std::chrono::steady_clock::now();
+    panels->returnKeyboard(panel);
+    panels->takeAway(panel);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5)) << "the patience is ten";
+    client->ungrabServer();
+    EXPECT_TRUE(hasFocus(editor));
+    EXPECT_FALSE(client->isMapped(panel));
+}
+
 TEST_F(X11PanelWindowsTest, AKeyboardWhoseOwnerIsGoneFollowsThePointer) {
     const xcb_window_t editor = client->makeWindow({});
     const xcb_window_t panel = makePanel();
@@ -136,6 +156,7 @@ TEST_F(X11PanelWindowsTest, AKeyboardWhoseOwnerIsGoneFollowsThePointer) {
     ASSERT_TRUE(hasFocus(panel));
     client->destroy(editor);
     panels->returnKeyboard(panel);
+    panels->takeAway(panel);
     EXPECT_TRUE(hasFocus(XCB_INPUT_FOCUS_POINTER_ROOT));
 }
 
@@ -156,6 +177,51 @@ TEST_F(X11PanelWindowsTest, APanelThatNeverTookTheKeyboardHasNoneToReturn) {
     panels->returnKeyboard(makePanel());
     settle();
     EXPECT_EQ(client->focus(), editor);
+}
+
+TEST_F(X11PanelWindowsTest, APanelThatIsTakenAwayDoesNotMoveThePointerIntoWhatLiesBelow) {
+    const xcb_window_t below = client->makeWindow({.x = 200, .y = 200, .size = 100});
+    const xcb_window_t panel = makePanel();
+    client->movePointer(250, 250);
+    client->watchPointer(below);
+    panels->takeAway(panel);
+    settle();
+    EXPECT_THAT(client->pointerComings(), Each(XCB_NOTIFY_MODE_UNGRAB));
+    EXPECT_FALSE(client->isMapped(panel));
+    EXPECT_TRUE(client->grabPointer()) << "it is free again";
+}
+
+TEST_F(X11PanelWindowsTest, APanelIsTakenAwayWhileAnotherClientHasThePointer) {
+    const xcb_window_t panel = makePanel();
+    ASSERT_TRUE(client->grabPointer());
+    panels->takeAway(panel);
+    settle();
+    EXPECT_FALSE(client->isMapped(panel));
+}
+
+TEST_F(X11PanelWindowsTest, ThePointerReachesWhatLiesUnderTheUntouchablePartsOfAPanel) {
+    const xcb_window_t below = client->makeWindow({.x = 200, .y = 200, .size = 100});
+    const xcb_window_t panel = makePanel();
+    panels->setShape(panel, {.shown = {}, .touchable = {{20, 20, 60, 60}}});
+    settle();
+    client->movePointer(205, 205);
+    EXPECT_EQ(client->windowUnderPointer(), below);
+    client->movePointer(250, 250);
+    EXPECT_EQ(client->windowUnderPointer(), panel);
+    panels->setShape(panel, {.shown = {}, .touchable = {}});
+    settle();
+    EXPECT_EQ(client->windowUnderPointer(), below);
+}
+
+TEST_F(X11PanelWindowsTest, APanelIsCutToItsShapeAndMadeWholeAgain) {
+    const xcb_window_t panel = makePanel();
+    panels->setShape(panel, {.shown = {{{10, 0, 80, 100}}}, .touchable = {{0, 0, 100, 100}}});
+    settle();
+    client->movePointer(205, 250);
+    EXPECT_NE(client->windowUnderPointer(), panel);
+    panels->setShape(panel, {.shown = {}, .touchable = {{0, 0, 100, 100}}});
+    settle();
+    EXPECT_EQ(client->windowUnderPointer(), panel);
 }
 
 TEST_F(X11PanelWindowsTest, ACompositorIsNoticedAsItComesAndGoes) {

@@ -119,6 +119,18 @@ void TestClient::floodActiveWindow(const std::vector<xcb_window_t>& windows, int
     sync();
 }
 
+bool TestClient::isMapped(xcb_window_t window) {
+    const X11Reply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+        m_xcb.get(), xcb_get_window_attributes(m_xcb.get(), window), nullptr));
+    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+xcb_window_t TestClient::windowUnderPointer() {
+    const X11Reply<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(m_xcb.get(), xcb_query_pointer(m_xcb.get(), root()), nullptr));
+    return reply ? reply->child : xcb_window_t{XCB_NONE};
+}
+
 void TestClient::setFocus(xcb_window_t window) {
     xcb_set_input_focus(m_xcb.get(), XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
     sync();
@@ -146,6 +158,22 @@ void TestClient::keyUp(std::uint8_t keyCode) {
 void TestClient::click(std::uint8_t button) {
     fake(XCB_BUTTON_PRESS, button);
     fake(XCB_BUTTON_RELEASE, button);
+}
+
+void TestClient::watchPointer(xcb_window_t window) {
+    const std::uint32_t mask = XCB_EVENT_MASK_ENTER_WINDOW;
+    xcb_change_window_attributes(m_xcb.get(), window, XCB_CW_EVENT_MASK, &mask);
+    sync();
+}
+
+std::vector<std::uint8_t> TestClient::pointerComings() {
+    sync();
+    std::vector<std::uint8_t> modes;
+    while (const X11Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_xcb.get())}) {
+        if (event->response_type == XCB_ENTER_NOTIFY)
+            modes.push_back(reinterpret_cast<const xcb_enter_notify_event_t&>(*event).mode);
+    }
+    return modes;
 }
 
 void TestClient::movePointer(std::int16_t x, std::int16_t y) {

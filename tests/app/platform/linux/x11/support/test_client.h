@@ -45,12 +45,19 @@ class TestClient {
     void setActiveWindow(xcb_window_t window);
     /// Makes these windows active in turn, so many times altogether, as fast as requests go.
     void floodActiveWindow(const std::vector<xcb_window_t>& windows, int times);
+    bool isMapped(xcb_window_t window);
+    /// The child of the root window that the pointer is in; XCB_NONE over the root window itself.
+    xcb_window_t windowUnderPointer();
     void setFocus(xcb_window_t window);
     xcb_window_t focus();
 
     void keyDown(std::uint8_t keyCode);
     void keyUp(std::uint8_t keyCode);
     void click(std::uint8_t button);
+    /// Has the server tell this client when the pointer comes to or leaves a window.
+    void watchPointer(xcb_window_t window);
+    /// How the pointer came to watched windows since the last time: XCB_NOTIFY_MODE_… of each coming.
+    std::vector<std::uint8_t> pointerComings();
     void movePointer(std::int16_t x, std::int16_t y);
     bool grabKeyboard();
     bool grabPointer();
