@@ -33,6 +33,14 @@ AppIdentity identityOf(const DesktopEntry& entry) {
     return {entry.id, entry.name.empty() ? entry.id : entry.name};
 }
 
+/// Whether an entry is hidden from menus and starts another program than the one that runs. What runs in a
+/// sandbox is started by the sandbox's program.
+bool isForAnotherProgram(const DesktopEntry& entry, const ProcessFacts& process) {
+    const bool isSandboxed = !process.flatpakID.empty() || !process.snapEntryID.empty();
+    return !entry.isShown && !isSandboxed && !process.executable.empty()
+           && entry.executable != process.executable;
+}
+
 std::string programName(const WindowFacts& window, const ProcessFacts& process) {
     if (!process.executable.empty())
         return process.executable;
@@ -76,8 +84,7 @@ DesktopEntries::best(const Index& index, std::string_view key, const ProcessFact
         const bool runs = !process.executable.empty() && entry.executable == process.executable;
         return std::tuple(!runs, !entry.isShown, entry.id.size(), std::string_view(entry.id));
     };
-    const auto found = std::min_element(
-        begin, end, [&](const auto& left, const auto& right) { return rank(left) < rank(right); });
+    const auto found = std::ranges::min_element(begin, end, {}, rank);
     return found == end ? nullptr : &m_entries[found->second];
 }
 
@@ -121,12 +128,28 @@ const DesktopEntry* DesktopEntries::byProcess(const ProcessFacts& process) const
     return best(m_byFoldedID, folded(process.executable), process);
 }
 
-const DesktopEntry* DesktopEntries::find(const WindowFacts& window, const ProcessFacts& process) const {
+const DesktopEntry* DesktopEntries::byWindow(const WindowFacts& window, const ProcessFacts& process) const {
     if (const auto* entry = byClass(window, process))
         return entry;
-    if (const auto* entry = byID(window.gtkApplicationID))
-        return entry;
-    return byProcess(process);
+    return byID(window.gtkApplicationID);
+}
+
+const DesktopEntry* DesktopEntries::find(const WindowFacts& window, const ProcessFacts& process) const {
+    const DesktopEntry* claimed = byWindow(window, process);
+    if (claimed == nullptr)
+        return byProcess(process);
+    if (!isForAnotherProgram(*claimed, process))
+        return claimed;
+    const DesktopEntry* running = best(m_byExecutable, process.executable, process);
+    return running != nullptr ? running : claimed;
+}
+
+AppIdentity DesktopEntries::identifyOwned(const AppIdentity& own, std::span<const AppIdentity> owners) const {
+    if (byID(own.bundleID) != nullptr)
+        return own;
+    const auto installed = std::ranges::find_if(
+        owners, [this](const AppIdentity& owner) { return byID(owner.bundleID) != nullptr; });
+    return installed == owners.end() ? own : *installed;
 }
 
 AppIdentity DesktopEntries::identify(const WindowFacts& window, const ProcessFacts& process) const {

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,14 +40,22 @@ class DesktopEntries {
 
     /// Which application a window belongs to. In this order, each compared with what is installed: WM_CLASS
     /// with StartupWMClass, then with the ids; the GTK application id; a Flatpak's and a Snap's own names;
-    /// the control group, unless it is a terminal's; the executable. An application that is not installed
-    /// goes by its Flatpak or GTK application id, else by the program's name.
+    /// the control group, unless it is a terminal's; the executable. An entry that is hidden from menus and
+    /// starts another program than the one that runs (an importer that comes with a viewer and claims its
+    /// windows) loses to one that starts it. An application that is not installed goes by its Flatpak or GTK
+    /// application id, else by the program's name.
     AppIdentity identify(const WindowFacts& window, const ProcessFacts& process) const;
+
+    /// Which application a window belongs to that was identified as `own` and belongs to windows of the same
+    /// process that were identified as `owners`, the nearest first: its own when that is installed, else the
+    /// nearest owner's that is. Dialogs often bear their program's name alone.
+    AppIdentity identifyOwned(const AppIdentity& own, std::span<const AppIdentity> owners) const;
 
   private:
     using Index = std::multimap<std::string, std::size_t, std::less<>>;
 
     const DesktopEntry* best(const Index& index, std::string_view key, const ProcessFacts& process) const;
+    const DesktopEntry* byWindow(const WindowFacts& window, const ProcessFacts& process) const;
     const DesktopEntry* find(const WindowFacts& window, const ProcessFacts& process) const;
     const DesktopEntry* byClass(const WindowFacts& window, const ProcessFacts& process) const;
     const DesktopEntry* byNameOfID(std::string_view name, const ProcessFacts& process) const;

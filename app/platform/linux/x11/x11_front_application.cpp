@@ -94,11 +94,23 @@ std::vector<X11FrontApplication::Named> X11FrontApplication::ownersOf(const Surv
     return chain;
 }
 
+/// Windows of another process that it belongs to (a file chooser's caller) do not tell whose it is.
+AppIdentity X11FrontApplication::identityOf(const Named& window, const std::vector<Named>& owners) const {
+    std::vector<AppIdentity> identities;
+    for (const Named& owner : owners)
+        if (owner.window.facts.pid == window.window.facts.pid)
+            identities.push_back(owner.app);
+    const auto entries = m_identifier.entries();
+    return entries ? entries->identifyOwned(window.app, identities) : window.app;
+}
+
 std::optional<RunningApp> X11FrontApplication::describe() const {
     const auto active = name({m_active.current()});
     if (active.empty())
         return std::nullopt;
-    const auto& [window, app] = active.front();
+    const SurveyedWindow& window = active.front().window;
+    const std::vector<Named> owners = ownersOf(window);
+    const AppIdentity app = identityOf(active.front(), owners);
     RunningApp result{window.facts.pid, app.bundleID, app.name, {{window.id, window.title}}};
     const auto add = [&result](const SurveyedWindow& other) {
         const bool known = std::ranges::any_of(
@@ -106,7 +118,7 @@ std::optional<RunningApp> X11FrontApplication::describe() const {
         if (!known && result.windows.size() < windowLimit)
             result.windows.push_back({other.id, other.title});
     };
-    for (const Named& owner : ownersOf(window))
+    for (const Named& owner : owners)
         add(owner.window);
     for (const Named& other : name(m_history.windows())) {
         if (other.window.facts.pid == result.pid && other.app.bundleID == result.bundleID)

@@ -43,6 +43,7 @@ class X11FrontApplication final : public FrontApplication {
     /// Absent when there is nothing to tell or not all of it can be asked for now.
     std::optional<RunningApp> describe() const;
     std::vector<Named> ownersOf(const SurveyedWindow& window) const;
+    AppIdentity identityOf(const Named& window, const std::vector<Named>& owners) const;
     std::vector<Named> name(const std::vector<xcb_window_t>& windows) const;
     void noteIconOf(const RunningApp& app);
 

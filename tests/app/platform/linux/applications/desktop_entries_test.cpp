@@ -96,6 +96,55 @@ TEST(DesktopEntriesTest, ElseTheOneThatIsShownInMenusAndTheShortestId) {
     EXPECT_EQ(idOf(entries, windowOf("", "Editor")), "editor");
 }
 
+DesktopEntry hidden(DesktopEntry entry) {
+    entry.isShown = false;
+    return entry;
+}
+
+TEST(DesktopEntriesTest, AHiddenEntryLosesToTheOneWhoseProgramRuns) {
+    const DesktopEntries entries(
+        {hidden(entry("org.kde.viewer_importer", "viewer", "viewer_importer")),
+         entry("org.kde.viewer", "", "viewer")});
+    EXPECT_EQ(idOf(entries, windowOf("viewer", "viewer"), running("viewer")), "org.kde.viewer");
+    EXPECT_EQ(
+        idOf(entries, windowOf("viewer", "viewer"), running("viewer_importer")), "org.kde.viewer_importer");
+}
+
+TEST(DesktopEntriesTest, AHiddenEntryIsTakenWhereNoOtherStartsTheProgram) {
+    const DesktopEntries entries({hidden(entry("settings", "Settings", "settings-launcher"))});
+    EXPECT_EQ(idOf(entries, windowOf("", "Settings"), running("settings-program")), "settings");
+    EXPECT_EQ(idOf(entries, windowOf("", "Settings")), "settings");
+}
+
+TEST(DesktopEntriesTest, AShownEntryIsTakenWhateverProgramRuns) {
+    const DesktopEntries entries(
+        {entry("notes", "Notes", "browser-launcher"), entry("browser", "", "browser")});
+    EXPECT_EQ(idOf(entries, windowOf("", "Notes"), running("browser")), "notes");
+}
+
+TEST(DesktopEntriesTest, AHiddenEntryOfASandboxIsTakenBesideAProgramOutsideOfIt) {
+    const DesktopEntries entries(
+        {hidden(entry("org.viewer", "viewer", "flatpak")), entry("viewer-here", "", "viewer")});
+    ProcessFacts flatpak = running("viewer");
+    flatpak.flatpakID = "org.viewer";
+    EXPECT_EQ(idOf(entries, windowOf("viewer", "viewer"), flatpak), "org.viewer");
+}
+
+TEST(DesktopEntriesTest, AWindowThatIsNotKnownTakesTheApplicationOfTheOneItBelongsTo) {
+    const DesktopEntries entries({entry("writer"), entry("calc")});
+    const AppIdentity writer{"writer", "Writer"};
+    const AppIdentity calc{"calc", "Calc"};
+    const AppIdentity unknown{"soffice.bin", "soffice.bin"};
+    const auto owned = [&entries](const AppIdentity& own, const std::vector<AppIdentity>& owners) {
+        return entries.identifyOwned(own, owners);
+    };
+    EXPECT_EQ(owned(unknown, {writer, calc}), writer);
+    EXPECT_EQ(owned(unknown, {unknown, calc}), calc) << "a dialog of a dialog";
+    EXPECT_EQ(owned(calc, {writer}), calc) << "a window that is known";
+    EXPECT_EQ(owned(unknown, {}), unknown);
+    EXPECT_EQ(owned(unknown, {{"another", "Another"}}), unknown) << "nothing is won";
+}
+
 TEST(DesktopEntriesTest, AGtkApplicationIdIsFound) {
     const DesktopEntries entries({entry("org.gnome.TextEditor")});
     WindowFacts window = windowOf("something", "Else");

@@ -147,6 +147,19 @@ TEST_F(X11FrontApplicationTest, TheWindowsThatADialogBelongsToComeBeforeTheOther
                                  listed(owner, "Letter"), listed(other, "Other")));
 }
 
+TEST_F(X11FrontApplicationTest, ADialogThatIsNotKnownIsOfTheApplicationThatItBelongsTo) {
+    startWithManager();
+    const xcb_window_t sums = calc("Sums");
+    const xcb_window_t tip =
+        client->makeWindow({.instance = "soffice", .className = "Soffice", .title = "Tip of the Day"});
+    client->setNumbers(tip, "WM_TRANSIENT_FOR", "WINDOW", {sums});
+    activate(tip);
+    EXPECT_EQ(told.back().bundleID, "libreoffice-calc");
+    EXPECT_EQ(told.back().name, "LibreOffice Calc");
+    EXPECT_THAT(told.back().windows, ElementsAre(listed(tip, "Tip of the Day"), listed(sums, "Sums")));
+    EXPECT_THAT(iconsOf, IsEmpty());
+}
+
 TEST_F(X11FrontApplicationTest, WindowsThatBelongToEachOtherInARingDoNoHarm) {
     startWithManager();
     const xcb_window_t one = writer("One");
