@@ -17,6 +17,13 @@ bool isLayerRole(Role role, bool isOnlyChild) {
     return role == Role::popupMenu || (role == Role::menu && isOnlyChild);
 }
 
+/// Whether only items that matter are asked for more than name and children: those that would be commands and
+/// those that hold others. Where each item costs its own request for whether it is hidden, that saves as
+/// much.
+constexpr bool asksLate(ToolkitFamily family) {
+    return tellsHiddenBySize(family);
+}
+
 } // namespace
 
 MenuWalk::MenuWalk(AccessibilityCalls& calls, ToolkitFamily family, const MenuOutline* outline)
@@ -92,7 +99,7 @@ void MenuWalk::askName(Node& node) {
             return;
         }
         node.name = std::move(name);
-        if (!node.states && (tellsHiddenByState(m_family) || !node.name->empty()))
+        if (!node.states && !asksLate(m_family) && (tellsHiddenByState(m_family) || !node.name->empty()))
             askStates(node);
         settle(node);
     });
@@ -105,7 +112,9 @@ void MenuWalk::askStates(Node& node) {
     });
 }
 
-void MenuWalk::askSize(Node& node) {
+void MenuWalk::askStatesAndSize(Node& node) {
+    if (!node.name->empty())
+        askStates(node);
     m_calls.size(node.object, [&node](std::optional<Size> size) { node.isHidden = size && size->isEmpty(); });
 }
 
@@ -131,9 +140,8 @@ void MenuWalk::askBinding(Node& node) {
     m_calls.keyBinding(node.object, [this, &node](std::optional<std::string> binding) {
         if (binding)
             node.equivalent = keyEquivalent({*binding, m_family, *node.name});
-        const bool mayBeCommand = node.equivalent.modifiers.has_value();
-        if (mayBeCommand && tellsHiddenBySize(m_family))
-            askSize(node);
+        if (node.equivalent.modifiers && asksLate(m_family))
+            askStatesAndSize(node);
     });
 }
 
@@ -150,8 +158,8 @@ void MenuWalk::settle(Node& node) {
         askBinding(node);
         return;
     }
-    if (tellsHiddenBySize(m_family))
-        askSize(node);
+    if (asksLate(m_family))
+        askStatesAndSize(node);
     addChildren(node, children);
 }
 

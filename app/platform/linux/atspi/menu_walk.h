@@ -26,10 +26,10 @@ class MenuWalk {
     void start(const ObjectRef& menuBar);
 
     /// The top-level menus, as far as they were read, without what the application hides and all that is
-    /// below it. Of Qt's items only those that would be commands are known to be hidden; where all menus of
-    /// the bar are, it is drawn by something else, and none counts as hidden. Untitled items (separators)
-    /// have nothing but children, and those that hold others have no key equivalent: neither can be a
-    /// command.
+    /// below it. Untitled items (separators) have nothing but children, and those that hold others have no
+    /// key equivalent: neither can be a command. Qt's items that have no key equivalent and hold no others
+    /// count as enabled and not hidden, whatever they are; where all menus of a Qt bar are hidden, it is
+    /// drawn by something else, and none counts as hidden.
     std::vector<RawMenuItem> menuBar() const;
     /// Whether every object of the outline was met, but for those below menus that are hidden or too deep to
     /// be read. When not, some object has children without being a menu. True without an outline.
@@ -59,7 +59,7 @@ class MenuWalk {
     void learnFromOutline(Node& node);
     void askName(Node& node);
     void askStates(Node& node);
-    void askSize(Node& node);
+    void askStatesAndSize(Node& node);
     bool isTooDeep(const Node& node) const { return node.depth > m_limits.depth; }
     bool staysShut(const Node& node) const { return node.isHidden || isTooDeep(node); }
     bool mayOpen(const Node& node);

@@ -14,20 +14,22 @@ using nlohmann::json;
 
 std::vector<RawMenuItem> itemsOf(const json& list, atspi::ToolkitFamily family, int depth, int deepest);
 
-/// GTK's items tell by a state that nobody sees them, Qt's by having no size, which only those that would be
-/// commands and those that hold others are asked for.
+/// Of Qt's items only those that would be commands and those that hold others are asked for everything.
+bool matters(const json& recorded, const RawMenuItem& item, atspi::ToolkitFamily family) {
+    return family != atspi::ToolkitFamily::qt || item.shortcut() || !recorded.at("children").empty();
+}
+
+/// GTK's items tell by a state that nobody sees them, Qt's by having no size.
 bool isHidden(const json& recorded, const RawMenuItem& item, atspi::ToolkitFamily family) {
     if (family == atspi::ToolkitFamily::gtk)
         return !recorded.at("visible").get<bool>();
-    const bool matters = item.shortcut() || !recorded.at("children").empty();
-    return family == atspi::ToolkitFamily::qt && matters && recorded.at("size").at(1) == 0;
+    return family == atspi::ToolkitFamily::qt && matters(recorded, item, family)
+           && recorded.at("size").at(1) == 0;
 }
 
 RawMenuItem itemOf(const json& recorded, atspi::ToolkitFamily family, int depth, int deepest) {
     RawMenuItem item;
     item.title = recorded.at("name").get<std::string>();
-    if (!item.title.empty())
-        item.enabled = recorded.at("enabled").get<bool>() && recorded.at("sensitive").get<bool>();
     if (depth <= deepest)
         item.children = itemsOf(recorded.at("children"), family, depth + 1, deepest);
     if (item.children.empty() && !item.title.empty()) {
@@ -38,6 +40,8 @@ RawMenuItem itemOf(const json& recorded, atspi::ToolkitFamily family, int depth,
         item.cmdGlyph = equivalent.glyph;
         item.cmdVirtualKey = equivalent.virtualKey;
     }
+    if (!item.title.empty() && matters(recorded, item, family))
+        item.enabled = recorded.at("enabled").get<bool>() && recorded.at("sensitive").get<bool>();
     return item;
 }
 
