@@ -1,3 +1,4 @@
+#include "cap_pictures.h"
 #include "scenes.h"
 
 #include <quillon/app/views/components/text.h>
@@ -73,6 +74,18 @@ int drawAll(const QString& folder, const QString& only, Look look) {
     return 0;
 }
 
+int drawCaps(const QString& folder, const Look& look) {
+    const Theme theme = Theme::fromLook(look, QApplication::font());
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+        const QString path = QDir(folder).filePath(u"key-caps-%1x.png"_s.arg(ratio));
+        if (!capPicture(theme, ratio, 4).save(path)) {
+            QTextStream(stderr) << "cannot draw " << path << Qt::endl;
+            return 1;
+        }
+    }
+    return 0;
+}
+
 } // namespace
 
 } // namespace quillon
@@ -86,7 +99,8 @@ int main(int argc, char** argv) {
     const QCommandLineOption only(u"only"_s, u"Only pictures whose name contains this."_s, u"text"_s);
     const QCommandLineOption family(u"font"_s, u"The desktop's interface font."_s, u"family"_s);
     const QCommandLineOption points(u"points"_s, u"Its size."_s, u"points"_s);
-    parser.addOptions({only, family, points});
+    const QCommandLineOption caps(u"caps"_s, u"Only the key caps, enlarged, at four scales."_s);
+    parser.addOptions({only, family, points, caps});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1 || !QDir().mkpath(parser.positionalArguments().first()))
@@ -97,5 +111,7 @@ int main(int argc, char** argv) {
         look.fontFamily = utf8(parser.value(family));
     if (parser.isSet(points))
         look.fontPoints = parser.value(points).toDouble();
+    if (parser.isSet(caps))
+        return drawCaps(parser.positionalArguments().first(), look);
     return drawAll(parser.positionalArguments().first(), parser.value(only), look);
 }
