@@ -1,5 +1,8 @@
 #include "key_caps.h"
 
+#include "device_pixels.h"
+#include "ink.h"
+#include "key_pictograms.h"
 #include "text.h"
 
 #include <algorithm>
@@ -15,10 +18,8 @@ constexpr double cornerRadius = 5;
 constexpr double borderWidth = 0.5;
 constexpr double paddingPerSize = 0.35;
 constexpr double smallestWidthPerSize = 1.7;
-/// A cap with one letter is square.
-constexpr double heightPerSize = 1.7;
-/// Symbols are drawn a little larger than letters to look of one size with them.
-constexpr double symbolScale = 1.16;
+/// Lower than wide, so that lines of text with caps in them stand hardly further apart than others.
+constexpr double heightPerSize = 1.55;
 
 double widestDigitOf(const QFontMetricsF& metrics) {
     double widest = 0;
@@ -27,15 +28,9 @@ double widestDigitOf(const QFontMetricsF& metrics) {
     return widest;
 }
 
-/// Whether the cap shows one of the key symbols (⌘, ⌫, ↩ …) instead of a letter or word.
-bool isSymbol(const QString& cap) {
-    return cap.size() == 1 && cap.at(0).unicode() >= 0x2190 && cap.at(0).unicode() <= 0x23ff;
-}
-
-QFont symbolFont(const QFont& font, double size) {
-    QFont symbols = atSize(font, size);
-    symbols.setFamilies({QStringLiteral("DejaVu Sans")});
-    return symbols;
+/// Where a picture begins so that the ink in it, from `begin` to `end`, is in the middle of `room` pixels.
+int middled(double room, double begin, double end) {
+    return static_cast<int>(std::lround((room - begin - end) / 2));
 }
 
 } // namespace
@@ -54,14 +49,14 @@ QStringList capTexts(const Shortcut& shortcut) {
 
 KeyCaps::KeyCaps(const Theme& theme, double size, CapEmphasis emphasis)
     : m_palette(theme.palette), m_font(semibold(atSize(theme.styles.body, size))), m_metrics(m_font),
-      m_symbolFont(symbolFont(m_font, size * symbolScale)), m_symbolMetrics(m_symbolFont), m_size(size),
-      m_emphasis(emphasis), m_height(std::ceil(std::max(heightPerSize * size, m_metrics.height()))),
-      m_baseline(std::round((m_height - m_metrics.capHeight()) / 2 + m_metrics.capHeight())),
+      m_size(size), m_emphasis(emphasis),
+      m_height(std::ceil(std::max(heightPerSize * size, m_metrics.capHeight()))),
+      m_baseline(std::round((m_height + m_metrics.capHeight()) / 2)),
       m_widestDigit(widestDigitOf(m_metrics)) {}
 
-double KeyCaps::textWidth(const QString& cap) const {
-    if (isSymbol(cap))
-        return m_symbolMetrics.tightBoundingRect(cap).width();
+double KeyCaps::inkWidth(const QString& cap) const {
+    if (KeyPictograms::has(cap))
+        return KeyPictograms::widthPerSize(cap) * m_size;
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     QString others = cap;
     const qsizetype digits = cap.size() - others.removeIf(isDigit).size();
@@ -69,7 +64,7 @@ double KeyCaps::textWidth(const QString& cap) const {
 }
 
 double KeyCaps::capWidth(const QString& cap) const {
-    return std::ceil(std::max(textWidth(cap) + 2 * paddingPerSize * m_size, smallestWidthPerSize * m_size));
+    return std::ceil(std::max(inkWidth(cap) + 2 * paddingPerSize * m_size, smallestWidthPerSize * m_size));
 }
 
 double KeyCaps::width(const Shortcut& shortcut) const {
@@ -84,33 +79,41 @@ double KeyCaps::width(const Shortcut& shortcut) const {
 }
 
 QPixmap KeyCaps::drawCap(const QString& cap, double ratio) const {
-    const QSizeF size(capWidth(cap), m_height);
-    QPixmap pixmap((size * ratio).toSize());
-    pixmap.setDevicePixelRatio(ratio);
+    const QSize size = (QSizeF(capWidth(cap), m_height) * ratio).toSize();
+    QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool prominent = m_emphasis == CapEmphasis::prominent;
+    const double border = borderWidth * ratio;
+    const double radius = cornerRadius * ratio;
     painter.setBrush(m_palette.primaryAt(prominent ? 0.16 : 0.07));
-    painter.setPen(QPen(m_palette.primaryAt(0.14), borderWidth));
-    const double inset = borderWidth / 2;
-    painter.drawRoundedRect(
-        QRectF(QPointF(0, 0), size).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
-    drawText(painter, cap, size.width());
+    painter.setPen(QPen(m_palette.primaryAt(0.14), border));
+    const double inset = border / 2;
+    painter.drawRoundedRect(QRectF(pixmap.rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
+    drawInk(painter, cap, size, ratio);
+    painter.end();
+    pixmap.setDevicePixelRatio(ratio);
     return pixmap;
 }
 
-void KeyCaps::drawText(QPainter& painter, const QString& cap, double width) const {
-    painter.setPen(m_palette.primary);
-    if (isSymbol(cap)) {
-        // Symbols have no common line to stand on: each is centred by what is seen of it.
-        const QRectF ink = m_symbolMetrics.tightBoundingRect(cap);
-        painter.setFont(m_symbolFont);
-        painter.drawText(QPointF(width / 2, m_height / 2) - ink.center(), cap);
-    } else {
-        painter.setFont(m_font);
-        painter.drawText(QPointF((width - m_metrics.horizontalAdvance(cap)) / 2, m_baseline), cap);
-    }
+Ink KeyCaps::inkOf(const QString& cap, double ratio) const {
+    if (!KeyPictograms::has(cap))
+        return Ink::ofText(cap, m_font, m_palette.primary, ratio);
+    const KeyPictograms::Drawing drawing = KeyPictograms::drawing(cap, m_size * ratio);
+    return Ink::ofPath(drawing.path, drawing.size, m_palette.primary);
+}
+
+void KeyCaps::drawInk(QPainter& painter, const QString& cap, QSize room, double ratio) const {
+    const Ink ink = inkOf(cap, ratio);
+    const bool isOnLine = !KeyPictograms::has(cap) && standsOnLine(cap);
+    // Of what stands on the line, capitals are in the middle.
+    const QRectF height = isOnLine ? inkOf(QStringLiteral("H"), ratio).bounds : ink.bounds;
+    painter.drawImage(
+        QPoint(
+            middled(room.width(), ink.bounds.left(), ink.bounds.right()),
+            middled(room.height(), height.top(), height.bottom())),
+        ink.image);
 }
 
 const QPixmap& KeyCaps::capPixmap(const QString& cap, double ratio) const {
@@ -126,12 +129,10 @@ const QPixmap& KeyCaps::capPixmap(const QString& cap, double ratio) const {
 
 void KeyCaps::paint(QPainter& painter, QPointF topLeft, const Shortcut& shortcut) const {
     const double ratio = painter.device()->devicePixelRatioF();
-    double x = std::round(topLeft.x() * ratio) / ratio;
-    const double y = std::round(topLeft.y() * ratio) / ratio;
+    QPointF at = topLeft;
     for (const QString& cap : capTexts(shortcut)) {
-        const QPixmap& pixmap = capPixmap(cap, ratio);
-        painter.drawPixmap(QPointF(x, y), pixmap);
-        x += pixmap.deviceIndependentSize().width() + gap;
+        painter.drawPixmap(onDevicePixel(painter, at), capPixmap(cap, ratio));
+        at.rx() += capWidth(cap) + gap;
     }
 }
 

@@ -14,16 +14,19 @@
 
 namespace quillon {
 
-/// What each cap of a shortcut shows: one per modifier in the order ⌃⌥⇧⌘, then the key.
+/// What each cap of a shortcut shows: one per modifier in the order ⌃⌥⇧⌘, then the key. Signs among them are
+/// drawn as the program's own pictograms.
 QStringList capTexts(const Shortcut& shortcut);
+
+struct Ink;
 
 enum class CapEmphasis {
     plain,
     prominent ///< stronger fill, for the shortcut that is being taught
 };
 
-/// Measures and draws shortcuts as rows of key caps, in one size and theme. Remembers what it has measured
-/// and drawn.
+/// Measures and draws shortcuts as rows of key caps, in one size and theme. Each cap shows its ink in its
+/// middle, whatever room its font leaves around it. Remembers what it has measured and drawn.
 class KeyCaps {
   public:
     /// `size` is the caps' font size in logical pixels; every other measure scales from it.
@@ -39,16 +42,15 @@ class KeyCaps {
 
   private:
     double capWidth(const QString& cap) const;
-    double textWidth(const QString& cap) const;
-    void drawText(QPainter& painter, const QString& cap, double width) const;
+    double inkWidth(const QString& cap) const;
+    Ink inkOf(const QString& cap, double ratio) const;
+    void drawInk(QPainter& painter, const QString& cap, QSize room, double ratio) const;
     const QPixmap& capPixmap(const QString& cap, double ratio) const;
     QPixmap drawCap(const QString& cap, double ratio) const;
 
     Palette m_palette;
     QFont m_font;
     QFontMetricsF m_metrics;
-    QFont m_symbolFont; ///< of one family, so that all symbols are of one hand
-    QFontMetricsF m_symbolMetrics;
     double m_size;
     CapEmphasis m_emphasis;
     double m_height;

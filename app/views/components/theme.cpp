@@ -8,7 +8,7 @@
 namespace quillon {
 
 double Theme::keySize() const {
-    return std::max(6.0, std::round(pixelSize(styles.body) * 0.8));
+    return std::max(6.0, std::round(pixelSize(styles.body)));
 }
 
 int Theme::symbolSize() const {

@@ -35,12 +35,13 @@ TEST_F(KeyCapsTest, AKeyAloneIsOneCap) {
     EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::delete_)}), QStringList{u"⌫"_s});
 }
 
-TEST_F(KeyCapsTest, CapsAreThreeApartAndAtLeastSquare) {
+TEST_F(KeyCapsTest, CapsAreThreeApartAndNeverHigherThanWide) {
     constexpr double size = 20;
     const KeyCaps caps(themes.theme(), size);
     EXPECT_EQ(caps.width({{}, Key::character("I")}), 1.7 * size);
     EXPECT_EQ(caps.width({Modifiers::command, Key::character("I")}), 2 * 1.7 * size + 3);
-    EXPECT_GE(caps.height(), 1.7 * size);
+    EXPECT_GE(caps.height(), 1.5 * size);
+    EXPECT_LE(caps.height(), 1.7 * size);
 }
 
 TEST_F(KeyCapsTest, LongKeysHavePaddingOnBothSides) {
@@ -93,6 +94,10 @@ TEST_F(KeyCapsTest, NothingIsDrawnBeyondTheMeasuredSize) {
         }
         EXPECT_GT(qAlpha(image.pixel(inside.left() + 4, inside.center().y())), 0);
     }
+}
+
+TEST_F(KeyCapsTest, TheTextOfCapsIsAsLargeAsTheTextBesideThem) {
+    EXPECT_EQ(themes.theme().keySize(), pixelSize(themes.theme().styles.body));
 }
 
 TEST_F(KeyCapsTest, ProminentCapsAreFilledMoreStrongly) {
