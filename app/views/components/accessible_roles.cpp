@@ -1,15 +1,14 @@
 #include "accessible_roles.h"
 
-#include "app_icon_view.h"
-#include "keys_view.h"
-#include "symbol_view.h"
-
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QVariant>
 
 namespace quillon {
 
 namespace {
+
+constexpr const char* roleProperty = "quillonReadAs";
 
 /// Decoration: there, but nothing to read.
 class HiddenAccessible : public QAccessibleWidget {
@@ -26,24 +25,49 @@ class HiddenAccessible : public QAccessibleWidget {
     int childCount() const override { return 0; }
 };
 
-QAccessibleInterface* accessibleFor(const QString& className, QObject* object) {
+/// The element inside of it that has the focus is the one that tells so.
+class GroupAccessible : public QAccessibleWidget {
+  public:
+    explicit GroupAccessible(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.focused = false;
+        state.focusable = false;
+        return state;
+    }
+};
+
+class PanelAccessible : public QAccessibleWidget {
+  public:
+    explicit PanelAccessible(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Dialog) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const QString own = QAccessibleWidget::text(kind);
+        const QAccessibleInterface* content = childCount() > 0 ? child(0) : nullptr;
+        return own.isEmpty() && content ? content->text(kind) : own;
+    }
+};
+
+QAccessibleInterface* accessibleFor(const QString&, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
-    if (!widget)
+    const QVariant role = widget ? widget->property(roleProperty) : QVariant();
+    if (!role.isValid())
         return nullptr;
-    const auto isClass = [&](const QMetaObject& meta) {
-        return className == QLatin1StringView(meta.className());
-    };
-    if (isClass(KeysView::staticMetaObject))
-        return new QAccessibleWidget(widget, QAccessible::StaticText);
-    if (isClass(SymbolView::staticMetaObject) || isClass(AppIconView::staticMetaObject))
-        return new HiddenAccessible(widget);
-    return nullptr;
+    switch (static_cast<ReadAs>(role.toInt())) {
+    case ReadAs::text: return new QAccessibleWidget(widget, QAccessible::StaticText);
+    case ReadAs::decoration: return new HiddenAccessible(widget);
+    case ReadAs::group: return new GroupAccessible(widget);
+    case ReadAs::panel: return new PanelAccessible(widget);
+    }
+    Q_UNREACHABLE();
 }
 
 } // namespace
 
-void installAccessibleRoles() {
-    QAccessible::installFactory(accessibleFor);
+void readAs(QWidget& widget, ReadAs role) {
+    QAccessible::installFactory(accessibleFor); // more than once does no harm
+    widget.setProperty(roleProperty, static_cast<int>(role));
 }
 
 } // namespace quillon

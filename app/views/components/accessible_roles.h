@@ -1,9 +1,18 @@
 #pragma once
 
+#include <QWidget>
+
 namespace quillon {
 
-/// Tells the toolkit how screen readers see the shared components: key caps are one text, symbols and icons
-/// are no part of what is read. Each component asks for it; more than once does no harm.
-void installAccessibleRoles();
+/// What a widget is to a screen reader.
+enum class ReadAs {
+    text,       ///< one text, by its name
+    decoration, ///< nothing to read
+    group,      ///< holds other elements and never has the focus itself
+    panel,      ///< a window of its own that bears the name of what it holds
+};
+
+/// To be said first thing when the widget is made.
+void readAs(QWidget& widget, ReadAs role);
 
 } // namespace quillon

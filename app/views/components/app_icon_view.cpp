@@ -17,7 +17,7 @@ constexpr double placeholderRadiusPerSize = 0.22;
 
 AppIconView::AppIconView(ThemeSource& themes, AppIconCache& icons, int size, QWidget* parent)
     : ThemedWidget(themes, parent), m_icons(icons), m_size(size) {
-    installAccessibleRoles();
+    readAs(*this, ReadAs::decoration);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -13,7 +13,7 @@ KeysView::KeysView(
     QWidget* parent)
     : ThemedWidget(themeSource, parent), m_shortcut(std::move(shortcut)), m_size(size), m_emphasis(emphasis),
       m_caps(theme(), size, emphasis) {
-    installAccessibleRoles();
+    readAs(*this, ReadAs::text);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     if (m_shortcut)
         setAccessibleName(text(m_shortcut->display()));

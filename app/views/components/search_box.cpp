@@ -1,5 +1,6 @@
 #include "search_box.h"
 
+#include "accessible_roles.h"
 #include "styled_menu.h"
 
 #include <QContextMenuEvent>
@@ -31,6 +32,7 @@ SearchBox::SearchBox(ThemeSource& themeSource, const QString& prompt, QWidget* p
       m_magnifier(new SymbolView(
           themeSource, Symbol::magnifyingGlass, theme().symbolSize(), &Palette::secondary, this)),
       m_field(new QLineEdit(this)), m_clear(new QToolButton(this)) {
+    readAs(*this, ReadAs::group);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(horizontalPadding, verticalPadding, horizontalPadding, verticalPadding);
     row->setSpacing(spacing);
@@ -47,14 +49,14 @@ SearchBox::SearchBox(ThemeSource& themeSource, const QString& prompt, QWidget* p
 
     m_clear->setAutoRaise(true);
     m_clear->setFocusPolicy(Qt::NoFocus);
-    m_clear->setAccessibleName(u"Clear search"_s);
+    m_clear->setAccessibleName(QCoreApplication::translate("SearchBox", "Clear search"));
     m_clear->setCursor(Qt::ArrowCursor);
     m_clear->setStyleSheet(u"QToolButton { border: none; padding: 0; background: transparent; }"_s);
     m_clear->hide();
     connect(m_clear, &QToolButton::clicked, this, &SearchBox::clear);
 
     setFocusProxy(m_field);
-    follow();
+    wearTheme();
 }
 
 void SearchBox::setText(const QString& text) {
@@ -81,7 +83,7 @@ void SearchBox::followText(const QString& text) {
     m_clear->setVisible(!text.isEmpty());
 }
 
-void SearchBox::follow() {
+void SearchBox::wearTheme() {
     m_field->setFont(theme().styles.body);
     QPalette colours = theme().palette.forToolkit();
     colours.setColor(QPalette::Base, Qt::transparent);
@@ -94,7 +96,7 @@ void SearchBox::follow() {
 }
 
 void SearchBox::themeChanged() {
-    follow();
+    wearTheme();
     ThemedWidget::themeChanged();
 }
 

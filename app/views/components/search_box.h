@@ -43,7 +43,7 @@ class SearchBox : public ThemedWidget {
 
   private:
     void followText(const QString& text);
-    void follow();
+    void wearTheme();
     void clear();
     void showMenu(const QPoint& globalPosition);
 

@@ -1,6 +1,7 @@
 #include "symbol_view.h"
 
 #include "accessible_roles.h"
+#include "device_pixels.h"
 
 #include <QPainter>
 
@@ -8,7 +9,7 @@ namespace quillon {
 
 SymbolView::SymbolView(ThemeSource& themes, Symbol symbol, int size, QColor Palette::*colour, QWidget* parent)
     : ThemedWidget(themes, parent), m_symbol(symbol), m_size(size), m_colour(colour) {
-    installAccessibleRoles();
+    readAs(*this, ReadAs::decoration);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -26,9 +27,10 @@ void SymbolView::setSize(int size) {
 
 void SymbolView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QPoint origin((width() - m_size) / 2, (height() - m_size) / 2);
+    const QPointF origin((width() - m_size) / 2, (height() - m_size) / 2);
     painter.drawPixmap(
-        origin, symbolPixmap(m_symbol, m_size, theme().palette.*m_colour, devicePixelRatioF()));
+        onDevicePixel(painter, origin),
+        symbolPixmap(m_symbol, m_size, theme().palette.*m_colour, devicePixelRatioF()));
 }
 
 } // namespace quillon

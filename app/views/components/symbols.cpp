@@ -1,5 +1,7 @@
 #include "symbols.h"
 
+#include "keyboard_symbol.h"
+
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
@@ -64,6 +66,8 @@ QPixmap symbolPixmap(Symbol symbol, int size, const QColor& colour, double ratio
                             .arg(colour.rgba(), 8, 16)
                             .arg(std::lround(ratio * 1000));
     return kept(key, [&] {
+        if (symbol == Symbol::keyboard)
+            return tinted(keyboardPicture(size, ratio), colour);
         return tinted(rendered(u":/quillon/symbols/"_s + name + u".svg"_s, size, ratio), colour);
     });
 }

@@ -9,7 +9,7 @@ ThemeSource::ThemeSource(Appearance& appearance)
     : m_appearance(appearance), m_toolkitFont(QApplication::font()),
       m_toolkitPalette(QApplication::palette()), m_theme(Theme::fromLook(appearance.look(), m_toolkitFont)) {
     applyToToolkit();
-    m_subscription = appearance.onChanged([this] { follow(); });
+    m_subscription = appearance.onChanged([this] { lookChanged(); });
 }
 
 ThemeSource::~ThemeSource() {
@@ -17,7 +17,7 @@ ThemeSource::~ThemeSource() {
     QApplication::setPalette(m_toolkitPalette);
 }
 
-void ThemeSource::follow() {
+void ThemeSource::lookChanged() {
     Theme theme = Theme::fromLook(m_appearance.look(), m_toolkitFont);
     if (theme == m_theme)
         return;

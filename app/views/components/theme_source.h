@@ -23,7 +23,7 @@ class ThemeSource {
     Event<> changed;
 
   private:
-    void follow();
+    void lookChanged();
     void applyToToolkit() const;
 
     Appearance& m_appearance;

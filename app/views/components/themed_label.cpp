@@ -11,11 +11,11 @@ namespace quillon {
 ThemedLabel::ThemedLabel(ThemeSource& themes, FontChoice font, QColor Palette::*colour, QWidget* parent)
     : QLabel(parent), m_themes(themes), m_font(std::move(font)), m_colour(colour) {
     setTextFormat(Qt::PlainText);
-    m_subscription = themes.changed.subscribe([this] { follow(); });
-    follow();
+    m_subscription = themes.changed.subscribe([this] { themeChanged(); });
+    themeChanged();
 }
 
-void ThemedLabel::follow() {
+void ThemedLabel::themeChanged() {
     const Theme& theme = m_themes.theme();
     setFont(m_font(theme.styles));
     QPalette colours = palette();
@@ -25,6 +25,25 @@ void ThemedLabel::follow() {
 
 bool ThemedLabel::isElided() const {
     return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+void ThemedLabel::setShortenedPart(TextPart part) {
+    m_shortenedPart = part;
+    update();
+}
+
+QString ThemedLabel::shownText() const {
+    if (!isElided())
+        return text();
+    const QFontMetrics metrics = fontMetrics();
+    const int room = contentsRect().width();
+    const auto [start, length] = m_shortenedPart;
+    const QString before = text().left(start);
+    const QString after = text().mid(start + length);
+    const int partRoom = room - metrics.horizontalAdvance(before + after);
+    if (length == 0 || partRoom <= 0)
+        return metrics.elidedText(text(), Qt::ElideRight, room);
+    return before + metrics.elidedText(text().mid(start, length), Qt::ElideRight, partRoom) + after;
 }
 
 QSize ThemedLabel::minimumSizeHint() const {
@@ -42,8 +61,7 @@ void ThemedLabel::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     const QRect rect = contentsRect();
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, rect.width());
-    painter.drawText(rect, static_cast<int>(alignment()) | Qt::TextSingleLine, shown);
+    painter.drawText(rect, static_cast<int>(alignment()) | Qt::TextSingleLine, shownText());
 }
 
 bool ThemedLabel::event(QEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text_part.h"
 #include "theme_source.h"
 
 #include <QLabel>
@@ -18,6 +19,12 @@ class ThemedLabel : public QLabel {
 
     ThemedLabel(ThemeSource& themes, FontChoice font, QColor Palette::*colour, QWidget* parent = nullptr);
 
+    /// Where the text does not fit, this part of it is shortened instead of its end; an empty part for none.
+    void setShortenedPart(TextPart part);
+
+    /// The text as it is shown in the room that it has.
+    QString shownText() const;
+
     QSize minimumSizeHint() const override;
 
   protected:
@@ -25,12 +32,13 @@ class ThemedLabel : public QLabel {
     bool event(QEvent* event) override;
 
   private:
-    void follow();
+    void themeChanged();
     bool isElided() const;
 
     ThemeSource& m_themes;
     FontChoice m_font;
     QColor Palette::*m_colour;
+    TextPart m_shortenedPart;
     Subscription m_subscription;
 };
 

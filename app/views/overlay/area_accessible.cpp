@@ -64,9 +64,7 @@ class ItemAccessible : public QAccessibleInterface, public QAccessibleActionInte
             return {};
         if (m_item.kind == ItemKind::row)
             return m_area->spokenRow(m_item.position);
-        const HeadingBox& heading = m_area->layout().headings[m_item.position];
-        const AreaCard& card = m_area->content().cards[heading.card];
-        return heading.kind == HeadingBox::Kind::card ? card.title : card.sections[heading.section].caption;
+        return m_area->layout().headings[m_item.position].text(m_area->content());
     }
     void setText(QAccessible::Text, const QString&) override {}
 
@@ -92,7 +90,7 @@ class ItemAccessible : public QAccessibleInterface, public QAccessibleActionInte
         if (m_item.kind == ItemKind::row) {
             state.focusable = true;
             state.focused = m_area->hasFocus() && m_area->currentRow() == m_item.position;
-            state.disabled = false;
+            state.disabled = !m_area->isEnabledRow(m_item.position);
         }
         return state;
     }
@@ -133,6 +131,13 @@ class AreaAccessible : public QAccessibleWidget {
     ~AreaAccessible() override { forget(); }
 
     int childCount() const override { return static_cast<int>(items().size()); }
+
+    /// The focus is told by the row that has it.
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.focused = state.focused && !m_area->currentRow();
+        return state;
+    }
 
     QAccessibleInterface* child(int index) const override {
         const std::vector<Item>& all = items();

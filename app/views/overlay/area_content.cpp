@@ -1,10 +1,10 @@
 #include "area_content.h"
 
+#include "overlay_texts.h"
+
 #include <utility>
 
 namespace quillon {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,7 +19,10 @@ std::optional<AreaCard> pinnedCard(const PreparedSheet& sheet, std::span<const s
     if (section.rows.empty())
         return std::nullopt;
     return AreaCard{
-        .title = u"Pinned"_s, .icon = Symbol::pinFill, .shape = CardShape::wide, .sections = {section}};
+        .title = OverlayTexts::pinned(),
+        .icon = Symbol::pinFill,
+        .shape = CardShape::wide,
+        .sections = {section}};
 }
 
 void append(AreaCard& card, const PreparedEntry& entry, std::size_t position) {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "prepared_sheet.h"
-
 #include <quillon/app/views/components/symbols.h>
+#include <quillon/app/views/sheet/prepared_sheet.h>
 
 #include <QString>
 

@@ -22,6 +22,12 @@ constexpr double dividerMargin = 5;
 constexpr double dividerHeight = 1;
 constexpr std::size_t wideColumns = 3;
 constexpr double wideColumnGap = 18;
+static_assert(wideColumns == Masonry::overlayColumns, "the wide card's grid stands above the columns");
+
+double columnWidth(double areaWidth) {
+    constexpr auto columns = static_cast<double>(Masonry::overlayColumns);
+    return std::floor((areaWidth - (columns - 1) * cardGap) / columns);
+}
 
 /// Lays cards out one by one.
 class Builder {
@@ -51,7 +57,8 @@ class Builder {
     double placeTitle(std::size_t card, const QRectF& inner) {
         const QRectF rect(
             inner.x() + rowInset, inner.y(), inner.width() - 2 * rowInset, m_measure.heading.lineHeight());
-        m_layout.headings.push_back({HeadingBox::Kind::card, rect, card, 0});
+        const double icon = m_content.cards[card].icon ? headingIconSize(m_measure) + partGap : 0;
+        m_layout.headings.push_back({HeadingBox::Kind::card, rect, card, 0, rect.left() + icon});
         return rect.bottom();
     }
 
@@ -63,7 +70,11 @@ class Builder {
             for (const std::size_t entry : sections[i].rows) {
                 const double height = arranger.height(m_sheet.entries[entry], SubmenuInRow::hidden);
                 m_layout.rows.push_back(
-                    {QRectF(inner.x(), y, inner.width(), height), card, entry, SubmenuInRow::hidden, column});
+                    {.rect = QRectF(inner.x(), y, inner.width(), height),
+                     .card = card,
+                     .entry = entry,
+                     .submenu = SubmenuInRow::hidden,
+                     .column = column});
                 y += height;
             }
         }
@@ -75,7 +86,7 @@ class Builder {
         const double width = inner.width() - 2 * rowInset;
         if (!m_content.cards[card].sections[section].caption.isEmpty()) {
             const QRectF rect(left, y + captionTop, width, m_measure.caption.lineHeight());
-            m_layout.headings.push_back({HeadingBox::Kind::submenu, rect, card, section});
+            m_layout.headings.push_back({HeadingBox::Kind::submenu, rect, card, section, left});
             return rect.bottom() + captionBottom;
         }
         if (section == 0)
@@ -84,9 +95,14 @@ class Builder {
         return y + 2 * dividerMargin + dividerHeight;
     }
 
+    /// The rows' parts stand above those of the columns below, whose cards are further apart than the grid's
+    /// columns.
     double placeGrid(std::size_t card, const QRectF& inner, double y) {
-        const double width = std::floor((inner.width() - (wideColumns - 1) * wideColumnGap) / wideColumns);
-        const RowArranger arranger(m_measure, width - 2 * rowInset);
+        const double step = columnWidth(m_layout.width) + cardGap;
+        const double width = step - wideColumnGap;
+        const double inset = rowInset + cardHorizontalPadding - (wideColumnGap - cardGap) / 2;
+        const double left = inner.x() + rowInset - inset;
+        const RowArranger arranger(m_measure, width - 2 * inset);
         std::size_t column = 0;
         double rowHeight = 0;
         for (const AreaSection& section : m_content.cards[card].sections) {
@@ -96,9 +112,9 @@ class Builder {
                     y += std::exchange(rowHeight, 0);
                 }
                 const double height = arranger.height(m_sheet.entries[entry], SubmenuInRow::shown);
-                const double x = inner.x() + static_cast<double>(column) * (width + wideColumnGap);
+                const double x = left + static_cast<double>(column) * step;
                 m_layout.rows.push_back(
-                    {QRectF(x, y, width, height), card, entry, SubmenuInRow::shown, column});
+                    {QRectF(x, y, width, height), card, entry, SubmenuInRow::shown, column, inset});
                 rowHeight = std::max(rowHeight, height);
                 ++column;
             }
@@ -129,6 +145,19 @@ std::vector<std::size_t> columnsOf(std::span<const AreaCard> cards) {
 
 } // namespace
 
+const QString& HeadingBox::text(const AreaContent& content) const {
+    const AreaCard& shown = content.cards[card];
+    return kind == Kind::card ? shown.title : shown.sections[section].caption;
+}
+
+const MeasuredFont& HeadingBox::font(const TextMeasure& measure) const {
+    return kind == Kind::card ? measure.heading : measure.caption;
+}
+
+int headingIconSize(const TextMeasure& measure) {
+    return static_cast<int>(std::ceil(measure.heading.metrics().capHeight() * 1.4));
+}
+
 AreaLayout AreaLayout::of(
     const AreaContent& content, const PreparedSheet& sheet, const TextMeasure& measure, double width) {
     AreaLayout layout;
@@ -144,15 +173,14 @@ AreaLayout AreaLayout::of(
         top += builder.place(card, QPointF(0, top), width, 0) + cardGap;
 
     constexpr std::size_t columns = Masonry::overlayColumns;
-    const double columnWidth = std::floor((width - (columns - 1) * cardGap) / columns);
     const std::vector<std::size_t> columnOf = columnsOf(std::span(content.cards).subspan(narrow));
     std::array<double, columns> bottoms;
     bottoms.fill(top);
     for (std::size_t group = 0; group < columnOf.size(); ++group) {
         const std::size_t column = columnOf[group];
-        const double x = static_cast<double>(column) * (columnWidth + cardGap);
+        const double x = static_cast<double>(column) * (columnWidth(width) + cardGap);
         bottoms[column] +=
-            builder.place(narrow + group, QPointF(x, bottoms[column]), columnWidth, column) + cardGap;
+            builder.place(narrow + group, QPointF(x, bottoms[column]), columnWidth(width), column) + cardGap;
     }
     const double bottom = std::ranges::max(bottoms);
     layout.height = std::max(0.0, bottom - cardGap);

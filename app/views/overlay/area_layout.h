@@ -10,6 +10,9 @@
 
 namespace quillon {
 
+/// Inside of a row's box, left and right of what is arranged.
+inline constexpr double rowInset = 6;
+
 /// A row's place in the content.
 struct RowBox {
     QRectF rect;           ///< what lights up under the pointer
@@ -17,7 +20,10 @@ struct RowBox {
     std::size_t entry = 0; ///< position in `PreparedSheet::entries`
     SubmenuInRow submenu = SubmenuInRow::hidden;
     std::size_t column = 0; ///< of the masonry or of the wide card's grid, from the leading side
+    double inset = rowInset;
 
+    /// Where its parts are arranged.
+    QRectF inner() const { return rect.adjusted(inset, 0, -inset, 0); }
     bool operator==(const RowBox&) const = default;
 };
 
@@ -28,7 +34,10 @@ struct HeadingBox {
     QRectF rect;
     std::size_t card = 0;
     std::size_t section = 0; ///< of a submenu
+    double textLeft = 0;     ///< beside the icon, if there is one
 
+    const QString& text(const AreaContent& content) const;
+    const MeasuredFont& font(const TextMeasure& measure) const;
     bool operator==(const HeadingBox&) const = default;
 };
 
@@ -68,7 +77,7 @@ struct AreaLayout {
     bool operator==(const AreaLayout&) const = default;
 };
 
-/// Inside of a row's box, left and right of what is arranged.
-inline constexpr double rowInset = 6;
+/// The size of the icon beside a card's title, in logical pixels.
+int headingIconSize(const TextMeasure& measure);
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #include "area_painter.h"
 
+#include <quillon/app/views/components/device_pixels.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -26,7 +28,7 @@ void AreaPainter::paint(QPainter& painter, const QRectF& visible, const RowHighl
     paintCards(painter, visible);
     for (const DividerBox& divider : m_layout.dividers) {
         if (divider.rect.intersects(visible))
-            painter.fillRect(divider.rect, m_theme.palette.divider);
+            painter.fillRect(onDevicePixels(painter, divider.rect), m_theme.palette.divider);
     }
     paintHighlights(painter, highlights);
     for (const HeadingBox& heading : m_layout.headings) {
@@ -47,7 +49,7 @@ void AreaPainter::paintCards(QPainter& painter, const QRectF& visible) const {
     for (const CardBox& card : m_layout.cards) {
         if (!card.rect.intersects(visible))
             continue;
-        painter.fillRect(m_card.inside(card.rect), m_theme.palette.card);
+        painter.fillRect(m_card.inside(painter, card.rect), m_theme.palette.card);
         m_card.paintFrame(painter, card.rect);
     }
 }
@@ -68,33 +70,31 @@ void AreaPainter::paintHighlights(QPainter& painter, const RowHighlights& highli
 }
 
 void AreaPainter::paintHeading(QPainter& painter, const HeadingBox& heading) const {
-    const AreaCard& card = m_content.cards[heading.card];
     const bool isTitle = heading.kind == HeadingBox::Kind::card;
-    const MeasuredFont& font = isTitle ? m_measure.heading : m_measure.caption;
-    const QString& text = isTitle ? card.title : card.sections[heading.section].caption;
-    double left = heading.rect.left();
-    if (isTitle && card.icon) {
-        const int size = static_cast<int>(std::ceil(font.metrics().capHeight() * 1.4));
-        const QPointF origin(left, std::round(heading.rect.center().y() - size / 2.0));
+    const MeasuredFont& font = heading.font(m_measure);
+    const QString& text = heading.text(m_content);
+    if (const auto icon = m_content.cards[heading.card].icon; isTitle && icon) {
+        const int size = headingIconSize(m_measure);
+        const QPointF origin(heading.rect.left(), heading.rect.center().y() - size / 2.0);
         painter.drawPixmap(
-            origin,
-            symbolPixmap(*card.icon, size, m_theme.palette.pin, painter.device()->devicePixelRatioF()));
-        left += size + RowArranger::partGap;
+            onDevicePixel(painter, origin),
+            symbolPixmap(*icon, size, m_theme.palette.pin, painter.device()->devicePixelRatioF()));
     }
-    const double room = heading.rect.right() - left;
+    const double room = heading.rect.right() - heading.textLeft;
     const QString shown =
         font.width(text) > room ? font.metrics().elidedText(text, Qt::ElideRight, room) : text;
     painter.setFont(font.font());
     painter.setPen(isTitle ? m_theme.palette.primary : m_theme.palette.secondary);
-    painter.drawText(QPointF(left, heading.rect.top() + std::ceil(font.metrics().ascent())), shown);
+    painter.drawText(
+        QPointF(heading.textLeft, heading.rect.top() + std::ceil(font.metrics().ascent())), shown);
 }
 
 void AreaPainter::paintRow(QPainter& painter, const RowBox& row) const {
     const PreparedEntry& entry = m_sheet.entries[row.entry];
-    const RowArranger arranger(m_measure, row.rect.width() - 2 * rowInset);
-    painter.translate(row.rect.left() + rowInset, row.rect.top());
-    paintRowParts(painter, entry, arranger.arrange(entry, row.submenu));
-    painter.translate(-(row.rect.left() + rowInset), -row.rect.top());
+    const QRectF inner = row.inner();
+    painter.translate(inner.topLeft());
+    paintRowParts(painter, entry, RowArranger(m_measure, inner.width()).arrange(entry, row.submenu));
+    painter.translate(-inner.topLeft());
 }
 
 void AreaPainter::paintRowParts(
@@ -107,7 +107,9 @@ void AreaPainter::paintRowParts(
     if (parts.pin) {
         const double ratio = painter.device()->devicePixelRatioF();
         const int size = static_cast<int>(parts.pin->width());
-        painter.drawPixmap(parts.pin->topLeft(), symbolPixmap(Symbol::pinFill, size, palette.pin, ratio));
+        painter.drawPixmap(
+            onDevicePixel(painter, parts.pin->topLeft()),
+            symbolPixmap(Symbol::pinFill, size, palette.pin, ratio));
     }
     if (parts.badge) {
         const QRectF& pill = parts.badge->rect;

@@ -26,7 +26,8 @@ MessageView::MessageView(ThemeSource& themeSource, QWidget* parent)
     m_title->setAlignment(Qt::AlignCenter);
     m_body->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_body->setWordWrap(true);
-    m_body->setFixedWidth(widestBody);
+    m_body->setMaximumWidth(widestBody);
+    m_body->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_action->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(m_action, &QPushButton::clicked, this, &MessageView::actionPressed);
 
@@ -36,7 +37,7 @@ MessageView::MessageView(ThemeSource& themeSource, QWidget* parent)
     column->addStretch(4);
     column->addWidget(m_symbol, 0, Qt::AlignHCenter);
     column->addWidget(m_title);
-    column->addWidget(m_body, 0, Qt::AlignHCenter);
+    column->addWidget(m_body);
     column->addWidget(m_action, 0, Qt::AlignHCenter);
     column->addStretch(5);
 }
@@ -46,6 +47,7 @@ void MessageView::setMessage(const OverlayMessage& message) {
     if (message.symbol)
         m_symbol->setSymbol(*message.symbol);
     m_title->setText(message.title);
+    m_title->setShortenedPart(message.shortened);
     m_body->setText(message.body);
     fitBody();
     m_body->setVisible(!message.body.isEmpty());
@@ -54,7 +56,13 @@ void MessageView::setMessage(const OverlayMessage& message) {
 }
 
 void MessageView::fitBody() {
-    m_body->setFixedHeight(std::max(0, m_body->heightForWidth(widestBody)));
+    const int room = contentsRect().width() - 2 * padding;
+    m_body->setFixedHeight(std::max(0, m_body->heightForWidth(std::clamp(room, 1, widestBody))));
+}
+
+void MessageView::resizeEvent(QResizeEvent* event) {
+    fitBody();
+    ThemedWidget::resizeEvent(event);
 }
 
 void MessageView::themeChanged() {

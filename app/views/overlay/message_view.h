@@ -1,6 +1,6 @@
 #pragma once
 
-#include "overlay_state.h"
+#include "overlay_texts.h"
 
 #include <quillon/app/views/components/prominent_button.h>
 #include <quillon/app/views/components/symbol_view.h>
@@ -23,6 +23,7 @@ class MessageView : public ThemedWidget {
 
   protected:
     void themeChanged() override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void fitBody();

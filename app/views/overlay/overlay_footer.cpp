@@ -1,12 +1,12 @@
 #include "overlay_footer.h"
 
+#include "overlay_texts.h"
+
 #include <QHBoxLayout>
 
 #include <algorithm>
 
 namespace quillon {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,7 +30,7 @@ OverlayFooter::OverlayFooter(ThemeSource& themeSource, QWidget* parent)
           themeSource, [](const TextStyles& styles) { return semibold(styles.callout); }, &Palette::primary,
           this)),
       m_keys(new KeysView(themeSource, std::nullopt, theme().keySize(), CapEmphasis::plain, this)) {
-    m_mostClicked->setText(u"You click this one most:"_s);
+    m_mostClicked->setText(OverlayTexts::mostClicked());
 
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* row = new QHBoxLayout(this);
@@ -43,7 +43,7 @@ OverlayFooter::OverlayFooter(ThemeSource& themeSource, QWidget* parent)
     row->addWidget(m_command);
     row->addWidget(m_keys);
     setMostClicked(std::nullopt);
-    follow();
+    wearTheme();
 }
 
 void OverlayFooter::setHint(const QString& hint) {
@@ -73,7 +73,7 @@ void OverlayFooter::share() {
         m_command->setFixedWidth(std::min(wanted, room));
 }
 
-void OverlayFooter::follow() {
+void OverlayFooter::wearTheme() {
     m_symbol->setSize(theme().symbolSize());
     m_keys->setSize(theme().keySize());
     // The row keeps its height whether or not there are keys in it.
@@ -82,7 +82,7 @@ void OverlayFooter::follow() {
 }
 
 void OverlayFooter::themeChanged() {
-    follow();
+    wearTheme();
     ThemedWidget::themeChanged();
 }
 

@@ -32,7 +32,7 @@ class OverlayFooter : public ThemedWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void follow();
+    void wearTheme();
     void share();
 
     SymbolView* m_symbol;

@@ -25,6 +25,9 @@ class OverlayHeader : public QWidget {
     void setCount(const QString& line);
     SearchBox& search() { return *m_search; }
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     AppIconView* m_icon;
     ThemedLabel* m_name;

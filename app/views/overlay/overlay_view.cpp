@@ -1,5 +1,8 @@
 #include "overlay_view.h"
 
+#include "overlay_texts.h"
+
+#include <quillon/app/views/components/accessible_roles.h>
 #include <quillon/app/views/components/text.h>
 #include <quillon/app/views/components/thin_scroll_bar.h>
 
@@ -10,7 +13,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <numeric>
 #include <utility>
 
 namespace quillon {
@@ -25,16 +27,14 @@ constexpr int footerGap = 12;
 /// Soon after the overlay is on the screen, before anyone can have typed.
 constexpr std::chrono::milliseconds searchPreparationDelay{40};
 
-/// Whether two readings of menus came to the same.
-bool showTheSame(const std::optional<AppSheet>& a, const std::optional<AppSheet>& b) {
-    if (!a || !b)
-        return a.has_value() == b.has_value();
-    return a->bundleID == b->bundleID && a->appName == b->appName && a->entries == b->entries;
-}
-
-bool isTyping(const QKeyEvent& event) {
-    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    return !isCommand && !event.text().isEmpty() && event.text().at(0).isPrint();
+/// Keys that edit the search wherever the keyboard is.
+bool isForSearch(const QKeyEvent& event) {
+    const bool isOfDesktop = event.modifiers() & (Qt::AltModifier | Qt::MetaModifier);
+    if (event.key() == Qt::Key_Backspace)
+        return !isOfDesktop;
+    const bool isCommand = isOfDesktop || (event.modifiers() & Qt::ControlModifier);
+    return event.matches(QKeySequence::Paste)
+           || (!isCommand && !event.text().isEmpty() && event.text().at(0).isPrint());
 }
 
 } // namespace
@@ -44,6 +44,7 @@ OverlayView::OverlayView(
     : ThemedWidget(themeSource, parent), m_model(model), m_mode(mode),
       m_header(new OverlayHeader(themeSource, icons, this)), m_message(new MessageView(themeSource, this)),
       m_area(new ShortcutArea(themeSource, this)), m_footer(new OverlayFooter(themeSource, this)) {
+    readAs(*this, ReadAs::group);
     layOut();
     connectParts();
     for (QWidget* child : findChildren<QWidget*>())
@@ -51,7 +52,7 @@ OverlayView::OverlayView(
 
     m_prepareSearch.setSingleShot(true);
     m_prepareSearch.setInterval(searchPreparationDelay);
-    m_prepareSearch.callOnTimeout(this, [this] { searchIndex(); });
+    m_prepareSearch.callOnTimeout(this, [this] { m_sheet.prepareSearch(); });
     m_subscription = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
 }
 
@@ -69,6 +70,8 @@ void OverlayView::layOut() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, padding, 0, padding);
     column->setSpacing(0);
+    // Messages are in the middle of the panel, not of what the scroll bar leaves.
+    m_message->setContentsMargins(0, 0, thinScrollBarWidth, 0);
     m_header->setContentsMargins(padding, 0, padding, 0);
     m_footer->setContentsMargins(padding, 0, padding, 0);
     column->addWidget(m_header);
@@ -94,6 +97,7 @@ void OverlayView::connectParts() {
     connect(m_area, &ShortcutArea::libraryRequested, this, [this] {
         m_model.requestWindow(WindowName::library);
     });
+    connect(m_area, &ShortcutArea::leftUpwards, this, [this] { search().focus(); });
     connect(m_area, &ShortcutArea::rowMenuOpening, this, [this] {
         m_area->offerLibrary(m_model.offersWindow(WindowName::library));
         keepOpen();
@@ -106,9 +110,9 @@ QString OverlayView::triggerGlyph() const {
 
 void OverlayView::modelChanged(ModelField field) {
     switch (field) {
-    case ModelField::current: m_currentIsStale = true; break;
+    case ModelField::current: m_sheet.sheetMayDiffer(); break;
     case ModelField::annotations:
-    case ModelField::usage: m_recordsAreStale = true; break;
+    case ModelField::usage: m_sheet.recordsMayDiffer(); break;
     default: break;
     }
     if (!isVisible())
@@ -129,23 +133,8 @@ void OverlayView::refresh() {
 }
 
 void OverlayView::refreshSheet() {
-    const auto& current = m_model.current();
-    const bool isOther = std::exchange(m_currentIsStale, false) && !showTheSame(m_source, current);
-    const bool hasOtherRecords = std::exchange(m_recordsAreStale, false);
-    if (m_sheet && !isOther && !hasOtherRecords)
-        return;
-    if (isOther) {
-        m_source = current;
-        m_indexIsStale = true;
-    }
-    m_sheet = std::make_shared<const PreparedSheet>(
-        current ? PreparedSheet::prepare(*current, m_model.annotations(), m_model.usage()) : PreparedSheet{});
-    Notes notes = m_model.annotations().notes(m_sheet->bundleID);
-    if (notes != m_notes) {
-        m_notes = std::move(notes);
-        m_indexIsStale = true;
-    }
-    if (m_indexIsStale)
+    m_sheet.update(m_model.current(), m_model.annotations(), m_model.usage());
+    if (m_sheet.isSearchStale())
         m_prepareSearch.start();
 }
 
@@ -154,41 +143,25 @@ void OverlayView::refreshState() {
         .mode = m_mode,
         .trusted = m_model.trusted(),
         .hasSheet = m_model.current().has_value(),
-        .hasEntries = !m_sheet->entries.empty(),
+        .hasEntries = !sheet().entries.empty(),
         .reading = m_model.reading(),
     });
-    m_matches = matches();
-}
-
-const SearchIndex& OverlayView::searchIndex() {
-    if (m_indexIsStale) {
-        m_indexIsStale = false;
-        const auto& current = m_model.current();
-        m_index = current ? SearchIndex(current->entries, m_notes) : SearchIndex();
-    }
-    return m_index;
-}
-
-std::vector<std::size_t> OverlayView::matches() {
-    if (!m_model.query().empty())
-        return searchIndex().matches(m_model.query());
-    std::vector<std::size_t> all(m_sheet->entries.size());
-    std::iota(all.begin(), all.end(), std::size_t{0});
-    return all;
+    m_matches = m_sheet.matches(m_model.query());
 }
 
 void OverlayView::refreshHeader() {
-    const std::size_t count = m_sheet->entries.size();
+    const std::size_t count = sheet().entries.size();
     if (!m_model.current()) {
         m_header->setNoApp();
         m_header->setCount({});
     } else {
-        m_header->setApp(m_sheet->bundleID, m_sheet->appName);
+        m_header->setApp(sheet().bundleID, sheet().appName);
         m_header->setCount(
             m_model.query().empty() ? OverlayTexts::allShortcuts(count)
                                     : OverlayTexts::someShortcuts(m_matches.size(), count));
     }
     search().setText(text(m_model.query()));
+    setAccessibleName(OverlayTexts::panelName(sheet().appName));
 }
 
 void OverlayView::refreshMain() {
@@ -197,7 +170,7 @@ void OverlayView::refreshMain() {
         return;
     }
     m_message->setMessage(
-        OverlayTexts::message(m_state, m_sheet->appName, triggerGlyph(), Vocabulary::here()));
+        OverlayTexts::message(m_state, sheet().appName, triggerGlyph(), Vocabulary::here()));
     showInMain(m_message);
 }
 
@@ -212,22 +185,19 @@ void OverlayView::refreshShortcuts() {
         showInMain(m_message);
         return;
     }
-    AreaContent content = AreaContent::of(*m_sheet, m_matches);
-    const bool isOtherApp = m_area->sheet().bundleID != m_sheet->bundleID;
-    if (&m_area->sheet() != m_sheet.get() || m_area->content() != content)
-        m_area->setContent(m_sheet, std::move(content));
+    AreaContent content = AreaContent::of(sheet(), m_matches);
+    const bool isOtherApp = m_area->sheet().bundleID != sheet().bundleID;
+    if (&m_area->sheet() != &sheet() || m_area->content() != content)
+        m_area->setContent(m_sheet.prepared(), std::move(content));
     if (isOtherApp)
         m_area->scrollToTop();
     showInMain(m_area);
 }
 
 void OverlayView::refreshFooter() {
-    m_footer->setHint(OverlayTexts::footer(m_model.overlaySticky(), triggerGlyph()));
-    const auto& current = m_model.current();
-    const auto ranked = m_model.usage().mostClicked(m_sheet->bundleID, 1);
-    const MenuEntry* entry = current && !ranked.empty() ? current->entry(ranked.front().id) : nullptr;
-    if (entry)
-        m_footer->setMostClicked(OverlayFooter::MostClicked{singleLine(entry->title()), entry->shortcut});
+    m_footer->setHint(OverlayTexts::closingHint(m_model.overlaySticky(), triggerGlyph()));
+    if (const PreparedEntry* entry = m_sheet.mostClicked())
+        m_footer->setMostClicked(OverlayFooter::MostClicked{entry->title, entry->shortcut});
     else
         m_footer->setMostClicked(std::nullopt);
 }
@@ -261,9 +231,8 @@ void OverlayView::mousePressEvent(QMouseEvent* event) {
 bool OverlayView::eventFilter(QObject* watched, QEvent* event) {
     const bool isTap = event->type() == QEvent::MouseButtonPress
                        && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-    // A first tap on a row only keeps the overlay; a later one moves the keyboard to the row.
-    if (isTap && keepOpen() && watched == m_area->viewport())
-        return true;
+    if (isTap)
+        keepOpen();
     return ThemedWidget::eventFilter(watched, event);
 }
 
@@ -274,7 +243,7 @@ void OverlayView::keyPressEvent(QKeyEvent* event) {
         m_area->setFocus(Qt::TabFocusReason);
     } else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
         m_area->scrollByPage(event->key() == Qt::Key_PageUp ? -1 : 1);
-    } else if (isTyping(*event) && !search().isFocused()) {
+    } else if (isForSearch(*event) && !search().isFocused()) {
         search().type(event);
     } else {
         ThemedWidget::keyPressEvent(event);
@@ -291,7 +260,7 @@ void OverlayView::paintEvent(QPaintEvent*) {
     const Palette& palette = theme().palette;
     if (!m_background || m_background->ratio() != devicePixelRatioF())
         m_background = roundedBox(cornerRadius, devicePixelRatioF(), palette.window, palette.windowBorder);
-    painter.fillRect(m_background->inside(rect()), palette.window);
+    painter.fillRect(m_background->inside(painter, rect()), palette.window);
     m_background->paintFrame(painter, rect());
 }
 

@@ -8,11 +8,10 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/views/components/nine_patch.h>
-#include <quillon/kit/menu/shortcut_search.h>
+#include <quillon/app/views/sheet/searched_sheet.h>
 
 #include <QTimer>
 
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -52,6 +51,7 @@ class OverlayView : public ThemedWidget {
   private:
     void layOut();
     void connectParts();
+    const PreparedSheet& sheet() const { return *m_sheet.prepared(); }
     void modelChanged(ModelField field);
     void refresh();
     void refreshSheet();
@@ -61,8 +61,6 @@ class OverlayView : public ThemedWidget {
     void refreshShortcuts();
     void refreshFooter();
     void showInMain(QWidget* page);
-    const SearchIndex& searchIndex();
-    std::vector<std::size_t> matches();
     QString triggerGlyph() const;
     bool keepOpen();
 
@@ -76,13 +74,7 @@ class OverlayView : public ThemedWidget {
     Subscription m_subscription;
     std::optional<NinePatch> m_background;
 
-    std::shared_ptr<const PreparedSheet> m_sheet;
-    std::optional<AppSheet> m_source; ///< what `m_sheet` was made of
-    bool m_currentIsStale = true;     ///< the model has read menus
-    bool m_recordsAreStale = true;    ///< the annotations or the counts changed
-    bool m_indexIsStale = true;       ///< the sheet or the notes changed
-    Notes m_notes;                    ///< those that the index was made with
-    SearchIndex m_index;
+    SearchedSheet m_sheet;
     std::vector<std::size_t> m_matches;
     OverlayState m_state = OverlayState::noSheet;
 };

@@ -1,6 +1,6 @@
 #include "row_arrangement.h"
 
-#include "overlay_state.h"
+#include "overlay_texts.h"
 #include "row_flow.h"
 
 #include <algorithm>

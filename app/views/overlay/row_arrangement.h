@@ -1,10 +1,11 @@
 #pragma once
 
-#include "prepared_sheet.h"
+#include "placed_text.h"
 #include "text_measure.h"
 
+#include <quillon/app/views/sheet/prepared_sheet.h>
+
 #include <QRectF>
-#include <QString>
 
 #include <optional>
 #include <vector>
@@ -13,16 +14,6 @@ namespace quillon {
 
 /// Whether a row names the submenu that its command sits in.
 enum class SubmenuInRow { hidden, shown };
-
-/// One line of text of a row.
-struct PlacedText {
-    QString text;
-    QRectF rect;         ///< the text stays inside
-    double baseline = 0; ///< from the row's top
-    bool elided = false;
-
-    bool operator==(const PlacedText&) const = default;
-};
 
 /// Where the parts of a row stand, from its top left corner, in logical pixels. Nothing overlaps and nothing
 /// leaves the width that it was arranged for.
@@ -59,8 +50,6 @@ class RowArranger {
     /// The height of a row of one line.
     double lineHeight() const { return m_lineHeight; }
 
-    /// Between the parts of a line.
-    static constexpr double partGap = 8;
     /// Left and right of a badge's text.
     static constexpr double badgePadding = 6;
 

@@ -1,6 +1,11 @@
 #pragma once
 
-#include "row_arrangement.h"
+#include "placed_text.h"
+#include "text_measure.h"
+
+#include <QString>
+
+#include <vector>
 
 namespace quillon {
 
@@ -34,7 +39,7 @@ class RowFlow {
     placeParagraph(const QString& text, const MeasuredFont& font, int mostLines, double reserved = 0);
 
   private:
-    double start() const { return m_x > 0 ? m_x + RowArranger::partGap : 0; }
+    double start() const { return m_x > 0 ? m_x + partGap : 0; }
 
     Line m_line;
     double m_width;

@@ -67,6 +67,16 @@ std::size_t byPage(const AreaLayout& layout, std::size_t from, double offset) {
     });
 }
 
+/// Of several, the last in reading order.
+std::size_t lowest(const AreaLayout& layout) {
+    std::size_t best = 0;
+    for (std::size_t row = 0; row < layout.rows.size(); ++row) {
+        if (layout.rows[row].rect.bottom() >= layout.rows[best].rect.bottom())
+            best = row;
+    }
+    return best;
+}
+
 } // namespace
 
 std::size_t rowAfterStep(const AreaLayout& layout, std::size_t from, RowStep step, double page) {
@@ -76,7 +86,7 @@ std::size_t rowAfterStep(const AreaLayout& layout, std::size_t from, RowStep ste
     case RowStep::left: return horizontally(layout, from, false);
     case RowStep::right: return horizontally(layout, from, true);
     case RowStep::first: return 0;
-    case RowStep::last: return layout.rows.size() - 1;
+    case RowStep::last: return lowest(layout);
     case RowStep::pageUp: return byPage(layout, from, -page);
     case RowStep::pageDown: return byPage(layout, from, page);
     }

@@ -2,7 +2,8 @@
 
 #include "area_accessible.h"
 #include "area_painter.h"
-#include "overlay_state.h"
+#include "area_tips.h"
+#include "overlay_texts.h"
 
 #include <quillon/app/views/components/styled_menu.h>
 #include <quillon/app/views/components/text.h>
@@ -54,46 +55,72 @@ ShortcutArea::ShortcutArea(ThemeSource& themes, QWidget* parent)
     : QAbstractScrollArea(parent), m_themes(themes), m_measure(std::make_unique<TextMeasure>(themes.theme())),
       m_sheet(std::make_shared<const PreparedSheet>()) {
     installAreaAccessible();
-    setAccessibleName(u"Shortcuts"_s);
+    setAccessibleName(OverlayTexts::listName());
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::TabFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setMouseTracking(true);
     viewport()->setAutoFillBackground(false);
     verticalScrollBar()->setFocusPolicy(Qt::NoFocus);
-    m_subscription = themes.changed.subscribe([this] { follow(); });
+    m_subscription = themes.changed.subscribe([this] { themeChanged(); });
     makeThin(*verticalScrollBar(), themes.theme());
 }
 
-void ShortcutArea::follow() {
+void ShortcutArea::themeChanged() {
     m_measure = std::make_unique<TextMeasure>(m_themes.theme());
     m_card.reset();
     makeThin(*verticalScrollBar(), m_themes.theme());
     relayout();
 }
 
-void ShortcutArea::setContent(std::shared_ptr<const PreparedSheet> sheet, AreaContent content) {
-    std::string currentID;
-    bool currentIsWide = false;
-    if (m_current) {
-        const RowBox& row = m_layout.rows[*m_current];
-        currentID = m_sheet->entries[row.entry].id;
-        currentIsWide = row.submenu == SubmenuInRow::shown;
+ShortcutArea::RowName ShortcutArea::nameOf(std::size_t row) const {
+    const RowBox& box = m_layout.rows[row];
+    return {m_sheet->entries[box.entry].id, box.submenu};
+}
+
+std::optional<std::size_t> ShortcutArea::rowNamed(const RowName& name) const {
+    const auto found = std::ranges::find_if(m_layout.rows, [&](const RowBox& row) {
+        return row.submenu == name.submenu && m_sheet->entries[row.entry].id == name.id;
+    });
+    if (found == m_layout.rows.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - m_layout.rows.begin());
+}
+
+/// Of what is scrolled to: the row that was acted on, else the first that is seen.
+std::optional<ShortcutArea::Anchor> ShortcutArea::anchor() const {
+    if (scrolled() == 0)
+        return std::nullopt;
+    const QRectF visible(0, scrolled(), m_layout.width, viewport()->height());
+    const auto isSeen = [&](const RowBox& row) { return visible.contains(row.rect); };
+    std::optional<std::size_t> row = m_current;
+    if (!row || !isSeen(m_layout.rows[*row])) {
+        const auto first = std::ranges::find_if(m_layout.rows, isSeen);
+        if (first == m_layout.rows.end())
+            return std::nullopt;
+        row = static_cast<std::size_t>(first - m_layout.rows.begin());
     }
+    return Anchor{nameOf(*row), m_layout.rows[*row].rect.top() - scrolled()};
+}
+
+void ShortcutArea::holdFast(const Anchor& anchor) {
+    if (const auto row = rowNamed(anchor.row))
+        verticalScrollBar()->setValue(
+            static_cast<int>(std::lround(m_layout.rows[*row].rect.top() - anchor.fromTop)));
+}
+
+void ShortcutArea::setContent(std::shared_ptr<const PreparedSheet> sheet, AreaContent content) {
+    const std::optional<RowName> current = m_current ? std::optional(nameOf(*m_current)) : std::nullopt;
+    const std::optional<Anchor> fixed = anchor();
     m_sheet = std::move(sheet);
     m_content = std::move(content);
-    const bool hadCurrent = std::exchange(m_current, std::nullopt).has_value();
-    m_hovered.reset();
+    m_current.reset();
     relayout();
-    if (!hadCurrent)
-        return;
-    const auto same = std::ranges::find_if(m_layout.rows, [&](const RowBox& row) {
-        return (row.submenu == SubmenuInRow::shown) == currentIsWide
-               && m_sheet->entries[row.entry].id == currentID;
-    });
-    if (same != m_layout.rows.end())
-        m_current = static_cast<std::size_t>(same - m_layout.rows.begin());
-    else if (!m_layout.rows.empty())
+    if (fixed)
+        holdFast(*fixed);
+    if (current)
+        m_current = rowNamed(*current);
+    if (current && !m_current && !m_layout.rows.empty())
         m_current = 0;
 }
 
@@ -177,13 +204,22 @@ void ShortcutArea::step(RowStep step) {
         setCurrentRow(0);
         return;
     }
-    setCurrentRow(rowAfterStep(m_layout, *m_current, step, viewport()->height() - fadeHeight));
+    const std::size_t next = rowAfterStep(m_layout, *m_current, step, viewport()->height() - fadeHeight);
+    const bool isTop = step == RowStep::up && next == *m_current;
+    setCurrentRow(next);
     // The titles above the first rows and the room below the last ones have no row to be revealed with.
-    if (step == RowStep::first
-        || (step == RowStep::up && m_layout.rows[*m_current].rect.top() < fadeHeight * 4))
+    QScrollBar& bar = *verticalScrollBar();
+    const bool nearTop = m_layout.rows[next].rect.top() < fadeHeight * 4;
+    if (step == RowStep::first || (step == RowStep::up && nearTop))
         scrollToTop();
     if (step == RowStep::last)
-        reveal(*m_current);
+        bar.setValue(bar.maximum());
+    if (isTop)
+        Q_EMIT leftUpwards();
+}
+
+bool ShortcutArea::isEnabledRow(std::size_t row) const {
+    return m_sheet->entries[m_layout.rows[row].entry].enabled;
 }
 
 QString ShortcutArea::spokenRow(std::size_t row) const {
@@ -193,7 +229,7 @@ QString ShortcutArea::spokenRow(std::size_t row) const {
     if (!entry.submenu.isEmpty())
         parts.append(entry.submenu);
     if (entry.pinned)
-        parts.append(u"Pinned"_s);
+        parts.append(OverlayTexts::pinned());
     if (entry.clicked > 0)
         parts.append(OverlayTexts::spokenBadge(entry.clicked));
     if (!entry.note.isEmpty())
@@ -221,38 +257,25 @@ void ShortcutArea::showRowMenu(std::size_t row, const QPoint& globalPosition) {
     m_menu->setAttribute(Qt::WA_DeleteOnClose);
     styleMenu(*m_menu, m_themes.theme());
     m_menu->addAction(
-        entry.pinned ? u"Unpin"_s : u"Pin"_s, this,
+        entry.pinned ? OverlayTexts::unpin() : OverlayTexts::pin(), this,
         [this, bundleID = m_sheet->bundleID, id = entry.id] { Q_EMIT pinToggled(bundleID, id); });
-    QAction* const library = m_menu->addAction(u"Open in Library"_s, this, &ShortcutArea::libraryRequested);
+    QAction* const library =
+        m_menu->addAction(OverlayTexts::openInLibrary(), this, &ShortcutArea::libraryRequested);
     library->setEnabled(m_libraryIsOffered);
     m_menu->popup(globalPosition);
 }
 
-bool ShortcutArea::showRowTip(QHelpEvent* event) {
-    const auto row = rowAt(event->pos());
-    if (!row) {
+void ShortcutArea::showTip(const QHelpEvent& event) {
+    const QPointF point = QPointF(event.pos()) + QPointF(0, scrolled());
+    if (const auto tip = tipAt(point, m_content, *m_sheet, m_layout, *m_measure))
+        QToolTip::showText(event.globalPos(), tip->html, viewport(), visualRect(tip->box));
+    else
         QToolTip::hideText();
-        return true;
-    }
-    const RowBox& box = m_layout.rows[*row];
-    const PreparedEntry& entry = m_sheet->entries[box.entry];
-    const RowArranger arranger(*m_measure, box.rect.width() - 2 * rowInset);
-    if (!arranger.arrange(entry, box.submenu).isElided()) {
-        QToolTip::hideText();
-        return true;
-    }
-    QStringList lines{entry.title.toHtmlEscaped()};
-    if (!entry.submenu.isEmpty())
-        lines.append(entry.submenu.toHtmlEscaped());
-    if (!entry.note.isEmpty())
-        lines.append(u"<i>"_s + entry.note.toHtmlEscaped() + u"</i>"_s);
-    QToolTip::showText(event->globalPos(), lines.join(u"<br>"_s), viewport(), visualRect(box.rect));
-    return true;
 }
 
 bool ShortcutArea::viewportEvent(QEvent* event) {
     switch (event->type()) {
-    case QEvent::ToolTip: return showRowTip(static_cast<QHelpEvent*>(event));
+    case QEvent::ToolTip: showTip(*static_cast<QHelpEvent*>(event)); return true;
     case QEvent::Leave: hover(std::nullopt); break;
     default: break;
     }
@@ -323,15 +346,6 @@ void ShortcutArea::keyPressEvent(QKeyEvent* event) {
 
 void ShortcutArea::mouseMoveEvent(QMouseEvent* event) {
     hover(rowAt(event->position().toPoint()));
-}
-
-void ShortcutArea::mousePressEvent(QMouseEvent* event) {
-    const auto row = rowAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && row) {
-        setFocus(Qt::MouseFocusReason);
-        setCurrentRow(*row);
-    }
-    event->ignore();
 }
 
 void ShortcutArea::contextMenuEvent(QContextMenuEvent* event) {

@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace quillon {
 
@@ -25,7 +26,8 @@ class ShortcutArea : public QAbstractScrollArea {
   public:
     explicit ShortcutArea(ThemeSource& themes, QWidget* parent = nullptr);
 
-    /// Shows other shortcuts. The row that had the keyboard keeps it if it is still shown.
+    /// Shows other shortcuts. The row that had the keyboard keeps it if it is still shown, and what is
+    /// scrolled to stays where it is.
     void setContent(std::shared_ptr<const PreparedSheet> sheet, AreaContent content);
 
     const PreparedSheet& sheet() const { return *m_sheet; }
@@ -38,10 +40,14 @@ class ShortcutArea : public QAbstractScrollArea {
     std::optional<std::size_t> currentRow() const { return m_current; }
     void setCurrentRow(std::size_t row);
 
+    /// Whether the row's command can be used right now.
+    bool isEnabledRow(std::size_t row) const;
     /// Everything that a row tells, as one sentence.
     QString spokenRow(std::size_t row) const;
     /// A row or heading in the viewport's coordinates.
     QRect visualRect(const QRectF& box) const;
+    /// The row at this point of the viewport.
+    std::optional<std::size_t> rowAt(const QPoint& viewportPosition) const;
     void scrollToTop();
     void scrollByPage(int pages);
 
@@ -58,6 +64,8 @@ class ShortcutArea : public QAbstractScrollArea {
     void libraryRequested();
     /// A row's menu is about to open.
     void rowMenuOpening();
+    /// The keyboard went up from a row above which there is none.
+    void leftUpwards();
 
   protected:
     bool viewportEvent(QEvent* event) override;
@@ -66,13 +74,27 @@ class ShortcutArea : public QAbstractScrollArea {
     void scrollContentsBy(int dx, int dy) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    void follow();
+    /// How a row is found again in another content.
+    struct RowName {
+        std::string id;
+        SubmenuInRow submenu = SubmenuInRow::hidden;
+    };
+    /// A row that is to stay where it is on the screen.
+    struct Anchor {
+        RowName row;
+        double fromTop = 0; ///< of the viewport
+    };
+
+    RowName nameOf(std::size_t row) const;
+    std::optional<std::size_t> rowNamed(const RowName& name) const;
+    std::optional<Anchor> anchor() const;
+    void holdFast(const Anchor& anchor);
+    void themeChanged();
     const NinePatch& cardPicture();
     void relayout();
     void updateScrollBar();
@@ -81,8 +103,7 @@ class ShortcutArea : public QAbstractScrollArea {
     void hover(std::optional<std::size_t> row);
     void updateRow(std::optional<std::size_t> row);
     void showRowMenu(std::size_t row, const QPoint& globalPosition);
-    bool showRowTip(QHelpEvent* event);
-    std::optional<std::size_t> rowAt(const QPoint& viewportPosition) const;
+    void showTip(const QHelpEvent& event);
     double scrolled() const;
     void paintScrollEdges(QPainter& painter) const;
 

@@ -2,6 +2,8 @@
 
 #include "rounded_box.h"
 
+#include <quillon/app/views/components/accessible_roles.h>
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -27,6 +29,7 @@ constexpr std::chrono::milliseconds returnDelay{100};
 FloatingPanelWindow::FloatingPanelWindow(PanelContent content, ThemeSource& themes, PanelWindows& windows)
     : QWidget(nullptr, panelFlags), m_themes(themes), m_windows(windows), m_content(content.widget.release()),
       m_cornerRadius(content.cornerRadius), m_prepareContent(std::move(content.prepare)) {
+    readAs(*this, ReadAs::panel);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);

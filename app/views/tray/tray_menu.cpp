@@ -1,7 +1,9 @@
 #include "tray_menu.h"
 
 #include "tray_icon.h"
+#include "tray_texts.h"
 
+#include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/text.h>
 
 #include <utility>
@@ -23,11 +25,11 @@ TrayMenu::TrayMenu(AppModel& model, ThemeSource& themes, std::function<void()> q
     : m_model(model), m_themes(themes), m_quit(std::move(quit)) {
     build();
     m_icon.setContextMenu(&m_menu);
-    m_icon.setToolTip(u"Quillon"_s);
-    m_modelChange = model.changed.subscribe([this](ModelField) { follow(); });
-    m_themeChange = themes.changed.subscribe([this] { followTheme(); });
-    followTheme();
-    follow();
+    m_icon.setToolTip(TrayTexts::programName());
+    m_modelChange = model.changed.subscribe([this](ModelField) { modelChanged(); });
+    m_themeChange = themes.changed.subscribe([this] { themeChanged(); });
+    themeChanged();
+    modelChanged();
 }
 
 TrayMenu::~TrayMenu() = default;
@@ -37,13 +39,13 @@ void TrayMenu::show() {
 }
 
 void TrayMenu::build() {
-    m_allow = addWindowItem(u"Allow Accessibility…"_s, WindowName::welcome);
+    m_allow = addWindowItem(TrayTexts::allowAccessibility(), WindowName::welcome);
     m_allowSeparator = m_menu.addSeparator();
     m_show = m_menu.addAction(QString(), this, [this] { m_model.showOverlay(Stickiness::sticky); });
     m_hint = m_menu.addAction(QString());
     m_hint->setEnabled(false);
     m_menu.addSeparator();
-    QAction* const quit = m_menu.addAction(u"Quit Quillon"_s, this, [this] { m_quit(); });
+    QAction* const quit = m_menu.addAction(TrayTexts::quit(), this, [this] { m_quit(); });
     quit->setShortcut(QKeySequence::Quit);
 }
 
@@ -51,17 +53,17 @@ QAction* TrayMenu::addWindowItem(const QString& label, WindowName window) {
     return m_menu.addAction(label, this, [this, window] { m_model.requestWindow(window); });
 }
 
-void TrayMenu::follow() {
+void TrayMenu::modelChanged() {
     m_allow->setVisible(!m_model.trusted());
     m_allowSeparator->setVisible(!m_model.trusted());
     const auto& current = m_model.current();
     m_show->setText(
-        current ? QString(u"Show Shortcuts for " % menuText(singleLine(current->appName)))
-                : u"Show Shortcuts"_s);
-    m_hint->setText(QString(u"Or hold " % text(glyph(m_model.trigger())) % u" in any app"));
+        current ? TrayTexts::showShortcutsFor(menuText(foreignLine(current->appName)))
+                : TrayTexts::showShortcuts());
+    m_hint->setText(TrayTexts::holdHint(text(glyph(m_model.trigger()))));
 }
 
-void TrayMenu::followTheme() {
+void TrayMenu::themeChanged() {
     m_icon.setIcon(trayIcon(m_themes.theme().palette.scheme));
 }
 

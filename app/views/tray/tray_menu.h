@@ -30,8 +30,8 @@ class TrayMenu : public QObject {
 
   private:
     void build();
-    void follow();
-    void followTheme();
+    void modelChanged();
+    void themeChanged();
     QAction* addWindowItem(const QString& label, WindowName window);
 
     AppModel& m_model;

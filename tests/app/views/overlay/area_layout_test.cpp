@@ -113,6 +113,24 @@ TEST_F(AreaLayoutTest, PinnedRowsFillAGridOfThreeRowByRow) {
     EXPECT_EQ(row(0).width(), row(1).width());
 }
 
+TEST_F(AreaLayoutTest, PinnedRowsStandAboveTheColumns) {
+    Annotations said;
+    for (std::size_t i = 0; i < 3; ++i)
+        said[SampleMenus::sheet().entries[i].id()].pinned = true;
+    for (const double width : {1134.0, 1000.0, 641.0}) {
+        lay(SampleMenus::sheet(), 10, width, said);
+        for (std::size_t column = 0; column < 3; ++column) {
+            const RowBox& pinned = layout.rows[column];
+            const auto below = std::ranges::find_if(layout.rows, [&](const RowBox& row) {
+                return row.submenu == SubmenuInRow::hidden && row.column == column;
+            });
+            ASSERT_NE(below, layout.rows.end());
+            EXPECT_EQ(pinned.inner().left(), below->inner().left()) << width;
+            EXPECT_EQ(pinned.inner().right(), below->inner().right()) << width;
+        }
+    }
+}
+
 TEST_F(AreaLayoutTest, SubmenusAreCaptionedAndTheirEndIsMarked) {
     lay(SampleMenus::sheet());
     QStringList captions;

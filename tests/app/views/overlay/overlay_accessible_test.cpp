@@ -66,6 +66,45 @@ TEST_F(OverlayAccessibleTest, RowsTakeTheFocusAndOpenTheirMenu) {
     EXPECT_NE(rowMenu(), nullptr);
 }
 
+/// Every element below and including this one that says that it has the focus.
+int focusedIn(QAccessibleInterface* element) {
+    int count = element->state().focused ? 1 : 0;
+    for (int i = 0; i < element->childCount(); ++i)
+        count += focusedIn(element->child(i));
+    return count;
+}
+
+TEST_F(OverlayAccessibleTest, OneElementHasTheFocus) {
+    QAccessibleInterface* root = QAccessible::queryAccessibleInterface(view.get());
+    view->search().focus();
+    EXPECT_EQ(focusedIn(root), 1);
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&field())->state().focused);
+    view->area().setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(focusedIn(root), 1);
+    EXPECT_TRUE(list()->focusChild()->state().focused);
+}
+
+TEST_F(OverlayAccessibleTest, CommandsThatCannotBeUsedAreDisabled) {
+    AppSheet sheet = SampleMenus::sheet();
+    const auto save = std::ranges::find(sheet.entries, "Save", &MenuEntry::title);
+    save->enabled = false;
+    desk.show(sheet);
+    EXPECT_TRUE(item(u"Save,"_s)->state().disabled);
+    EXPECT_FALSE(item(u"Redo"_s)->state().disabled);
+}
+
+TEST_F(OverlayAccessibleTest, ThePanelSaysWhatItIsAndWhose) {
+    desk.model.showOverlay(Stickiness::held);
+    QAccessibleInterface* panel = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window != view.get() && window->inherits("quillon::FloatingPanelWindow"))
+            panel = QAccessible::queryAccessibleInterface(window);
+    }
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->role(), QAccessible::Dialog);
+    EXPECT_EQ(panel->text(QAccessible::Name), u"Shortcuts for Sketchpad"_s);
+}
+
 TEST_F(OverlayAccessibleTest, HeadingsOfferNoActions) {
     EXPECT_EQ(item(u"Object"_s)->role(), QAccessible::Heading);
     EXPECT_EQ(item(u"Object"_s)->actionInterface(), nullptr);

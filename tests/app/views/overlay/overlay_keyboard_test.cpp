@@ -2,6 +2,8 @@
 
 #include <quillon/kit/menu/sample_menus.h>
 
+#include <QScrollBar>
+
 namespace quillon {
 namespace {
 
@@ -62,7 +64,7 @@ TEST_F(OverlayKeyboardTest, TheCurrentRowIsScrolledIntoView) {
     press(Qt::Key_Tab);
     press(Qt::Key_End);
     EXPECT_TRUE(isVisible(*view->area().currentRow()));
-    EXPECT_EQ(currentRow(), u"Sketchpad Help"_s);
+    EXPECT_EQ(currentRow(), u"Enter Full Screen"_s) << "the lowest of all columns";
     press(Qt::Key_Home);
     EXPECT_TRUE(isVisible(*view->area().currentRow()));
     EXPECT_EQ(currentRow(), u"Duplicate"_s);
@@ -103,6 +105,35 @@ TEST_F(OverlayKeyboardTest, TypingInTheRowsGoesToTheSearchField) {
     EXPECT_EQ(desk.model.query(), "z");
     QTest::keyClicks(QApplication::focusWidget(), u"oom"_s);
     EXPECT_EQ(desk.model.query(), "zoom");
+}
+
+TEST_F(OverlayKeyboardTest, BackspaceInTheRowsEditsTheSearch) {
+    QTest::keyClicks(&field(), u"zo"_s);
+    press(Qt::Key_Tab);
+    ASSERT_TRUE(view->area().hasFocus());
+    press(Qt::Key_Backspace);
+    EXPECT_TRUE(view->search().isFocused());
+    EXPECT_EQ(desk.model.query(), "z");
+}
+
+TEST_F(OverlayKeyboardTest, UpFromTheFirstRowGoesBackToTheSearchField) {
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Up);
+    ASSERT_TRUE(view->area().hasFocus());
+    press(Qt::Key_Up);
+    EXPECT_TRUE(view->search().isFocused());
+}
+
+TEST_F(OverlayKeyboardTest, EndGoesToTheBottom) {
+    desk.show(sheetOfMany(300));
+    press(Qt::Key_Tab);
+    press(Qt::Key_End);
+    const QScrollBar& bar = *view->area().verticalScrollBar();
+    EXPECT_EQ(bar.value(), bar.maximum());
+    EXPECT_TRUE(isVisible(*view->area().currentRow()));
+    press(Qt::Key_Home);
+    EXPECT_EQ(bar.value(), 0);
 }
 
 TEST_F(OverlayKeyboardTest, ControlFGoesToTheSearchField) {

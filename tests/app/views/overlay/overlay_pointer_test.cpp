@@ -2,6 +2,10 @@
 
 #include <quillon/kit/menu/sample_menus.h>
 
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QToolTip>
+
 namespace quillon {
 namespace {
 
@@ -34,14 +38,17 @@ TEST_F(OverlayPointerTest, ATapAnywhereKeepsTheOverlayAndFocusesTheSearch) {
     }
 }
 
-TEST_F(OverlayPointerTest, OnceKeptATapChangesNothingButTheRow) {
+TEST_F(OverlayPointerTest, OnceKeptATapChangesNothing) {
     desk.model.keepOverlayOpen();
+    type(u"a"_s);
     int changes = 0;
     const Subscription subscription = desk.model.changed.subscribe([&](ModelField) { ++changes; });
     QTest::mouseClick(rows(), Qt::LeftButton, {}, middleOf(row(u"Save"_s)));
     EXPECT_EQ(changes, 0);
-    EXPECT_TRUE(view->area().hasFocus());
-    EXPECT_EQ(view->area().currentRow(), row(u"Save"_s));
+    EXPECT_TRUE(view->search().isFocused()) << "the search keeps the keyboard";
+    EXPECT_EQ(view->area().currentRow(), std::nullopt);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+    EXPECT_EQ(desk.model.query(), "");
 }
 
 TEST_F(OverlayPointerTest, AShowcaseIsNotKept) {
@@ -61,6 +68,46 @@ TEST_F(OverlayPointerTest, ARowsMenuPinsAndUnpins) {
     EXPECT_THAT(menuItems(), ElementsAre(u"Unpin"_s, u"Open in Library"_s));
     choose(u"Unpin"_s);
     EXPECT_FALSE(desk.model.annotations().get(SampleMenus::bundleID, "File › Save").pinned);
+}
+
+TEST_F(OverlayPointerTest, APinMadeWhileScrolledKeepsTheRowUnderThePointer) {
+    desk.show(sheetOfMany(300));
+    view->area().scrollByPage(1);
+    ASSERT_GT(view->area().verticalScrollBar()->value(), 0);
+    const auto& rows = view->area().layout().rows;
+    const auto seen = std::ranges::find_if(
+        rows, [&](const RowBox& box) { return view->area().visualRect(box.rect).top() > 200; });
+    const auto position = static_cast<std::size_t>(seen - rows.begin());
+    const QString title = view->area().spokenRow(position).section(u',', 0, 0);
+    const QPoint pointer = middleOf(position);
+    for (const QString& item : {u"Pin"_s, u"Unpin"_s}) {
+        rightClick(*view->area().rowAt(pointer));
+        choose(item);
+        const auto under = view->area().rowAt(pointer);
+        ASSERT_TRUE(under.has_value());
+        EXPECT_EQ(view->area().spokenRow(*under).section(u',', 0, 0), title) << item.toStdString();
+    }
+}
+
+TEST_F(OverlayPointerTest, APinMadeAtTheTopShowsThePinnedCard) {
+    desk.show(sheetOfMany(300));
+    rightClick(3);
+    choose(u"Pin"_s);
+    EXPECT_EQ(view->area().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(OverlayPointerTest, ATitleOfACardThatIsShortenedIsToldInFull) {
+    AppSheet sheet = sheetOfMany(10);
+    const std::string title(200, 'W');
+    for (MenuEntry& entry : sheet.entries)
+        entry.path.front() = title;
+    desk.show(sheet);
+    const HeadingBox& heading = view->area().layout().headings.front();
+    const QPoint at = view->area().visualRect(heading.rect).center();
+    QHelpEvent help(QEvent::ToolTip, at, rows()->mapToGlobal(at));
+    QApplication::sendEvent(rows(), &help);
+    EXPECT_EQ(QToolTip::text(), QString::fromStdString(title));
+    QToolTip::hideText();
 }
 
 TEST_F(OverlayPointerTest, ARowsMenuOpensTheLibrary) {

@@ -118,6 +118,64 @@ TEST_F(OverlayTest, AnEndlessQueryDoesNotWidenTheWindow) {
     EXPECT_LE(view->minimumSizeHint().width(), 1180);
 }
 
+TEST_F(OverlayTest, AnEndlessQueryIsShortenedInsideOfItsMarks) {
+    desk.trust();
+    desk.showSample();
+    type(QString(300, u'x'));
+    for (const ThemedLabel* label : view->findChildren<ThemedLabel*>()) {
+        if (label->isVisible() && label->text().startsWith(u"Nothing matches"_s)) {
+            EXPECT_TRUE(label->shownText().startsWith(u"Nothing matches “xxx"_s));
+            EXPECT_TRUE(label->shownText().endsWith(u"…”"_s)) << label->shownText().toStdString();
+            EXPECT_LE(label->fontMetrics().horizontalAdvance(label->shownText()), label->width());
+        }
+    }
+}
+
+TEST_F(OverlayTest, MessagesAreInTheMiddleOfThePanel) {
+    desk.trust();
+    desk.show(emptySheet("Terminal"));
+    view->resize(1180, 760);
+    int found = 0;
+    for (const QLabel* label : view->findChildren<QLabel*>()) {
+        if (!label->isVisible() || !label->text().startsWith(u"No menu"_s))
+            continue;
+        ++found;
+        const QPoint middle = label->mapTo(view.get(), label->rect().center());
+        EXPECT_NEAR(middle.x(), view->rect().center().x(), 1);
+    }
+    EXPECT_EQ(found, 1);
+}
+
+TEST_F(OverlayTest, APanelOnANarrowScreenIsNotCutOff) {
+    desk.trust();
+    desk.showSample();
+    constexpr int width = 480 * 86 / 100;
+    EXPECT_LE(view->minimumSizeHint().width(), width);
+    for (const char* const query : {"", "xyz"}) {
+        desk.model.setQuery(query);
+        view->resize(width, 500);
+        QApplication::processEvents();
+        EXPECT_EQ(view->width(), width);
+        for (const QWidget* child : view->findChildren<QWidget*>()) {
+            if (child->isVisible() && !child->isWindow()) {
+                const QRect inside(child->mapTo(view.get(), QPoint(0, 0)), child->size());
+                EXPECT_TRUE(view->rect().contains(inside)) << child->metaObject()->className();
+            }
+        }
+        EXPECT_GE(view->search().width(), 120);
+    }
+}
+
+TEST_F(OverlayTest, TheSearchFieldHasItsWidthWhereThereIsRoom) {
+    desk.trust();
+    AppSheet sheet = SampleMenus::sheet();
+    sheet.appName = std::string(300, 'n');
+    desk.show(sheet);
+    view->resize(1180, 760);
+    QApplication::processEvents();
+    EXPECT_EQ(view->search().width(), 280);
+}
+
 TEST_F(OverlayTest, PinnedShortcutsStandAboveTheirMenus) {
     desk.trust();
     desk.showSample();

@@ -1,5 +1,6 @@
 #include "prepared_sheet.h"
 
+#include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/text.h>
 
 #include <string_view>
@@ -17,7 +18,7 @@ class MenuNumbers {
     std::size_t of(std::string_view menu) {
         const auto [place, isNew] = m_numbers.try_emplace(menu, m_titles.size());
         if (isNew)
-            m_titles.push_back(singleLine(menu));
+            m_titles.push_back(foreignLine(menu));
         return place->second;
     }
 
@@ -37,7 +38,7 @@ const Annotations& annotationsOf(const AnnotationBook& book, const std::string& 
 PreparedSheet
 PreparedSheet::prepare(const AppSheet& sheet, const AnnotationBook& annotations, const UsageBook& usage) {
     PreparedSheet prepared{
-        .bundleID = sheet.bundleID, .appName = singleLine(sheet.appName), .entries = {}, .menus = {}};
+        .bundleID = sheet.bundleID, .appName = foreignLine(sheet.appName), .entries = {}, .menus = {}};
     const Annotations& said = annotationsOf(annotations, sheet.bundleID);
     const UsageRecords& records = usage.records(sheet.bundleID);
     MenuNumbers menus(prepared.menus);
@@ -46,8 +47,8 @@ PreparedSheet::prepare(const AppSheet& sheet, const AnnotationBook& annotations,
     for (const MenuEntry& entry : sheet.entries) {
         PreparedEntry made{
             .id = entry.id(),
-            .title = singleLine(entry.title()),
-            .submenu = singleLine(entry.submenuPath()),
+            .title = foreignLine(entry.title()),
+            .submenu = foreignLine(entry.submenuPath()),
             .shortcut = entry.shortcut,
             .menu = menus.of(entry.menu()),
             .enabled = entry.enabled,

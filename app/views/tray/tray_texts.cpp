@@ -1,0 +1,31 @@
+#include "tray_texts.h"
+
+#include <QCoreApplication>
+
+namespace quillon::TrayTexts {
+
+QString programName() {
+    return QCoreApplication::translate("Tray", "Quillon");
+}
+
+QString allowAccessibility() {
+    return QCoreApplication::translate("Tray", "Allow Accessibility…");
+}
+
+QString showShortcuts() {
+    return QCoreApplication::translate("Tray", "Show Shortcuts");
+}
+
+QString showShortcutsFor(const QString& appName) {
+    return QCoreApplication::translate("Tray", "Show Shortcuts for %1").arg(appName);
+}
+
+QString holdHint(const QString& triggerGlyph) {
+    return QCoreApplication::translate("Tray", "Or hold %1 in any app").arg(triggerGlyph);
+}
+
+QString quit() {
+    return QCoreApplication::translate("Tray", "Quit Quillon");
+}
+
+} // namespace quillon::TrayTexts
