@@ -52,7 +52,7 @@ bool isOneCharacter(std::string_view text) {
         return false;
     if (onlyScalar(text))
         return true;
-    const bool ascii = std::all_of(text.begin(), text.end(), utf8::isAscii);
+    const bool ascii = std::ranges::all_of(text, utf8::isAscii);
     return ascii ? text == "\r\n" : firstClusterLength(text) == text.size();
 }
 
@@ -134,6 +134,11 @@ bool isValid(std::string_view bytes) {
             return false;
     }
     return true;
+}
+
+void append(std::string& text, char32_t scalar) {
+    const bool isScalar = scalar <= 0x10ffff && !U_IS_SURROGATE(scalar);
+    utf8::append(text, isScalar ? scalar : utf8::replacement);
 }
 
 std::string repaired(std::string_view bytes) {

@@ -55,6 +55,9 @@ bool isLetter(std::string_view text);
 /// Whether the bytes are well-formed UTF-8.
 bool isValid(std::string_view bytes);
 
+/// Writes the scalar behind `text`. What is none (a surrogate, or above U+10FFFF) becomes U+FFFD.
+void append(std::string& text, char32_t scalar);
+
 /// `bytes` with every maximal broken sequence replaced by U+FFFD.
 std::string repaired(std::string_view bytes);
 

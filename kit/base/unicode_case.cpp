@@ -36,7 +36,7 @@ std::string toUpper(std::string_view text) {
     std::string result;
     if (isAscii(text)) {
         result.resize(text.size());
-        std::ranges::transform(text, result.begin(), [](char byte) { return ascii::toUpper(byte); });
+        std::ranges::transform(text, result.begin(), ascii::toUpper);
         return result;
     }
     const std::string source = repaired(text);
@@ -49,12 +49,9 @@ std::string toUpper(std::string_view text) {
 }
 
 std::string toLower(std::string_view text) {
+    if (isAscii(text))
+        return ascii::toLower(text);
     std::string result;
-    if (isAscii(text)) {
-        result.resize(text.size());
-        std::ranges::transform(text, result.begin(), [](char byte) { return ascii::toLower(byte); });
-        return result;
-    }
     result.reserve(text.size() + 4);
     for (std::size_t position = 0; position < text.size();) {
         if (utf8::isAscii(text[position])) {

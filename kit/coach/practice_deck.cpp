@@ -59,7 +59,7 @@ std::size_t pick(const std::vector<Candidate>& pool, std::uint64_t random) {
 
 std::vector<MenuEntry> practicable(std::span<const MenuEntry> entries) {
     std::vector<MenuEntry> kept;
-    std::copy_if(entries.begin(), entries.end(), std::back_inserter(kept), isPracticable);
+    std::ranges::copy_if(entries, std::back_inserter(kept), isPracticable);
     return kept;
 }
 

@@ -7,8 +7,8 @@
 namespace quillon {
 
 const MenuEntry* AppSheet::entry(std::string_view id) const {
-    const auto found = std::find_if(
-        entries.begin(), entries.end(), [id](const MenuEntry& candidate) { return candidate.hasId(id); });
+    const auto found =
+        std::ranges::find_if(entries, [id](const MenuEntry& candidate) { return candidate.hasId(id); });
     return found == entries.end() ? nullptr : &*found;
 }
 

@@ -67,7 +67,7 @@ bool isSystemReserved(const Shortcut& shortcut) {
     static constexpr std::array<std::string_view, 11> reserved{
         "⌃⌘Q", "⌘⇥", "⇧⌘⇥", "⌘Space", "⌃⌘Space", "⌥⌘Space", "⇧⌘3", "⇧⌘4", "⇧⌘5", "⌥⌘⎋", "⌥⌘D",
     };
-    return std::find(reserved.begin(), reserved.end(), shortcut.display()) != reserved.end();
+    return std::ranges::find(reserved, shortcut.display()) != reserved.end();
 }
 
 std::string searchTerms(const Shortcut& shortcut) {

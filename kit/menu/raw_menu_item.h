@@ -14,7 +14,7 @@ namespace quillon {
 struct RawMenuItem {
     std::string title = {};
     std::optional<std::string> cmdChar = {};
-    std::optional<std::int64_t> cmdModifiers = {};  ///< accessibility mask, see `Modifiers::fromAxMask`
+    std::optional<std::int64_t> cmdModifiers = {};  ///< accessibility mask, see `Modifiers::fromAXMask`
     std::optional<std::int64_t> cmdGlyph = {};      ///< menu glyph number; 0 means none
     std::optional<std::int64_t> cmdVirtualKey = {}; ///< virtual key code; names special keys only
     bool enabled = true;

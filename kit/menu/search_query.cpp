@@ -50,10 +50,7 @@ std::vector<std::string> splitAtWhitespace(std::string_view text) {
 }
 
 std::optional<Modifiers> modifierOf(std::string_view token) {
-    const auto row =
-        std::find_if(modifierTokens.begin(), modifierTokens.end(), [token](const ModifierToken& candidate) {
-            return candidate.token == token;
-        });
+    const auto row = std::ranges::find(modifierTokens, token, &ModifierToken::token);
     return row == modifierTokens.end() ? std::nullopt : std::optional(row->modifier);
 }
 

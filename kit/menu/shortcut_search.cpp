@@ -26,9 +26,8 @@ std::string haystackOf(const MenuEntry& entry, const Notes& notes) {
 }
 
 bool holdsAll(std::string_view haystack, const std::vector<std::string>& words) {
-    return std::all_of(words.begin(), words.end(), [haystack](const std::string& word) {
-        return haystack.find(word) != std::string_view::npos;
-    });
+    return std::ranges::all_of(
+        words, [haystack](const std::string& word) { return haystack.find(word) != std::string_view::npos; });
 }
 
 } // namespace
@@ -38,13 +37,13 @@ ShortcutSearch::filter(std::span<const MenuEntry> entries, std::string_view quer
     const SearchQuery read = readQuery(query);
     std::vector<MenuEntry> kept;
     if (const ShortcutQuery* shortcut = std::get_if<ShortcutQuery>(&read)) {
-        std::copy_if(entries.begin(), entries.end(), std::back_inserter(kept), [&](const MenuEntry& entry) {
+        std::ranges::copy_if(entries, std::back_inserter(kept), [&](const MenuEntry& entry) {
             return entry.shortcut.modifiers == shortcut->modifiers && keyGlyph(entry) == shortcut->keyText;
         });
         return kept;
     }
     const std::vector<std::string>& words = std::get<WordQuery>(read).words;
-    std::copy_if(entries.begin(), entries.end(), std::back_inserter(kept), [&](const MenuEntry& entry) {
+    std::ranges::copy_if(entries, std::back_inserter(kept), [&](const MenuEntry& entry) {
         return words.empty() || holdsAll(haystackOf(entry, notes), words);
     });
     return kept;

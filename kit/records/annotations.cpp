@@ -4,18 +4,14 @@
 
 namespace quillon {
 
-namespace {
-
-const Annotations& annotationsOf(const AnnotationBook& book, std::string_view app) {
+const Annotations& AnnotationBook::annotations(std::string_view app) const {
     static const Annotations none;
-    const auto found = book.apps.find(app);
-    return found == book.apps.end() ? none : found->second;
+    const auto found = apps.find(app);
+    return found == apps.end() ? none : found->second;
 }
 
-} // namespace
-
 Annotation AnnotationBook::get(std::string_view app, std::string_view id) const {
-    const Annotations& known = annotationsOf(*this, app);
+    const Annotations& known = annotations(app);
     const auto found = known.find(id);
     return found == known.end() ? Annotation{} : found->second;
 }
@@ -42,7 +38,7 @@ void AnnotationBook::togglePin(std::string_view app, std::string_view id) {
 
 std::set<std::string, std::less<>> AnnotationBook::pinned(std::string_view app) const {
     std::set<std::string, std::less<>> ids;
-    for (const auto& [id, annotation] : annotationsOf(*this, app)) {
+    for (const auto& [id, annotation] : annotations(app)) {
         if (annotation.pinned)
             ids.insert(id);
     }
@@ -51,7 +47,7 @@ std::set<std::string, std::less<>> AnnotationBook::pinned(std::string_view app) 
 
 std::map<std::string, std::string, std::less<>> AnnotationBook::notes(std::string_view app) const {
     std::map<std::string, std::string, std::less<>> notes;
-    for (const auto& [id, annotation] : annotationsOf(*this, app)) {
+    for (const auto& [id, annotation] : annotations(app)) {
         if (!annotation.note.empty())
             notes.emplace(id, annotation.note);
     }

@@ -35,6 +35,9 @@ class AnnotationBook {
     void set(std::string_view app, std::string_view id, const Annotation& annotation);
     void togglePin(std::string_view app, std::string_view id);
 
+    /// What was said of the application's commands; empty for an unknown application. Valid until the book
+    /// changes.
+    const Annotations& annotations(std::string_view app) const;
     /// The ids that are pinned.
     std::set<std::string, std::less<>> pinned(std::string_view app) const;
     /// The notes that are not empty, by entry id, as they were stored.

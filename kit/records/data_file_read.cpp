@@ -1,6 +1,6 @@
 #include "data_file.h"
 
-#include "file_descriptor.h"
+#include <quillon/kit/base/file_descriptor.h>
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "data_file.h"
 
-#include "file_descriptor.h"
 #include "temporary_file.h"
+#include <quillon/kit/base/file_descriptor.h>
 
 #include <fcntl.h>
 #include <sys/stat.h>

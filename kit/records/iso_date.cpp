@@ -19,9 +19,9 @@ bool isDigit(char character) {
 
 /// Whether `text` has a digit wherever `pattern` has a '0', and the pattern's own character elsewhere.
 bool hasPattern(std::string_view text, std::string_view pattern) {
-    return std::equal(
-        text.begin(), text.end(), pattern.begin(), pattern.end(),
-        [](char character, char wanted) { return wanted == '0' ? isDigit(character) : character == wanted; });
+    return std::ranges::equal(text, pattern, [](char character, char wanted) {
+        return wanted == '0' ? isDigit(character) : character == wanted;
+    });
 }
 
 int number(std::string_view digits) {

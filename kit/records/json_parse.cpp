@@ -16,11 +16,13 @@ using Events = nlohmann::json_sax<nlohmann::json>;
 
 /// How far the parser has come.
 struct Progress {
-    std::size_t read = 0;
+    const char* at;
+    const char* end;
     bool ended = false; ///< it wanted more than there is
 };
 
-/// Walks through the text, telling its progress; the parser itself tells none.
+/// Walks through the text, telling its progress; the parser itself tells none. A second one stands for the
+/// end.
 class Watched {
   public:
     using iterator_category = std::input_iterator_tag;
@@ -29,21 +31,21 @@ class Watched {
     using pointer = const char*;
     using reference = const char&;
 
-    Watched(const char* at, Progress& progress) : m_at(at), m_progress(&progress) {}
+    explicit Watched(Progress& progress) : m_progress(&progress) {}
 
-    reference operator*() const { return *m_at; }
+    reference operator*() const { return *m_progress->at; }
     Watched& operator++() {
-        ++m_at;
-        ++m_progress->read;
+        ++m_progress->at;
         return *this;
     }
-    bool operator==(const Watched& end) const {
-        m_progress->ended = m_at == end.m_at;
-        return m_progress->ended;
+    bool operator==(const Watched&) const {
+        if (m_progress->at != m_progress->end)
+            return false;
+        m_progress->ended = true;
+        return true;
     }
 
   private:
-    const char* m_at;
     Progress* m_progress;
 };
 
@@ -51,13 +53,12 @@ class Watched {
 /// its length, and nesting by `maxDepth`.
 class EventCarrier : public Events {
   public:
-    EventCarrier(std::string_view json, Reader& root) : m_json(json), m_root(root) {}
+    EventCarrier(std::string_view json, Reader& root)
+        : m_json(json), m_progress{json.data(), json.data() + json.size()}, m_root(root) {}
 
     /// What is wrong with the text; absent as long as nothing is.
     std::optional<Fault> run() {
-        const char* const begin = m_json.data();
-        nlohmann::json::sax_parse(
-            Watched(begin, m_progress), Watched(begin + m_json.size(), m_progress), this);
+        nlohmann::json::sax_parse(Watched(m_progress), Watched(m_progress), this);
         return std::move(m_fault);
     }
 
@@ -93,7 +94,7 @@ class EventCarrier : public Events {
     bool key(string_t& name) override {
         if (m_skippedDepth == 0)
             m_member = m_open.back().reader->member(name);
-        m_tokenEnd = m_progress.read;
+        m_tokenEnd = read();
         return true;
     }
     bool end_object() override { return end(); }
@@ -134,6 +135,8 @@ class EventCarrier : public Events {
             m_open.back().reader->childDone();
     }
 
+    std::size_t read() const { return static_cast<std::size_t>(m_progress.at - m_json.data()); }
+
     /// Where the token stands that was read after the last one that was taken.
     std::size_t tokenBegin() const {
         return std::min(m_json.find_first_not_of(" \t\r\n,:", m_tokenEnd), m_json.size());
@@ -156,12 +159,12 @@ class EventCarrier : public Events {
     template <class Give>
     bool takeNumber(Give give) {
         // Where a number ends is known from the byte behind it, if there is one.
-        return take(give, m_progress.ended ? m_progress.read : m_progress.read - 1);
+        return take(give, m_progress.ended ? read() : read() - 1);
     }
 
     template <class Give>
     bool take(Give give) {
-        return take(give, m_progress.read);
+        return take(give, read());
     }
 
     template <class Give>
@@ -189,7 +192,7 @@ class EventCarrier : public Events {
             return refuseValue(reader, m_open.size());
         else
             m_open.push_back({reader, kind});
-        m_tokenEnd = m_progress.read;
+        m_tokenEnd = read();
         return true;
     }
 
@@ -202,7 +205,7 @@ class EventCarrier : public Events {
             m_open.pop_back();
             done();
         }
-        m_tokenEnd = m_progress.read;
+        m_tokenEnd = read();
         return true;
     }
 

@@ -12,7 +12,7 @@
 /// Writes values by their forms.
 namespace quillon::Json {
 
-template <Storable Value>
+template <class Value>
 void write(JsonWriter& json, const Value& value);
 
 namespace detail {
@@ -66,7 +66,7 @@ inline void writeValue(JsonWriter& json, std::int64_t value) {
     json.integer(value);
 }
 
-inline void writeValue(JsonWriter& json, const std::string& value) {
+inline void writeValue(JsonWriter& json, std::string_view value) {
     json.text(value);
 }
 
@@ -89,12 +89,12 @@ void writeValue(JsonWriter& json, const std::map<std::string, Element, std::less
 
 } // namespace detail
 
-template <Storable Value>
+template <class Value>
 void write(JsonWriter& json, const Value& value) {
     if constexpr (Record<Value>)
         detail::writeRecord(json, value);
     else if constexpr (StoredAsAnother<Value>)
-        write<typename Form<Value>::Stored>(json, Form<Value>::stored(value));
+        write(json, Form<Value>::stored(value));
     else
         detail::writeValue(json, value);
 }

@@ -18,8 +18,8 @@ std::optional<Instant> Form<Instant>::restored(std::string_view text) {
     return parseIsoDate(text);
 }
 
-std::string Form<SpecialKey>::stored(SpecialKey key) {
-    return std::string(rawValue(key));
+std::string_view Form<SpecialKey>::stored(SpecialKey key) {
+    return rawValue(key);
 }
 
 std::optional<SpecialKey> Form<SpecialKey>::restored(std::string_view rawValue) {

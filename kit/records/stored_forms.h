@@ -38,7 +38,7 @@ template <>
 struct Form<SpecialKey> {
     using Stored = std::string;
     static constexpr std::string_view expected = "the name of a key";
-    static Stored stored(SpecialKey key);
+    static std::string_view stored(SpecialKey key);
     static std::optional<SpecialKey> restored(std::string_view rawValue);
 };
 

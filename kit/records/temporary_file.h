@@ -1,6 +1,6 @@
 #pragma once
 
-#include "file_descriptor.h"
+#include <quillon/kit/base/file_descriptor.h>
 
 #include <filesystem>
 #include <optional>

@@ -73,7 +73,7 @@ std::vector<UsageBook::Ranked> UsageBook::mostClicked(std::string_view app, Coun
         if (stored.second.clicked > 0)
             candidates.push_back({checkedSubtract(stored.second.clicked, stored.second.typed), &stored});
     }
-    std::sort(candidates.begin(), candidates.end(), [](const Candidate& a, const Candidate& b) {
+    std::ranges::sort(candidates, [](const Candidate& a, const Candidate& b) {
         return a.lead != b.lead ? a.lead > b.lead : a.record->first > b.record->first;
     });
     if (static_cast<std::size_t>(limit) < candidates.size())

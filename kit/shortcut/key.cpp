@@ -31,9 +31,7 @@ constexpr std::array<PunctuationName, 13> punctuationNames{{
 }};
 
 std::string_view nameOfCharacter(std::string_view character) {
-    const auto row = std::find_if(
-        punctuationNames.begin(), punctuationNames.end(),
-        [character](const PunctuationName& candidate) { return candidate.character == character; });
+    const auto row = std::ranges::find(punctuationNames, character, &PunctuationName::character);
     return row == punctuationNames.end() ? character : row->name;
 }
 

@@ -42,7 +42,7 @@ bool matchesCharacter(const KeyStroke& stroke, std::string_view character, bool 
 
 bool KeyStroke::matches(const Shortcut& shortcut) const {
     constexpr Modifiers compared{Modifiers::control, Modifiers::option, Modifiers::command};
-    if (modifiers.intersected(compared) != shortcut.modifiers.intersected(compared))
+    if (modifiers.intersection(compared) != shortcut.modifiers.intersection(compared))
         return false;
     const bool shiftWanted = shortcut.modifiers.contains(Modifiers::shift);
     if (const SpecialKey* special = shortcut.key.asSpecial())

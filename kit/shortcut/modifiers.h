@@ -27,8 +27,8 @@ class Modifiers {
 
     /// From the accessibility modifier mask of a menu item: 1 shift, 2 option, 4 control, 8 *no* command.
     /// Other bits are ignored, so 0 is ⌘ alone.
-    static constexpr Modifiers fromAxMask(std::int64_t mask);
-    /// The mask from which `fromAxMask` makes the four named members again; bits without a name are lost.
+    static constexpr Modifiers fromAXMask(std::int64_t mask);
+    /// The mask from which `fromAXMask` makes the four named members again; bits without a name are lost.
     constexpr std::int64_t axMask() const;
 
     constexpr std::int64_t rawValue() const { return m_raw; }
@@ -37,8 +37,8 @@ class Modifiers {
     constexpr bool contains(Modifiers other) const { return (m_raw & other.m_raw) == other.m_raw; }
     constexpr bool isDisjoint(Modifiers other) const { return (m_raw & other.m_raw) == 0; }
 
-    constexpr Modifiers united(Modifiers other) const { return Modifiers(m_raw | other.m_raw); }
-    constexpr Modifiers intersected(Modifiers other) const { return Modifiers(m_raw & other.m_raw); }
+    constexpr Modifiers union_(Modifiers other) const { return Modifiers(m_raw | other.m_raw); }
+    constexpr Modifiers intersection(Modifiers other) const { return Modifiers(m_raw & other.m_raw); }
     constexpr Modifiers symmetricDifference(Modifiers other) const { return Modifiers(m_raw ^ other.m_raw); }
     constexpr Modifiers subtracting(Modifiers other) const { return Modifiers(m_raw & ~other.m_raw); }
 
@@ -62,7 +62,7 @@ class Modifiers {
 };
 
 constexpr Modifiers operator|(Modifiers a, Modifiers b) {
-    return a.united(b);
+    return a.union_(b);
 }
 
 inline constexpr Modifiers Modifiers::control{1};
@@ -70,7 +70,7 @@ inline constexpr Modifiers Modifiers::option{2};
 inline constexpr Modifiers Modifiers::shift{4};
 inline constexpr Modifiers Modifiers::command{8};
 
-constexpr Modifiers Modifiers::fromAxMask(std::int64_t mask) {
+constexpr Modifiers Modifiers::fromAXMask(std::int64_t mask) {
     Modifiers result;
     if (mask & 1)
         result.insert(shift);
@@ -109,7 +109,7 @@ constexpr bool Modifiers::remove(Modifiers other) {
 }
 
 constexpr std::optional<Modifiers> Modifiers::update(Modifiers other) {
-    const Modifiers held = intersected(other);
+    const Modifiers held = intersection(other);
     m_raw |= other.m_raw;
     return held.isEmpty() ? std::nullopt : std::optional(held);
 }

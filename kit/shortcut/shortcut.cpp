@@ -26,7 +26,7 @@ std::optional<Key> keyOf(const AxKeyEquivalent& equivalent) {
             return key;
     }
     // Glyph 0, which means none, is in no table.
-    if (const auto special = equivalent.glyph ? SpecialKeys::fromAxGlyph(*equivalent.glyph) : std::nullopt)
+    if (const auto special = equivalent.glyph ? SpecialKeys::fromAXGlyph(*equivalent.glyph) : std::nullopt)
         return Key::special(*special);
     if (const auto special =
             equivalent.virtualKey ? SpecialKeys::fromKeyCode(*equivalent.virtualKey) : std::nullopt)
@@ -40,7 +40,7 @@ std::optional<Shortcut> Shortcut::fromAX(const AxKeyEquivalent& equivalent) {
     std::optional<Key> key = keyOf(equivalent);
     if (!key)
         return std::nullopt;
-    return Shortcut{Modifiers::fromAxMask(equivalent.modifiers.value_or(0)), *std::move(key)};
+    return Shortcut{Modifiers::fromAXMask(equivalent.modifiers.value_or(0)), *std::move(key)};
 }
 
 std::string Shortcut::display() const {

@@ -13,7 +13,7 @@ namespace quillon {
 /// The four attributes in which a menu item tells its key equivalent; each absent when the item lacks it.
 struct AxKeyEquivalent {
     std::optional<std::string> character = {};
-    std::optional<std::int64_t> modifiers = {};  ///< accessibility mask, see `Modifiers::fromAxMask`
+    std::optional<std::int64_t> modifiers = {};  ///< accessibility mask, see `Modifiers::fromAXMask`
     std::optional<std::int64_t> glyph = {};      ///< menu glyph number; 0 means none
     std::optional<std::int64_t> virtualKey = {}; ///< virtual key code; names special keys only
 

@@ -93,9 +93,7 @@ std::string_view glyph(SpecialKey key) {
 }
 
 std::optional<SpecialKey> SpecialKeys::fromRawValue(std::string_view rawValue) {
-    const auto row = std::find_if(rows.begin(), rows.end(), [rawValue](const Row& candidate) {
-        return candidate.rawValue == rawValue;
-    });
+    const auto row = std::ranges::find(rows, rawValue, &Row::rawValue);
     return row == rows.end() ? std::nullopt : std::optional(row->key);
 }
 

@@ -67,7 +67,7 @@ namespace SpecialKeys {
 /// From the stored form.
 std::optional<SpecialKey> fromRawValue(std::string_view rawValue);
 /// From the accessibility menu glyph number (`kMenu…Glyph` of the Carbon Menu Manager). 0 means no glyph.
-std::optional<SpecialKey> fromAxGlyph(std::int64_t glyph);
+std::optional<SpecialKey> fromAXGlyph(std::int64_t glyph);
 /// From a macOS virtual key code (`kVK_…` of the ANSI layout). Letters have no special key.
 std::optional<SpecialKey> fromKeyCode(std::int64_t keyCode);
 /// From one character (UTF-8): the control characters and the private-use function-key code points
@@ -76,7 +76,7 @@ std::optional<SpecialKey> fromCharacter(std::string_view character);
 
 /// The scalar that `fromCharacter` takes for the key; absent for Eject alone, which has none.
 std::optional<char32_t> characterOf(SpecialKey key);
-/// The number that `fromAxGlyph` takes for the key. Every special key has one.
+/// The number that `fromAXGlyph` takes for the key. Every special key has one.
 std::int64_t axGlyphOf(SpecialKey key);
 
 } // namespace SpecialKeys

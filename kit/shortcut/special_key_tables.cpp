@@ -66,10 +66,7 @@ constexpr bool isAscending(std::span<const Row> rows) {
 static_assert(isAscending(glyphRows) && isAscending(keyCodeRows) && isAscending(characterRows));
 
 std::optional<SpecialKey> find(std::span<const Row> rows, std::int64_t number) {
-    const auto row =
-        std::lower_bound(rows.begin(), rows.end(), number, [](const Row& candidate, std::int64_t sought) {
-            return candidate.number < sought;
-        });
+    const auto row = std::ranges::lower_bound(rows, number, {}, &Row::number);
     return row != rows.end() && row->number == number ? std::optional(row->key) : std::nullopt;
 }
 
@@ -88,7 +85,7 @@ static_assert(namesEveryKey(glyphRows));
 
 } // namespace
 
-std::optional<SpecialKey> fromAxGlyph(std::int64_t glyph) {
+std::optional<SpecialKey> fromAXGlyph(std::int64_t glyph) {
     return find(glyphRows, glyph);
 }
 

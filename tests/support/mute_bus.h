@@ -1,6 +1,6 @@
 #pragma once
 
-#include "temporary_folder.h"
+#include <quillon/tests/support/system/temporary_folder.h>
 
 #include <string>
 

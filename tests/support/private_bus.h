@@ -1,9 +1,8 @@
 #pragma once
 
-#include "temporary_folder.h"
+#include <quillon/tests/support/system/bus_daemon.h>
 
 #include <QDBusConnection>
-#include <QProcess>
 
 #include <string>
 
@@ -12,22 +11,20 @@ namespace quillon {
 /// A message bus of its own that starts no services, as long as this object lives.
 class PrivateBus {
   public:
-    PrivateBus();
+    PrivateBus() = default;
     ~PrivateBus();
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
 
-    bool isRunning() const { return !m_address.isEmpty(); }
+    bool isRunning() const { return m_daemon.isRunning(); }
     /// Where it listens.
-    std::string address() const { return m_address.toStdString(); }
+    const std::string& address() const { return m_daemon.address(); }
     /// Another connection to the bus, which ends with this object.
     QDBusConnection connect();
-    void kill();
+    void kill() { m_daemon.kill(); }
 
   private:
-    TemporaryFolder m_folder;
-    QProcess m_process;
-    QString m_address;
+    BusDaemon m_daemon;
     QStringList m_names;
 };
 

@@ -22,7 +22,7 @@ class FakeKeyboard final : public Keyboard {
     std::unique_ptr<InputAges> observeInput() override;
 
     /// Puts modifiers down, lets them go, or sets the whole set; tells when that changed it.
-    void press(Modifiers keys) { set(m_down.united(keys)); }
+    void press(Modifiers keys) { set(m_down.union_(keys)); }
     void release(Modifiers keys) { set(m_down.subtracting(keys)); }
     void set(Modifiers down);
     /// Changes the set without telling, as an event that was missed.

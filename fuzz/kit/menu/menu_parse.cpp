@@ -50,8 +50,8 @@ void checkEntry(const MenuEntry& entry, const KeyStroke& stroke) {
     QUILLON_LAW(!entry.shortcut.display().empty() && !entry.shortcut.spoken().empty());
     QUILLON_LAW(
         !stroke.matches(entry.shortcut)
-        || stroke.modifiers.intersected(Modifiers(11))
-               == entry.shortcut.modifiers.intersected(Modifiers(11)));
+        || stroke.modifiers.intersection(Modifiers(11))
+               == entry.shortcut.modifiers.intersection(Modifiers(11)));
     if (const std::string* character = entry.shortcut.key.asCharacter())
         QUILLON_LAW(unicode::toUpper(*character) == *character);
 }

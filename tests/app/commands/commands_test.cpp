@@ -3,7 +3,7 @@
 #include <quillon/app/platform/fake/fake_clock.h>
 #include <quillon/app/platform/fake/fake_menu_reader.h>
 #include <quillon/app/platform/fake/fake_running_program.h>
-#include <quillon/tests/support/temporary_folder.h>
+#include <quillon/tests/support/system/temporary_folder.h>
 
 #include <gtest/gtest.h>
 

@@ -115,6 +115,29 @@ TEST(Unicode, ValidityIsThatOfUtf8) {
         EXPECT_FALSE(unicode::isValid(broken)) << broken;
 }
 
+TEST(Unicode, AppendsEveryScalar) {
+    std::string text = "a";
+    for (const char32_t scalar : {U'b', U'\0', U'\x7f', U'é', U'\u07ff', U'\u0800', U'⌘', U'\uffff', U'😀'})
+        unicode::append(text, scalar);
+    EXPECT_EQ(text, "ab\0\x7fé\u07ff\u0800⌘\uffff😀"s);
+    for (char32_t scalar = 0; scalar <= 0x10ffff; ++scalar) {
+        std::string alone;
+        unicode::append(alone, scalar);
+        const bool isSurrogate = scalar >= 0xd800 && scalar < 0xe000;
+        ASSERT_EQ(unicode::onlyScalar(alone), isSurrogate ? U'\ufffd' : scalar);
+        ASSERT_TRUE(unicode::isValid(alone));
+    }
+}
+
+TEST(Unicode, AppendsNothingThatIsNoScalar) {
+    for (const char32_t none :
+         {char32_t{0xd800}, char32_t{0xdfff}, char32_t{0x110000}, char32_t{0xffffffff}}) {
+        std::string text;
+        unicode::append(text, none);
+        EXPECT_EQ(text, "\ufffd");
+    }
+}
+
 TEST(Unicode, RepairReplacesEachMaximalBrokenSequence) {
     EXPECT_EQ(unicode::repaired("plain é"), "plain é");
     EXPECT_EQ(unicode::repaired("a\xffz"), "a\ufffdz");

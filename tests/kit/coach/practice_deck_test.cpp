@@ -171,7 +171,7 @@ TEST(PracticeDeck, DrawsEachEntryAtMostOnceAndOnlyPracticableOnes) {
         std::set<std::string> ids;
         for (const MenuEntry& one : drawn) {
             EXPECT_TRUE(ids.insert(one.id()).second);
-            EXPECT_NE(std::find(practicable.begin(), practicable.end(), one), practicable.end());
+            EXPECT_NE(std::ranges::find(practicable, one), practicable.end());
         }
     }
 }

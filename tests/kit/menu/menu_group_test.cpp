@@ -52,20 +52,19 @@ TEST(MenuGroup, KeepsEveryEntryOnceAndInOrder) {
         for (const MenuGroup& group : groups) {
             EXPECT_TRUE(menus.insert(group.menu).second) << "two groups of one menu";
             std::vector<MenuEntry> expected;
-            std::copy_if(
-                entries.begin(), entries.end(), std::back_inserter(expected),
-                [&group](const MenuEntry& entry) { return entry.menu() == group.menu; });
+            std::ranges::copy_if(entries, std::back_inserter(expected), [&group](const MenuEntry& entry) {
+                return entry.menu() == group.menu;
+            });
             EXPECT_EQ(group.entries, expected);
             total += group.entries.size();
         }
         EXPECT_EQ(total, entries.size());
         auto from = entries.begin();
         for (const MenuGroup& group : groups) {
-            from = std::find_if(entries.begin(), entries.end(), [&group](const MenuEntry& e) {
-                return e.menu() == group.menu;
-            });
-            EXPECT_TRUE(std::none_of(entries.begin(), from, [&](const MenuEntry& earlier) {
-                return std::none_of(groups.data(), &group, [&](const MenuGroup& before) {
+            from = std::ranges::find_if(
+                entries, [&group](const MenuEntry& e) { return e.menu() == group.menu; });
+            EXPECT_TRUE(std::ranges::none_of(entries.begin(), from, [&](const MenuEntry& earlier) {
+                return std::ranges::none_of(groups.data(), &group, [&](const MenuGroup& before) {
                     return before.menu == earlier.menu();
                 });
             })) << "groups come in order of first appearance";

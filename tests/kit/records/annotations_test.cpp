@@ -90,6 +90,14 @@ TEST(AnnotationBook, ListsPinsAndNotesOfOneApplication) {
         book.notes("app"), ElementsAre(Pair("blank", " "), Pair("both", "b"), Pair("noted", " as it is \n")));
 }
 
+TEST(AnnotationBook, GivesAllOfAnApplication) {
+    AnnotationBook book;
+    EXPECT_TRUE(book.annotations("app").empty());
+    book.set("app", "id", {.note = "n"});
+    EXPECT_THAT(book.annotations("app"), ElementsAre(Pair("id", Annotation{.note = "n"})));
+    EXPECT_TRUE(book.annotations("other").empty());
+}
+
 TEST(AnnotationBook, NeverHoldsAnythingEmpty) {
     RandomValues random(71);
     AnnotationBook book;

@@ -145,8 +145,7 @@ TEST(JsonEncode, WritesOneLineOfSortedJsonForAnyValue) {
             const auto parsed = nlohmann::ordered_json::parse(*json);
             EXPECT_TRUE(namesAreSorted(parsed));
             EXPECT_EQ(
-                parsed.dump().size() + static_cast<std::size_t>(std::count(json->begin(), json->end(), '/')),
-                json->size())
+                parsed.dump().size() + static_cast<std::size_t>(std::ranges::count(*json, '/')), json->size())
                 << "no blanks, and nothing escaped but what must be and slashes";
         }
     }

@@ -1,9 +1,8 @@
 #include "child_process.h"
-#include "temporary_folder.h"
-
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/json_file.h>
 #include <quillon/kit/records/sample_records.h>
+#include <quillon/tests/support/system/temporary_folder.h>
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,5 @@
-#include "temporary_folder.h"
-
 #include <quillon/kit/records/json_file.h>
+#include <quillon/tests/support/system/temporary_folder.h>
 
 #include <gtest/gtest.h>
 

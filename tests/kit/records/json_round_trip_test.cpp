@@ -1,3 +1,4 @@
+#include <quillon/kit/base/unicode.h>
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/json_codec.h>
 #include <quillon/kit/records/sample_records.h>
@@ -54,18 +55,7 @@ TEST(JsonRoundTrip, KeepsEveryScalar) {
     for (char32_t scalar = 0; scalar <= 0x10ffff; ++scalar) {
         if (scalar >= 0xd800 && scalar < 0xe000)
             continue;
-        const auto byte = [](char32_t bits) { return static_cast<char>(bits); };
-        if (scalar < 0x80)
-            annotation.note += byte(scalar);
-        else if (scalar < 0x800)
-            annotation.note.append({byte(0xc0 | scalar >> 6), byte(0x80 | (scalar & 0x3f))});
-        else if (scalar < 0x10000)
-            annotation.note.append(
-                {byte(0xe0 | scalar >> 12), byte(0x80 | (scalar >> 6 & 0x3f)), byte(0x80 | (scalar & 0x3f))});
-        else
-            annotation.note.append(
-                {byte(0xf0 | scalar >> 18), byte(0x80 | (scalar >> 12 & 0x3f)),
-                 byte(0x80 | (scalar >> 6 & 0x3f)), byte(0x80 | (scalar & 0x3f))});
+        unicode::append(annotation.note, scalar);
     }
     expectRoundTrip(book);
 }

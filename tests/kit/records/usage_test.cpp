@@ -148,10 +148,8 @@ TEST(UsageBook, RanksEveryClickedCommandExactlyOnce) {
                 .typed = static_cast<Count>(random.number(0, 5))};
         }
         const std::vector<UsageBook::Ranked> ranked = book.mostClicked("app", 1000);
-        const auto clicked =
-            std::count_if(book.records("app").begin(), book.records("app").end(), [](const auto& stored) {
-                return stored.second.clicked > 0;
-            });
+        const auto clicked = std::ranges::count_if(
+            book.records("app"), [](const auto& stored) { return stored.second.clicked > 0; });
         EXPECT_EQ(std::ssize(ranked), clicked);
         for (std::size_t i = 1; i < ranked.size(); ++i) {
             const Count before = ranked[i - 1].record.clicked - ranked[i - 1].record.typed;

@@ -74,7 +74,7 @@ TEST(AxOfCharacter, TellsNothingOfWhatCannotBeSeen) {
 
 TEST(AxMask, LeadsBackForEverySetOfModifiers) {
     for (std::int64_t bits = 0; bits <= everyModifier; ++bits)
-        EXPECT_EQ(Modifiers::fromAxMask(Modifiers(bits).axMask()), Modifiers(bits));
+        EXPECT_EQ(Modifiers::fromAXMask(Modifiers(bits).axMask()), Modifiers(bits));
 }
 
 } // namespace

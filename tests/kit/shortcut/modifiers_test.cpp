@@ -43,9 +43,9 @@ TEST(Modifiers, FollowTheAlgebraOfSets) {
         for (std::int64_t b = 0; b < 16; ++b) {
             const Modifiers first(a);
             const Modifiers second(b);
-            EXPECT_EQ(first.united(second).rawValue(), a | b);
+            EXPECT_EQ(first.union_(second).rawValue(), a | b);
             EXPECT_EQ((first | second).rawValue(), a | b);
-            EXPECT_EQ(first.intersected(second).rawValue(), a & b);
+            EXPECT_EQ(first.intersection(second).rawValue(), a & b);
             EXPECT_EQ(first.symmetricDifference(second).rawValue(), a ^ b);
             EXPECT_EQ(first.subtracting(second).rawValue(), a & ~b);
             EXPECT_EQ(first.contains(second), (a & b) == b);
@@ -118,8 +118,8 @@ TEST(Modifiers, ComeFromEveryAccessibilityMask) {
              {16, "⌘"},
              {24, ""},
              {-1, "⌃⌥⇧"}})
-        EXPECT_EQ(Modifiers::fromAxMask(mask).glyphs(), glyphs) << mask;
-    EXPECT_EQ(Modifiers::fromAxMask(1 << 20).rawValue(), 8) << "bits above 8 are ignored";
+        EXPECT_EQ(Modifiers::fromAXMask(mask).glyphs(), glyphs) << mask;
+    EXPECT_EQ(Modifiers::fromAXMask(1 << 20).rawValue(), 8) << "bits above 8 are ignored";
 }
 
 TEST(Modifiers, HashByTheirBits) {

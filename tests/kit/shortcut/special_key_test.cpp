@@ -97,7 +97,7 @@ TEST(SpecialKey, ComesFromTheAccessibilityGlyphNumbers) {
     for (std::int64_t number = -300; number < 300; ++number) {
         const auto row = table.find(number);
         EXPECT_EQ(
-            SpecialKeys::fromAxGlyph(number), row == table.end() ? std::nullopt : std::optional(row->second))
+            SpecialKeys::fromAXGlyph(number), row == table.end() ? std::nullopt : std::optional(row->second))
             << number;
     }
 }
@@ -128,14 +128,7 @@ TEST(SpecialKey, ComesFromTheVirtualKeyCodes) {
 
 std::string encoded(char32_t scalar) {
     std::string text;
-    if (scalar < 0x80)
-        text.push_back(static_cast<char>(scalar));
-    else if (scalar < 0x800)
-        text = {static_cast<char>(0xc0 | scalar >> 6), static_cast<char>(0x80 | (scalar & 0x3f))};
-    else
-        text = {
-            static_cast<char>(0xe0 | scalar >> 12), static_cast<char>(0x80 | (scalar >> 6 & 0x3f)),
-            static_cast<char>(0x80 | (scalar & 0x3f))};
+    unicode::append(text, scalar);
     return text;
 }
 

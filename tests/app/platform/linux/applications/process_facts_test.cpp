@@ -1,5 +1,5 @@
-#include <quillon/tests/support/lonely_pipe.h>
-#include <quillon/tests/support/temporary_folder.h>
+#include <quillon/tests/support/system/lonely_pipe.h>
+#include <quillon/tests/support/system/temporary_folder.h>
 
 #include <quillon/app/platform/linux/applications/process_facts.h>
 

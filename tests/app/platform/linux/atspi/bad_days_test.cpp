@@ -1,11 +1,13 @@
 #include "fake_app_process.h"
-#include "private_bus.h"
+#include "kill_accessibility_bus.h"
 
 #include <quillon/app/platform/linux/atspi/accessibility_bus.h>
 #include <quillon/app/platform/linux/atspi/bus_values.h>
 #include <quillon/app/platform/linux/atspi/menu_reader.h>
 #include <quillon/app/platform/linux/atspi/running_apps.h>
 #include <quillon/kit/menu/menu_parser.h>
+#include <quillon/tests/support/system/bus_daemon.h>
+#include <quillon/tests/support/system/environment_variable.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -227,7 +229,7 @@ TEST(BadDay, WithoutASessionBusNothingIsRead) {
 
 TEST(BadDay, WithoutAnAccessibilityBusNothingIsRead) {
     const FakeAppProcess process({});
-    const BareSessionBus bare;
+    const BusDaemon bare;
     ASSERT_TRUE(bare.isRunning());
     const EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", bare.address());
     EXPECT_EQ(read(process).reading.outcome, ReadOutcome::unavailable);

@@ -27,7 +27,7 @@ void checkEquivalent(const AxKeyEquivalent& equivalent) {
     }
     QUILLON_LAW(shortcut.has_value());
     QUILLON_LAW(equivalent.modifiers && *equivalent.modifiers >= 0 && *equivalent.modifiers <= 15);
-    QUILLON_LAW(shortcut->modifiers == Modifiers::fromAxMask(*equivalent.modifiers));
+    QUILLON_LAW(shortcut->modifiers == Modifiers::fromAXMask(*equivalent.modifiers));
     QUILLON_LAW(equivalent.character.has_value() != equivalent.glyph.has_value());
     QUILLON_LAW(!equivalent.virtualKey);
     QUILLON_LAW(!equivalent.character || unicode::onlyScalar(*equivalent.character));

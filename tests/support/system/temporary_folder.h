@@ -16,8 +16,10 @@ class TemporaryFolder {
     ~TemporaryFolder();
 
     const std::filesystem::path& path() const { return m_path; }
-    std::filesystem::path operator/(std::string_view name) const { return m_path / name; }
+    std::filesystem::path operator/(const std::filesystem::path& name) const { return m_path / name; }
 
+    /// Writes a file below, and the folders above it; where it is.
+    std::filesystem::path write(const std::filesystem::path& name, std::string_view bytes) const;
     /// The names of what lies directly in it.
     std::set<std::string> names() const;
 

@@ -23,6 +23,13 @@ TemporaryFolder::~TemporaryFolder() {
     fs::remove_all(m_path, ignored);
 }
 
+fs::path TemporaryFolder::write(const fs::path& name, std::string_view bytes) const {
+    const fs::path file = m_path / name;
+    fs::create_directories(file.parent_path());
+    writeFile(file, bytes);
+    return file;
+}
+
 std::set<std::string> TemporaryFolder::names() const {
     std::set<std::string> names;
     for (const fs::directory_entry& entry : fs::directory_iterator(m_path))
