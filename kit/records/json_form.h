@@ -67,7 +67,7 @@ concept Record = requires {
 
 template <class Value>
 concept StoredAsAnother = requires(const Value& value, const typename Form<Value>::Stored& stored) {
-    requires std::constructible_from<typename Form<Value>::Stored, decltype(Form<Value>::stored(value))>;
+    static_cast<typename Form<Value>::Stored>(Form<Value>::stored(value));
     { Form<Value>::restored(stored) } -> std::same_as<std::optional<Value>>;
     { Form<Value>::expected } -> std::convertible_to<std::string_view>;
 };
