@@ -2,6 +2,8 @@
 
 #include "colours.h"
 
+#include <QAction>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -11,7 +13,10 @@ void styleMenu(QMenu& menu, const Theme& theme) {
     const QString sheet = u"QMenu { background: %1; border: 1px solid %2; padding: 4px; }"
                           "QMenu::item { color: %3; padding: 5px 22px 5px 12px; border-radius: 5px; }"
                           "QMenu::item:selected:enabled { background: %4; color: %5; }"
-                          "QMenu::item:disabled { color: %6; }"_s;
+                          "QMenu::item:disabled { color: %6; }"
+                          "QMenu::separator { height: 1px; background: %2; margin: 4px 8px; }"_s;
+    for (QAction* const action : menu.actions())
+        action->setIconVisibleInMenu(false);
     menu.setFont(theme.styles.body);
     menu.setStyleSheet(sheet.arg(
         Colours::css(palette.card), Colours::css(Colours::over(palette.windowBorder, palette.card)),

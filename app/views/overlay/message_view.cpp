@@ -1,5 +1,6 @@
 #include "message_view.h"
 
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -12,6 +13,7 @@ constexpr int padding = 30;
 constexpr int spacing = 12;
 constexpr int symbolSize = 34;
 constexpr int widestBody = 440;
+constexpr int bodyStretch = 1000;
 
 } // namespace
 
@@ -37,7 +39,12 @@ MessageView::MessageView(ThemeSource& themeSource, QWidget* parent)
     column->addStretch(4);
     column->addWidget(m_symbol, 0, Qt::AlignHCenter);
     column->addWidget(m_title);
-    column->addWidget(m_body);
+    // As wide as there is room, and in the middle where there is more than it takes.
+    auto* bodyRow = new QHBoxLayout;
+    bodyRow->addStretch(1);
+    bodyRow->addWidget(m_body, bodyStretch);
+    bodyRow->addStretch(1);
+    column->addLayout(bodyRow);
     column->addWidget(m_action, 0, Qt::AlignHCenter);
     column->addStretch(5);
 }
