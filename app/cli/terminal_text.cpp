@@ -2,6 +2,8 @@
 
 #include "terminal_width.h"
 
+#include <quillon/kit/base/unicode.h>
+
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
 
@@ -39,13 +41,6 @@ bool isObeyed(UChar32 scalar) {
     }
 }
 
-void append(std::string& text, UChar32 scalar) {
-    char bytes[U8_MAX_LENGTH];
-    std::size_t length = 0;
-    U8_APPEND_UNSAFE(bytes, length, scalar);
-    text.append(bytes, length);
-}
-
 void appendWrittenOut(std::string& text, UChar32 scalar) {
     char name[16];
     std::snprintf(name, sizeof name, "<U+%04X>", static_cast<unsigned>(scalar));
@@ -65,7 +60,7 @@ std::string shown(std::string_view foreign, LineBreaks lineBreaks) {
         if (isObeyed(scalar) && !isKept)
             appendWrittenOut(text, scalar);
         else
-            append(text, scalar);
+            unicode::append(text, static_cast<char32_t>(scalar));
     }
     return text;
 }

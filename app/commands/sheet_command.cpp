@@ -73,16 +73,11 @@ practiceRound(const AppSheet& sheet, const PracticeRequest& request, const Recor
         request.count, generator);
 }
 
-Annotations annotationsOf(const std::string& bundleID, const Records& records) {
-    const auto found = records.annotations.apps.find(bundleID);
-    return found == records.annotations.apps.end() ? Annotations{} : found->second;
-}
-
 void print(const AppSheet& sheet, const SheetCommand& command, const Records& records, Output& output) {
     switch (command.format) {
     case SheetFormat::json: output.printData(Json::encode(sheet).value_or("") + '\n'); return;
     case SheetFormat::markdown:
-        output.print(markdownText(sheet, annotationsOf(sheet.bundleID, records)));
+        output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID)));
         return;
     case SheetFormat::text: break;
     }

@@ -8,14 +8,17 @@
 
 namespace quillon {
 
-/// Owns an open file; negative when there is none.
+/// Owns an open file, by the number that a system call returned: negative for none.
 class FileDescriptor {
   public:
-    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
+    explicit FileDescriptor(int descriptor = -1) : m_descriptor(descriptor) {}
     FileDescriptor(FileDescriptor&& other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
     FileDescriptor(const FileDescriptor&) = delete;
     FileDescriptor& operator=(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(FileDescriptor&&) = delete;
     ~FileDescriptor() {
         if (m_descriptor >= 0)
             ::close(m_descriptor);

@@ -27,19 +27,13 @@ class MenuNumbers {
     std::unordered_map<std::string_view, std::size_t> m_numbers;
 };
 
-const Annotations& annotationsOf(const AnnotationBook& book, const std::string& bundleID) {
-    static const Annotations none;
-    const auto found = book.apps.find(bundleID);
-    return found == book.apps.end() ? none : found->second;
-}
-
 } // namespace
 
 PreparedSheet
 PreparedSheet::prepare(const AppSheet& sheet, const AnnotationBook& annotations, const UsageBook& usage) {
     PreparedSheet prepared{
         .bundleID = sheet.bundleID, .appName = foreignLine(sheet.appName), .entries = {}, .menus = {}};
-    const Annotations& said = annotationsOf(annotations, sheet.bundleID);
+    const Annotations& said = annotations.annotations(sheet.bundleID);
     const UsageRecords& records = usage.records(sheet.bundleID);
     MenuNumbers menus(prepared.menus);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <quillon/kit/menu/menu_parser.h>
+
 #include <chrono>
 #include <cstddef>
 
@@ -21,7 +23,7 @@ struct ReadLimits {
     /// Menu items in all, with those of the lists that were open when `items` was reached.
     std::size_t itemsAtMost = 16000;
     /// The deepest items whose children are read; top-level menus are at depth 0.
-    int depth = 4;
+    int depth = MenuParser::defaultMaxDepth;
     /// Bytes of a title or a name; longer ones are cut between characters. Room for a file's whole path.
     std::size_t titleBytes = 4096;
     /// Bytes of a key binding; a longer one is none.

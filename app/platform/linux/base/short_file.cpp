@@ -1,8 +1,7 @@
 #include "short_file.h"
 
-#include "descriptor.h"
+#include <quillon/kit/base/file_descriptor.h>
 
-#include <cerrno>
 #include <cstddef>
 
 #include <fcntl.h>
@@ -16,21 +15,13 @@ namespace {
 /// These files are short; one that is not is not what it seems.
 constexpr std::size_t fileLimit = 65536;
 
-template <class Call>
-auto uninterrupted(Call call) {
-    auto result = call();
-    while (result < 0 && errno == EINTR)
-        result = call();
-    return result;
-}
-
-bool isOrdinary(const Descriptor& file) {
+bool isOrdinary(const FileDescriptor& file) {
     struct stat status {};
     return file && ::fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 /// Everything up to the end. The size is not asked for: files of the proc file system say that it is 0.
-std::optional<std::string> readAll(const Descriptor& file) {
+std::optional<std::string> readAll(const FileDescriptor& file) {
     std::string bytes(fileLimit + 1, '\0');
     std::size_t filled = 0;
     while (filled < bytes.size()) {
@@ -50,7 +41,7 @@ std::optional<std::string> readAll(const Descriptor& file) {
 } // namespace
 
 std::optional<std::string> readShortFile(const std::filesystem::path& path) {
-    const Descriptor file(uninterrupted(
+    const FileDescriptor file(uninterrupted(
         [&path] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY); }));
     return isOrdinary(file) ? readAll(file) : std::nullopt;
 }

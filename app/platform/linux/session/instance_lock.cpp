@@ -64,7 +64,7 @@ bool InstanceLock::takeOver(std::chrono::milliseconds limit) {
     if (take())
         return true;
     const pid_t pid = holderOf(m_file.get());
-    const Descriptor process(pid > 0 ? ::pidfd_open(pid, 0) : -1);
+    const FileDescriptor process(pid > 0 ? ::pidfd_open(pid, 0) : -1);
     // Asked again, for the number may have become another process's before it was opened.
     if (!process || holderOf(m_file.get()) != pid)
         return take();

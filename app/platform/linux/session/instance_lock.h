@@ -2,7 +2,7 @@
 
 #include "session_kind.h"
 
-#include <quillon/app/platform/linux/base/descriptor.h>
+#include <quillon/kit/base/file_descriptor.h>
 
 #include <chrono>
 #include <filesystem>
@@ -26,7 +26,7 @@ class InstanceLock {
     bool takeOver(std::chrono::milliseconds limit);
 
   private:
-    Descriptor m_file;
+    FileDescriptor m_file;
 };
 
 } // namespace quillon

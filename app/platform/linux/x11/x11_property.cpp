@@ -1,5 +1,7 @@
 #include "x11_property.h"
 
+#include <quillon/kit/base/unicode.h>
+
 #include <algorithm>
 
 namespace quillon {
@@ -32,15 +34,8 @@ std::optional<std::uint32_t> X11Property::number() const {
 
 std::string latin1ToUtf8(const std::string& latin1) {
     std::string result;
-    for (const char c : latin1) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x80) {
-            result.push_back(c);
-        } else {
-            result.push_back(static_cast<char>(0xC0 | (byte >> 6)));
-            result.push_back(static_cast<char>(0x80 | (byte & 0x3F)));
-        }
-    }
+    for (const char byte : latin1)
+        unicode::append(result, static_cast<unsigned char>(byte));
     return result;
 }
 
