@@ -79,7 +79,7 @@ void Program::showOverlayOnceTrusted() {
 }
 
 void Program::activate() {
-    m_tray.menu().popup(QCursor::pos());
+    m_tray.popUp(QCursor::pos());
 }
 
 void Program::showSample() {

@@ -70,7 +70,7 @@ ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** a
     if (!platform.prepareDisplay())
         return output.fail(
             ExitCode::failure, "there is no display; start it in a graphical session, or use quillon sheet");
-    QApplication::setApplicationName(QStringLiteral("quillon"));
+    QApplication::setApplicationName(QStringLiteral("Quillon")); // trays and screen readers tell it
     QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QStringLiteral("app.quillon.Quillon"));
 

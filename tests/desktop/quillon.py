@@ -118,6 +118,10 @@ class QuillonTestCase(desktop.DesktopTestCase):
         program = self.start(QUILLON, *arguments, environment=environment)
         wait_until("quillon on the session bus", lambda: owns_name(SERVICE) or not program.is_running())
         self.assertTrue(program.is_running(), program.messages.read_text())
+        return self.adopt(program)
+
+    def adopt(self, program):
+        """Takes a program that was started for the one that the test looks at."""
         self.quillon, self.overlay = program, Overlay(program.pid)
         return program
 

@@ -1,6 +1,5 @@
 #include "tray_menu.h"
 
-#include "tray_icon.h"
 #include "tray_texts.h"
 
 #include <quillon/app/views/components/foreign_text.h>
@@ -22,21 +21,17 @@ QString menuText(QString text) {
 } // namespace
 
 TrayMenu::TrayMenu(AppModel& model, ThemeSource& themes, std::function<void()> quit)
-    : m_model(model), m_themes(themes), m_quit(std::move(quit)) {
+    : m_model(model), m_quit(std::move(quit)),
+      m_item(
+          m_menu, themes,
+          {.openMenu = [this](QPoint place) { popUp(place); },
+           .showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); }}) {
     build();
-    m_icon.setContextMenu(&m_menu);
-    m_icon.setToolTip(TrayTexts::programName());
     m_modelChange = model.changed.subscribe([this](ModelField) { modelChanged(); });
-    m_themeChange = themes.changed.subscribe([this] { themeChanged(); });
-    themeChanged();
     modelChanged();
 }
 
 TrayMenu::~TrayMenu() = default;
-
-void TrayMenu::show() {
-    m_icon.show();
-}
 
 void TrayMenu::build() {
     m_allow = addWindowItem(TrayTexts::allowAccessibility(), WindowName::welcome);
@@ -61,10 +56,6 @@ void TrayMenu::modelChanged() {
         current ? TrayTexts::showShortcutsFor(menuText(foreignLine(current->appName)))
                 : TrayTexts::showShortcuts());
     m_hint->setText(TrayTexts::holdHint(text(glyph(m_model.trigger()))));
-}
-
-void TrayMenu::themeChanged() {
-    m_icon.setIcon(trayIcon(m_themes.theme().palette.scheme));
 }
 
 } // namespace quillon

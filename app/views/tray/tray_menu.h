@@ -1,19 +1,19 @@
 #pragma once
 
+#include "tray_item.h"
+
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/views/components/theme_source.h>
 
 #include <QAction>
 #include <QMenu>
 #include <QObject>
-#include <QSystemTrayIcon>
 
 #include <functional>
 
 namespace quillon {
 
-/// The program's icon in the tray and its menu. Where there is no tray it does nothing; should one appear
-/// later, the icon appears in it.
+/// The program's menu, and the item in the tray that it belongs to.
 class TrayMenu : public QObject {
     Q_OBJECT
 
@@ -22,29 +22,28 @@ class TrayMenu : public QObject {
     TrayMenu(AppModel& model, ThemeSource& themes, std::function<void()> quit);
     ~TrayMenu() override;
 
-    /// Puts the icon into the tray.
-    void show();
+    /// Puts the item into the tray.
+    void show() { m_item.show(); }
+    /// Opens the menu at a point of the screen.
+    void popUp(QPoint place) { m_menu.popup(place); }
 
-    /// For places that show the same menu elsewhere.
     QMenu& menu() { return m_menu; }
+    TrayItem& item() { return m_item; }
 
   private:
     void build();
     void modelChanged();
-    void themeChanged();
     QAction* addWindowItem(const QString& label, WindowName window);
 
     AppModel& m_model;
-    ThemeSource& m_themes;
     std::function<void()> m_quit;
     QMenu m_menu;
-    QSystemTrayIcon m_icon;
+    TrayItem m_item;
     QAction* m_allow = nullptr;
     QAction* m_allowSeparator = nullptr;
     QAction* m_show = nullptr;
     QAction* m_hint = nullptr;
     Subscription m_modelChange;
-    Subscription m_themeChange;
 };
 
 } // namespace quillon

@@ -102,5 +102,22 @@ TEST_F(TrayMenuTest, TheIconStandsOutInBothSchemes) {
     EXPECT_LT(lightest(ColourScheme::light), 80);
 }
 
+TEST_F(TrayMenuTest, AClickOpensTheMenu) {
+    tray.item().clicked(QSystemTrayIcon::Trigger);
+    EXPECT_TRUE(tray.menu().isVisible());
+    tray.menu().close();
+    tray.item().clicked(QSystemTrayIcon::Context);
+    EXPECT_FALSE(tray.menu().isVisible()) << "the tray does it";
+}
+
+TEST_F(TrayMenuTest, AClickWithTheMiddleButtonShowsTheOverlayToStay) {
+    desk.trust();
+    desk.showSample();
+    tray.item().clicked(QSystemTrayIcon::MiddleClick);
+    EXPECT_TRUE(desk.model.overlayVisible());
+    EXPECT_TRUE(desk.model.overlaySticky());
+    EXPECT_FALSE(tray.menu().isVisible());
+}
+
 } // namespace
 } // namespace quillon
