@@ -11,7 +11,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 const char* const helpText =
-    R"(Usage: quillon [COMMAND]
+    R"(Usage: quillon [--verbose] [COMMAND]
 
 Teaches the keyboard shortcuts of the applications you already use. Hold the
 trigger key (Super) in any application to see its shortcuts.
@@ -35,6 +35,8 @@ Commands:
 
 Options:
   --help      print this text
+  --verbose   before the command: tell on standard error what is read, in
+              front and shown; never what is typed
   --version   print the version
 
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
@@ -176,6 +178,13 @@ constexpr std::array subcommands{
 };
 
 } // namespace
+
+bool takeVerbose(QStringList& arguments) {
+    const bool isVerbose = !arguments.isEmpty() && arguments.constFirst() == "--verbose"_L1;
+    if (isVerbose)
+        arguments.removeFirst();
+    return isVerbose;
+}
 
 Command parseCommandLine(const QStringList& arguments) {
     if (arguments.isEmpty())

@@ -76,6 +76,9 @@ struct UsageError {
 using Command = std::variant<
     RunCommand, AppsCommand, SheetCommand, ShowCommand, DoctorCommand, QuitCommand, PrintCommand, UsageError>;
 
+/// Takes a leading --verbose away from the arguments after the program's name; whether there was one.
+bool takeVerbose(QStringList& arguments);
+
 /// Reads the arguments after the program's name.
 Command parseCommandLine(const QStringList& arguments);
 

@@ -36,6 +36,10 @@ void Output::say(const TerminalText& message) {
     static_cast<void>(writeAll(m_messages, ("quillon: " + message + "\n").bytes()));
 }
 
+void Output::log(const TerminalText& line) {
+    static_cast<void>(writeAll(m_messages, (line + "\n").bytes()));
+}
+
 ExitCode Output::fail(ExitCode code, const TerminalText& message) {
     say(message);
     return code;

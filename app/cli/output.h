@@ -22,6 +22,8 @@ class Output {
     void printData(std::string_view bytes) { write(bytes); }
     /// A message to the user, in one line.
     void say(const TerminalText& message);
+    /// A line of the log, beside the messages.
+    void log(const TerminalText& line);
     /// Says `message` and passes `code` on.
     ExitCode fail(ExitCode code, const TerminalText& message);
 

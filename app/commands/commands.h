@@ -12,16 +12,16 @@
 
 namespace quillon {
 
-/// Each carries out one command of the command line and says how it ended.
+/// Each carries out one command of the command line and says how it ended. `dataFolder` holds what the user
+/// has learned and noted; it need not exist, nor be named.
 
 ExitCode runApps(ApplicationList& applications, MenuReader& menuReader, Output& output);
 
-/// `dataFolder` holds what the user has learned and noted; it need not exist, nor be named.
 ExitCode runSheet(
     const SheetCommand& command, ApplicationList& applications, MenuReader& menuReader,
     const std::filesystem::path& dataFolder, const Clock& clock, Output& output);
 
-ExitCode runDoctor(Diagnosis& diagnosis, Output& output);
+ExitCode runDoctor(Diagnosis& diagnosis, const std::filesystem::path& dataFolder, Output& output);
 
 ExitCode runQuit(RunningProgram& program, Output& output);
 

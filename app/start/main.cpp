@@ -1,8 +1,10 @@
 #include "run_program.h"
 #include "this_platform.h"
 
+#include <quillon/app/cli/log_output.h>
 #include <quillon/app/commands/commands.h>
 #include <quillon/app/platform/qt/system_clock.h>
+#include <quillon/app/ports/diagnostics/log.h>
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -42,7 +44,9 @@ class Execution {
         });
     }
     ExitCode operator()(const DoctorCommand&) {
-        return withPlatform([&](Platform& platform) { return runDoctor(platform.diagnosis(), m_output); });
+        return withPlatform([&](Platform& platform) {
+            return runDoctor(platform.diagnosis(), platform.dataFolder(), m_output);
+        });
     }
     ExitCode operator()(const QuitCommand&) {
         return withPlatform([&](Platform& platform) { return runQuit(platform.runningProgram(), m_output); });
@@ -78,8 +82,11 @@ class Execution {
 int main(int argc, char** argv) {
     fillClosedStreams();
     std::setlocale(LC_ALL, "");
+    logToOutput();
+    QStringList arguments = argumentsAfterName(argc, argv);
+    if (takeVerbose(arguments))
+        logEverything();
     Output output;
-    const ExitCode code =
-        std::visit(Execution(argc, argv, output), parseCommandLine(argumentsAfterName(argc, argv)));
+    const ExitCode code = std::visit(Execution(argc, argv, output), parseCommandLine(arguments));
     return static_cast<int>(output.finish(code));
 }

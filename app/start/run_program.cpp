@@ -1,5 +1,6 @@
 #include "run_program.h"
 
+#include "panel_log.h"
 #include "stall_hook.h"
 
 #include <QApplication>
@@ -47,6 +48,7 @@ Ended runInstance(Platform& platform, FirstShow firstShow, Output& output) {
     case RunningProgram::Answer::notRunning:
     case RunningProgram::Answer::unreachable: break;
     }
+    const std::unique_ptr<QObject> panels = panelLog();
     Program program(platform);
     const std::unique_ptr<Instance> instance = platform.makeInstance();
     switch (instance->claim(program.requests())) {

@@ -93,9 +93,9 @@ class PackagingTest(unittest.TestCase):
         self.assertEqual(statuses, re.findall(r"\b(\d) ", help_text().split("Exit codes:")[1]))
 
     def test_completion_offers_every_command_and_option(self):
-        self.assertEqual(set(complete("quillon", "")), {*commands_of_help(), "--help", "--version"})
+        self.assertEqual(set(complete("quillon", "")), {*commands_of_help(), "--help", "--verbose", "--version"})
         self.assertEqual({*complete("quillon", "sheet", "--"), *complete("quillon", "show", "--"),
-                          "--help", "--version"}, options_of_help())
+                          "--help", "--verbose", "--version"}, options_of_help())
 
     def test_completion_knows_values(self):
         self.assertEqual(complete("quillon", "sheet", "--format", "j"), ["json"])

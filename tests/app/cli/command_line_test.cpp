@@ -104,6 +104,16 @@ TEST(CommandLine, ErrorsFitIntoTheirLine) {
     EXPECT_EQ(errorOf(parse({"dance"})), "unknown command 'dance'; see quillon --help");
 }
 
+TEST(CommandLine, VerboseStandsBeforeTheCommand) {
+    QStringList arguments{u"--verbose"_s, u"apps"_s};
+    EXPECT_TRUE(takeVerbose(arguments));
+    EXPECT_EQ(arguments, QStringList{u"apps"_s});
+    EXPECT_FALSE(takeVerbose(arguments));
+    QStringList query{u"sheet"_s, u"--query"_s, u"--verbose"_s};
+    EXPECT_FALSE(takeVerbose(query));
+    EXPECT_EQ(query.size(), 3);
+}
+
 TEST(CommandLine, HelpWinsAnywhere) {
     for (const Command& command : {parse({"--help"}), parse({"sheet", "--help"}), parse({"-h"})}) {
         const auto* print = std::get_if<PrintCommand>(&command);

@@ -146,5 +146,39 @@ TEST_F(CommandsTest, QuitSaysWhyItFailed) {
                          "quillon: the session cannot be reached; see quillon doctor\n");
 }
 
+/// A desktop of which one thing was looked at.
+class OneCheck final : public Diagnosis {
+  public:
+    std::vector<Check> checks() override { return {check}; }
+    Check check{"Display", Check::Result::good, "X11", ""};
+};
+
+TEST_F(CommandsTest, DoctorNamesABrokenDataFile) {
+    OneCheck desktop;
+    EXPECT_EQ(runDoctor(desktop, folder.path(), output), ExitCode::success);
+    EXPECT_EQ(
+        results.text(),
+        "ok      Display       X11\nok      Learned data  in " + folder.path().string() + "\n");
+
+    const auto broken = folder.write("usage.json", R"({"apps":{}} nonsense)");
+    const auto aside = folder.write("notes.json.broken-2", "[");
+    folder.write("notes.json", R"({"apps":{}})");
+    folder.write("other.json", "nonsense");
+    EXPECT_EQ(runDoctor(desktop, folder.path(), output), ExitCode::success);
+    EXPECT_NE(
+        results.text().find("limited Learned data  " + broken.string() + ": byte 12: "), std::string::npos)
+        << results.text();
+    EXPECT_NE(results.text().find("limited Learned data  " + aside.string() + ": byte "), std::string::npos)
+        << results.text();
+    EXPECT_EQ(results.text().find("other.json"), std::string::npos);
+}
+
+TEST_F(CommandsTest, DoctorFailsWhenSomethingIsMissing) {
+    OneCheck desktop;
+    desktop.check.result = Check::Result::missing;
+    EXPECT_EQ(runDoctor(desktop, "", output), ExitCode::failure);
+    EXPECT_NE(results.text().find("there is no home folder"), std::string::npos);
+}
+
 } // namespace
 } // namespace quillon

@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
@@ -86,6 +87,15 @@ class HostileApplicationTest(WithApplication):
         ran = run("\u202edance")
         self.assertEqual((ran.returncode, ran.stderr),
                          (2, b"quillon: unknown command '<U+202E>dance'; see quillon --help\n"))
+
+    def test_the_log_is_silent_until_asked_and_tells_no_titles(self):
+        ran = run("--verbose", "sheet", "--pid", self.app.pid)
+        self.assertEqual(ran.returncode, 0)
+        self.assertRegex(ran.stderr.decode(),
+                         r"\A[\d:.]+ quillon\.menus: read " + re.escape(f"{PROGRAM_SHOWN} ({PROGRAM_SHOWN}, process "
+                         f"{self.app.pid}): complete, ") + r"\d+ items in [\d.]+ ms\n\Z")
+        by_rule = run("sheet", "--pid", self.app.pid, env=os.environ | {"QT_LOGGING_RULES": "quillon.menus=true"})
+        self.assertIn("quillon.menus: read", by_rule.stderr.decode())
 
 
 class LostOutputTest(WithApplication):

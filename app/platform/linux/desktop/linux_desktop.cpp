@@ -1,5 +1,7 @@
 #include "linux_desktop.h"
 
+#include "logged_app.h"
+
 #include <quillon/app/platform/linux/access/accessibility_bus_access.h>
 #include <quillon/app/platform/linux/applications/xdg_app_icons.h>
 #include <quillon/app/platform/linux/look/xdg_appearance.h>
@@ -8,21 +10,44 @@
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
 #include <quillon/app/platform/linux/x11/x11_keyboard.h>
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
+#include <quillon/app/ports/diagnostics/log.h>
 
 namespace quillon {
+
+namespace {
+
+QString extensionsOf(const X11Connection& x11) {
+    const X11Extensions& extensions = x11.extensions();
+    return QStringLiteral("XKB %1, raw input %2")
+        .arg(
+            extensions.xkbFirstEvent ? u"is there" : u"is absent",
+            extensions.xinputOpcode ? u"is there" : u"is absent");
+}
+
+void logActivation(const RunningApp& app) {
+    const std::uint64_t window = app.windows.empty() ? 0 : app.windows.front().id;
+    qCInfo(logWindows).noquote().nospace()
+        << "in front: " << logged(app) << ", window 0x" << Qt::hex << window;
+}
+
+} // namespace
 
 LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock)
     : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
       m_appearance(std::make_unique<XdgAppearance>(sessionBus)),
       m_icons(std::make_unique<XdgAppIcons>(m_identifier)), m_x11(X11Connection::open()) {
-    if (!m_x11)
+    if (!m_x11) {
+        qCInfo(logInput) << "there is no X server: held keys are not noticed";
         return;
+    }
+    qCInfo(logInput).noquote() << "held keys are noticed through an X server;" << extensionsOf(*m_x11);
     const auto input = std::make_shared<RawInput>(m_x11);
     m_front = std::make_unique<X11FrontApplication>(
         m_x11, m_identifier,
         [this](const std::string& bundleID, IconPixels icon) { m_icons->note(bundleID, std::move(icon)); });
     m_keyboard = std::make_unique<X11Keyboard>(m_x11, input);
     m_panels = std::make_unique<X11PanelWindows>(m_x11, input);
+    m_activations = m_front->onActivated(logActivation);
 }
 
 LinuxDesktop::~LinuxDesktop() = default;

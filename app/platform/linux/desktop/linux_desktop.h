@@ -1,5 +1,7 @@
 #pragma once
 
+#include "logged_menu_reader.h"
+
 #include <quillon/app/platform/linux/applications/app_identifier.h>
 #include <quillon/app/platform/linux/atspi/menu_reader.h>
 #include <quillon/app/platform/none/no_desktop.h>
@@ -35,7 +37,8 @@ class LinuxDesktop final : public Desktop {
   private:
     NoDesktop m_none;
     AppIdentifier m_identifier;
-    AtspiMenuReader m_menuReader;
+    AtspiMenuReader m_menus;
+    LoggedMenuReader m_menuReader{m_menus};
     std::unique_ptr<AccessibilityAccess> m_access;
     std::unique_ptr<Appearance> m_appearance;
     std::unique_ptr<XdgAppIcons> m_icons;
@@ -43,6 +46,7 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<FrontApplication> m_front;
     std::unique_ptr<Keyboard> m_keyboard;
     std::unique_ptr<PanelWindows> m_panels;
+    Subscription m_activations;
 };
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "linux_application_list.h"
 #include "linux_diagnosis.h"
+#include "logged_menu_reader.h"
 
 #include <quillon/app/platform/linux/atspi/menu_reader.h>
 #include <quillon/app/platform/linux/session/bus_running_program.h>
@@ -27,7 +28,8 @@ class LinuxPlatform final : public Platform {
 
   private:
     SessionBus m_session;
-    AtspiMenuReader m_menuReader;
+    AtspiMenuReader m_menus;
+    LoggedMenuReader m_menuReader{m_menus};
     LinuxApplicationList m_applications{m_session};
     LinuxDiagnosis m_diagnosis{m_session, m_applications};
     BusRunningProgram m_runningProgram{m_session};

@@ -1,0 +1,84 @@
+#include "data_files.h"
+
+#include <quillon/kit/records/annotations.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/kit/records/json_file.h>
+#include <quillon/kit/records/usage.h>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace quillon {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* subject = "Learned data";
+constexpr std::string_view setAsideMark = ".broken";
+
+template <class Value>
+std::optional<LoadFailure> failureOf(const fs::path& file) {
+    const auto loaded = JSONFile<Value>(file).tryLoad();
+    const LoadFailure* const failure = loaded.failure();
+    return failure ? std::optional(*failure) : std::nullopt;
+}
+
+/// A kind of file by its name, and what becomes of it when it is read.
+struct Kind {
+    std::string_view name;
+    std::optional<LoadFailure> (*failureOf)(const fs::path& file);
+};
+
+constexpr std::array kinds{
+    Kind{"usage.json", failureOf<UsageBook>},
+    Kind{"notes.json", failureOf<AnnotationBook>},
+    Kind{"menus.json", failureOf<SheetMap>},
+};
+
+Check checkOf(const fs::path& file, const LoadFailure& failure, bool isSetAside) {
+    const std::string remedy =
+        isSetAside ? "Quillon keeps it as it was and began a new one. Mend it and put it back "
+                     "while Quillon does not run, or remove it."
+                   : "Mend or remove it while Quillon does not run; until then it counts as empty.";
+    return {subject, Check::Result::limited, file.string() + ": " + failure.message(), remedy};
+}
+
+std::vector<fs::path> filesIn(const fs::path& folder) {
+    std::vector<fs::path> files;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
+        files.push_back(at->path());
+    std::ranges::sort(files);
+    return files;
+}
+
+} // namespace
+
+std::vector<Check> checkDataFiles(const fs::path& folder) {
+    if (folder.empty())
+        return {{subject, Check::Result::limited, "there is no home folder to keep it in", "Set HOME."}};
+    std::vector<Check> checks;
+    for (const fs::path& file : filesIn(folder)) {
+        const std::string name = file.filename().string();
+        const auto kind =
+            std::ranges::find_if(kinds, [&](const Kind& one) { return name.starts_with(one.name); });
+        if (kind == kinds.end())
+            continue;
+        const std::string_view rest = std::string_view(name).substr(kind->name.size());
+        const bool isSetAside = rest.starts_with(setAsideMark);
+        if (!rest.empty() && !isSetAside)
+            continue;
+        if (const auto failure = kind->failureOf(file))
+            checks.push_back(checkOf(file, *failure, isSetAside));
+    }
+    if (checks.empty())
+        checks.push_back({subject, Check::Result::good, "in " + folder.string(), ""});
+    return checks;
+}
+
+} // namespace quillon
