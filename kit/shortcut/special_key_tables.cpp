@@ -3,7 +3,6 @@
 #include <quillon/kit/base/unicode.h>
 
 #include <algorithm>
-#include <ranges>
 #include <span>
 
 namespace quillon::SpecialKeys {
@@ -77,9 +76,11 @@ const Row* rowOf(std::span<const Row> rows, SpecialKey key) {
 }
 
 constexpr bool namesEveryKey(std::span<const Row> rows) {
-    return std::ranges::all_of(std::views::iota(std::size_t{0}, specialKeyCount), [rows](std::size_t key) {
-        return std::ranges::find(rows, static_cast<SpecialKey>(key), &Row::key) != rows.end();
-    });
+    for (std::size_t key = 0; key < specialKeyCount; ++key) {
+        if (std::ranges::find(rows, static_cast<SpecialKey>(key), &Row::key) == rows.end())
+            return false;
+    }
+    return true;
 }
 static_assert(namesEveryKey(glyphRows));
 
