@@ -1,10 +1,5 @@
 #include "app_model.h"
 
-#include "sheet_arrival.h"
-
-#include <quillon/kit/menu/menu_parser.h>
-
-#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -13,17 +8,43 @@ namespace {
 
 constexpr Seconds trustInterval{2.0};
 
-bool isSameApp(const RunningApp& a, const RunningApp& b) {
-    return a.pid == b.pid && a.bundleID == b.bundleID;
+ModelField fieldOf(Setting setting) {
+    switch (setting) {
+    case Setting::trigger: return ModelField::trigger;
+    case Setting::holdDelay: return ModelField::holdDelay;
+    case Setting::nudgesOn: return ModelField::nudgesOn;
+    case Setting::countTyped: return ModelField::countTyped;
+    case Setting::onboarded: return ModelField::onboarded;
+    }
+    return ModelField::trigger;
+}
+
+HoldDetector detectorFor(const Settings& settings) {
+    return HoldDetector(modifier(settings.trigger()), settings.holdDelay());
 }
 
 } // namespace
 
 AppModel::AppModel(AppServices services)
-    : m_services(services), m_overlay(services.panels),
-      m_hold(
-          services.keyboard, services.clock, services.timers,
-          HoldDetector(modifier(services.settings.trigger()), services.settings.holdDelay())) {
+    : m_services(std::move(services)),
+      m_readings(m_services.menuReader, m_services.background, m_services.clock),
+      m_folder(m_services.dataFolder), m_save(m_services.timers, [this] { save(); }),
+      m_overlay(m_services.panels),
+      m_hold(m_services.keyboard, m_services.clock, m_services.timers, detectorFor(m_services.settings)) {
+    m_settingChange =
+        m_services.settings.changed.subscribe([this](Setting setting) { settingChanged(setting); });
+    m_recordChange = m_records.changed.subscribe([this](const RecordChange& change) {
+        m_save.schedule();
+        recordChanged.emit(change);
+    });
+    m_readings.onRead = [this](const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
+        sheetArrived(app, std::move(sheet), outcome);
+    };
+    m_hold.onShow = [this] { showOverlay(Stickiness::held); };
+    m_hold.onHide = [this] {
+        if (!m_overlaySticky)
+            m_overlay.hide();
+    };
     m_overlay.onEscape = [this] { closeOverlay(); };
     m_overlay.onResign = [this] {
         if (m_overlaySticky)
@@ -33,95 +54,34 @@ AppModel::AppModel(AppServices services)
 
 AppModel::~AppModel() = default;
 
-/// Tells what `change` changed of the sheet and its reading when all of it is done, so that nobody sees one
-/// without the other.
-template <class Change>
-void AppModel::changeSheet(Change change) {
-    const bool wasReading = reading();
-    const auto before = m_sheetChanges;
-    change();
-    if (m_sheetChanges != before)
-        changed.emit(ModelField::current);
-    if (reading() != wasReading)
-        changed.emit(ModelField::reading);
-}
-
-TriggerKey AppModel::trigger() const {
-    return m_services.settings.trigger();
-}
-
-void AppModel::setTrigger(TriggerKey trigger) {
-    if (trigger == this->trigger())
-        return;
-    m_services.settings.setTrigger(trigger);
-    m_hold.replaceDetector(HoldDetector(modifier(trigger), holdDelay()));
-    changed.emit(ModelField::trigger);
-}
-
-Seconds AppModel::holdDelay() const {
-    return m_services.settings.holdDelay();
-}
-
-void AppModel::setHoldDelay(Seconds delay) {
-    if (delay == holdDelay())
-        return;
-    m_services.settings.setHoldDelay(delay);
-    m_hold.replaceDetector(HoldDetector(modifier(trigger()), delay));
-    changed.emit(ModelField::holdDelay);
-}
-
-void AppModel::setNudgesOn(bool on) {
-    if (on == nudgesOn())
-        return;
-    m_services.settings.setNudgesOn(on);
-    applyWatchers();
-    changed.emit(ModelField::nudgesOn);
-}
-
-void AppModel::setCountTyped(bool on) {
-    if (on == countTyped())
-        return;
-    m_services.settings.setCountTyped(on);
-    applyWatchers();
-    changed.emit(ModelField::countTyped);
-}
-
-void AppModel::setOnboarded(bool onboarded) {
-    if (onboarded == this->onboarded())
-        return;
-    m_services.settings.setOnboarded(onboarded);
-    changed.emit(ModelField::onboarded);
-}
-
-void AppModel::setQuery(std::string query) {
-    if (query == m_query)
-        return;
-    m_query = std::move(query);
-    changed.emit(ModelField::query);
-}
-
-bool AppModel::reading() const {
-    return std::ranges::any_of(m_underWay, [this](const Reading& reading) {
-        return !m_current || reading.app.bundleID == m_current->bundleID;
-    });
-}
-
 void AppModel::start() {
-    m_hold.onShow = [this] { showOverlay(Stickiness::held); };
-    m_hold.onHide = [this] {
-        if (!m_overlaySticky)
-            m_overlay.hide();
-    };
+    load();
     m_activation =
         m_services.frontApplication.onActivated([this](const RunningApp& app) { frontAppChanged(app); });
     m_trustChange = m_services.accessibility.onChanged([this] { refreshTrust(); });
+    applyWatchers();
     refreshTrust();
     m_trustTimer = m_services.timers.every(trustInterval, [this] { refreshTrust(); });
 }
 
+void AppModel::applyWatchers() {
+    m_hold.start();
+}
+
+void AppModel::settingChanged(Setting setting) {
+    switch (setting) {
+    case Setting::trigger:
+    case Setting::holdDelay: m_hold.replaceDetector(detectorFor(m_services.settings)); break;
+    case Setting::nudgesOn:
+    case Setting::countTyped: applyWatchers(); break;
+    case Setting::onboarded: break;
+    }
+    changed.emit(fieldOf(setting));
+}
+
 void AppModel::refreshTrust() {
     const bool trusted = m_services.accessibility.isTrusted();
-    const bool firstSheetIsMissing = !m_current && m_underWay.empty();
+    const bool firstSheetIsMissing = !current() && m_readings.isIdle();
     if (trusted == m_trusted && !(trusted && firstSheetIsMissing))
         return;
     if (std::exchange(m_trusted, trusted) != trusted) {
@@ -134,87 +94,54 @@ void AppModel::refreshTrust() {
         frontAppChanged(*front);
 }
 
-void AppModel::applyWatchers() {
-    m_hold.start();
+bool AppModel::reading() const {
+    return current() ? m_readings.isReading(current()->bundleID) : !m_readings.isIdle();
 }
 
 void AppModel::frontAppChanged(const RunningApp& app) {
     if (app.pid == m_services.ownPid)
         return;
-    changeSheet([&] {
-        const auto cached = m_sheets.find(app.bundleID);
-        setCurrent(
-            cached != m_sheets.end() ? cached->second : AppSheet{app.bundleID, app.name, {}, distantPast});
-        queueReading(app);
-    });
+    m_sheets.frontIs(app);
+    if (m_trusted)
+        m_readings.read(app);
+    tellDifferences();
 }
 
 void AppModel::read(const RunningApp& app) {
-    changeSheet([&] { queueReading(app); });
-}
-
-void AppModel::queueReading(const RunningApp& app) {
     if (!m_trusted || app.pid == m_services.ownPid)
         return;
-    const auto underWay = std::ranges::find_if(
-        m_underWay, [&app](const Reading& reading) { return isSameApp(reading.app, app); });
-    if (underWay == m_underWay.end())
-        startReading(app);
-    else if (underWay->app == app)
-        underWay->next.reset();
-    else
-        underWay->next = app;
+    m_readings.read(app);
+    tellDifferences();
 }
 
-void AppModel::startReading(const RunningApp& app) {
-    m_underWay.push_back({app, std::nullopt});
-    MenuReader& reader = m_services.menuReader;
-    const Clock& clock = m_services.clock;
-    m_services.background.run(
-        [this, app, &reader, &clock, alive = std::weak_ptr<bool>(m_alive)](std::stop_token stop) {
-            const MenuReading reading = reader.readMenus(app, std::move(stop));
-            AppSheet sheet{
-                app.bundleID, app.name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
-                clock.now()};
-            return [this, app, alive, outcome = reading.outcome, sheet = std::move(sheet)]() mutable {
-                if (alive.lock())
-                    readArrived(app, std::move(sheet), outcome);
-            };
-        });
-}
-
-void AppModel::readArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
-    changeSheet([&] {
-        const auto ended =
-            std::ranges::find_if(m_underWay, [&app](const Reading& reading) { return reading.app == app; });
-        const std::optional<RunningApp> next = ended->next;
-        m_underWay.erase(ended);
-        takeArrival(app, std::move(sheet), outcome);
-        if (next)
-            queueReading(*next);
-    });
-}
-
-void AppModel::takeArrival(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
-    const auto cached = m_sheets.find(app.bundleID);
+void AppModel::sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
     const auto front = m_services.frontApplication.current();
-    const SheetArrival arrival = decideSheetArrival({
-        .produced = outcome != ReadOutcome::unavailable,
-        .complete = outcome != ReadOutcome::partial,
-        .entries = sheet.entries.size(),
-        .cachedEntries = cached == m_sheets.end() ? 0 : cached->second.entries.size(),
-        .isIdentified = !app.bundleID.empty(),
-        .anythingCurrent = m_current.has_value(),
-        .currentIsThatApp = m_current && m_current->bundleID == app.bundleID,
-        .thatAppIsInFront = front && isSameApp(*front, app),
-    });
-    switch (arrival.current) {
-    case SheetArrival::Current::keep: break;
-    case SheetArrival::Current::takeNew: setCurrent(sheet); break;
-    case SheetArrival::Current::takeCached: setCurrent(cached->second); break;
-    }
-    if (arrival.store)
-        m_sheets.insert_or_assign(app.bundleID, std::move(sheet));
+    if (m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app)))
+        m_save.schedule();
+    tellDifferences();
+}
+
+/// Tells what became another sheet or reading since it was told last. Called when a change is done as a
+/// whole, so that nobody sees a sheet without its reading.
+void AppModel::tellDifferences() {
+    const bool otherSheet = std::exchange(m_toldSheet, m_sheets.revision()) != m_sheets.revision();
+    const bool otherReading = std::exchange(m_toldReading, reading()) != reading();
+    if (otherSheet)
+        changed.emit(ModelField::current);
+    if (otherReading)
+        changed.emit(ModelField::reading);
+}
+
+void AppModel::setQuery(std::string query) {
+    if (query == m_query)
+        return;
+    m_query = std::move(query);
+    changed.emit(ModelField::query);
+}
+
+void AppModel::setSticky(bool sticky) {
+    if (std::exchange(m_overlaySticky, sticky) != sticky)
+        changed.emit(ModelField::overlaySticky);
 }
 
 void AppModel::showOverlay(Stickiness stickiness) {
@@ -241,28 +168,32 @@ void AppModel::keepOverlayOpen() {
 }
 
 void AppModel::togglePin(const std::string& bundleID, const std::string& entryID) {
-    m_annotations.togglePin(bundleID, entryID);
-    changed.emit(ModelField::annotations);
+    m_records.togglePin(bundleID, entryID);
+}
+
+void AppModel::load() {
+    LearnedData learned = m_folder.load();
+    m_records.replace(std::move(learned.usage), std::move(learned.annotations));
+    m_sheets.load(std::move(learned.sheets));
+    m_save.cancel();
+}
+
+void AppModel::save() {
+    m_folder.save(usage(), annotations(), sheets());
+}
+
+void AppModel::eraseEverything() {
+    m_records.replace({}, {});
+    m_sheets.clear();
+    m_save.cancel();
+    m_folder.erase();
+    tellDifferences();
 }
 
 void AppModel::showSample(AppSheet sheet, UsageRecords usage, Annotations annotations) {
-    m_usage.apps.insert_or_assign(sheet.bundleID, std::move(usage));
-    m_annotations.apps.insert_or_assign(sheet.bundleID, std::move(annotations));
-    changed.emit(ModelField::usage);
-    changed.emit(ModelField::annotations);
-    changeSheet([&] { setCurrent(std::move(sheet)); });
-}
-
-void AppModel::setCurrent(AppSheet sheet) {
-    if (m_current == sheet)
-        return;
-    m_current = std::move(sheet);
-    ++m_sheetChanges;
-}
-
-void AppModel::setSticky(bool sticky) {
-    if (std::exchange(m_overlaySticky, sticky) != sticky)
-        changed.emit(ModelField::overlaySticky);
+    m_records.replace(sheet.bundleID, std::move(usage), std::move(annotations));
+    m_sheets.show(std::move(sheet));
+    tellDifferences();
 }
 
 } // namespace quillon

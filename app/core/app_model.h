@@ -1,7 +1,12 @@
 #pragma once
 
+#include "current_sheet.h"
+#include "data_folder.h"
+#include "delayed_save.h"
 #include "hold_watcher.h"
+#include "learned_records.h"
 #include "overlay_controller.h"
+#include "reading_queue.h"
 #include "settings.h"
 
 #include <quillon/app/ports/accessibility_access.h>
@@ -14,20 +19,15 @@
 #include <quillon/app/ports/timers.h>
 #include <quillon/app/ports/windows.h>
 #include <quillon/kit/menu/app_sheet.h>
-#include <quillon/kit/records/annotations.h>
-#include <quillon/kit/records/json_codec.h>
-#include <quillon/kit/records/usage.h>
 
 #include <cstdint>
-#include <map>
-#include <memory>
+#include <filesystem>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace quillon {
 
-/// What of the model changed.
+/// What of the model changed. Changes of records and annotations are told apart, by `recordChanged`.
 enum class ModelField {
     trigger,
     holdDelay,
@@ -37,8 +37,6 @@ enum class ModelField {
     trusted,
     current,
     reading,
-    usage,
-    annotations,
     query,
     overlaySticky,
 };
@@ -55,12 +53,13 @@ struct AppServices {
     PanelHost& panels;
     Windows& windows;
     Settings& settings;
-    std::int64_t ownPid = 0; ///< this process, whose own menus are none of the model's business
+    std::filesystem::path dataFolder = {}; ///< where what is learned is kept; empty: it is not kept at all
+    std::int64_t ownPid = 0;               ///< this process, whose own menus are none of the model's business
 };
 
-/// The one long-lived object of the program: settings, the front application's sheet, the sheets read so far,
-/// what was learned, and the overlay. Lives on the main thread; views observe `changed` and act through its
-/// operations.
+/// The views' one door to the program: what it knows, which they observe, and what they may ask of it. Wires
+/// the parts of which each holds one thing: the settings, the readings, the sheets, the records, their saving
+/// and the overlay. Lives on the main thread for the whole run.
 class AppModel {
   public:
     explicit AppModel(AppServices services);
@@ -70,44 +69,42 @@ class AppModel {
 
     /// Emitted after a field got another value.
     Event<ModelField> changed;
+    /// Emitted after a usage record or an annotation changed.
+    Event<const RecordChange&> recordChanged;
 
-    TriggerKey trigger() const;
-    void setTrigger(TriggerKey trigger);
-    Seconds holdDelay() const;
-    void setHoldDelay(Seconds delay);
-    /// Whether clicks on menu commands are answered by nudges.
+    TriggerKey trigger() const { return m_services.settings.trigger(); }
+    void setTrigger(TriggerKey trigger) { m_services.settings.setTrigger(trigger); }
+    Seconds holdDelay() const { return m_services.settings.holdDelay(); }
+    void setHoldDelay(Seconds delay) { m_services.settings.setHoldDelay(delay); }
     bool nudgesOn() const { return m_services.settings.nudgesOn(); }
-    void setNudgesOn(bool on);
-    /// Whether typed shortcuts are counted.
+    void setNudgesOn(bool on) { m_services.settings.setNudgesOn(on); }
     bool countTyped() const { return m_services.settings.countTyped(); }
-    void setCountTyped(bool on);
-    /// Whether the welcome was completed.
+    void setCountTyped(bool on) { m_services.settings.setCountTyped(on); }
     bool onboarded() const { return m_services.settings.onboarded(); }
-    void setOnboarded(bool onboarded);
+    void setOnboarded(bool onboarded) { m_services.settings.setOnboarded(onboarded); }
 
     /// Whether other applications' menus may be read.
     bool trusted() const { return m_trusted; }
     /// The sheet of the front application; absent before the first one is known.
-    const std::optional<AppSheet>& current() const { return m_current; }
-    /// Every sheet read so far, by bundle identifier; none is empty.
-    const SheetMap& sheets() const { return m_sheets; }
+    const std::optional<AppSheet>& current() const { return m_sheets.current(); }
+    /// The sheets read so far, by bundle identifier; none is empty.
+    const SheetMap& sheets() const { return m_sheets.sheets(); }
     /// Whether the menus of the current application are being read (of any, while none is current).
     bool reading() const;
-    const UsageBook& usage() const { return m_usage; }
-    const AnnotationBook& annotations() const { return m_annotations; }
+    const UsageBook& usage() const { return m_records.usage(); }
+    const AnnotationBook& annotations() const { return m_records.annotations(); }
     /// What is typed in the overlay's search field.
     const std::string& query() const { return m_query; }
     void setQuery(std::string query);
     /// Whether the overlay stays open when the trigger key is let go.
     bool overlaySticky() const { return m_overlaySticky; }
 
-    /// Begins to watch the desktop.
+    /// Loads what was learned in earlier runs and begins to watch the desktop.
     void start();
     /// One look at the accessibility permission; what follows from a change is done at once.
     void refreshTrust();
     void frontAppChanged(const RunningApp& app);
-    /// Reads the application's menus in the background. One reading of an application is under way at a time;
-    /// another that is asked for meanwhile, of other windows, follows it.
+    /// Reads the application's menus in the background.
     void read(const RunningApp& app);
 
     /// Makes the overlay's panel ahead of its first use, in a moment in which nothing else is to be done.
@@ -127,43 +124,42 @@ class AppModel {
     /// Whether a window that is asked for will open; views do not offer one that will not.
     bool offersWindow(WindowName name) const { return m_services.windows.offers(name); }
 
+    /// Writes at once what changed and would be written within the next second. For the end of the program.
+    void savePending() { m_save.flush(); }
+    /// Forgets all sheets, counts, pins and notes, here and in the data folder. The settings stay.
+    void eraseEverything();
+
     /// Takes over a sheet and what is known of its commands instead of reading any: for showing the program
     /// with sample data.
     void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations);
 
   private:
-    /// A reading under way, and what is to be read when it has ended.
-    struct Reading {
-        RunningApp app;
-        std::optional<RunningApp> next;
-    };
-
+    void load();
+    void save();
     void applyWatchers();
-    template <class Change>
-    void changeSheet(Change change);
-    void setCurrent(AppSheet sheet);
-    void queueReading(const RunningApp& app);
-    void startReading(const RunningApp& app);
-    void takeArrival(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
+    void settingChanged(Setting setting);
+    void sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
+    void tellDifferences();
     void setSticky(bool sticky);
-    void readArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
 
     AppServices m_services;
+    CurrentSheet m_sheets;
+    LearnedRecords m_records;
+    ReadingQueue m_readings;
+    DataFolder m_folder;
+    DelayedSave m_save;
     OverlayController m_overlay;
     HoldWatcher m_hold;
     bool m_trusted = false;
-    std::optional<AppSheet> m_current;
-    SheetMap m_sheets;
-    std::uint64_t m_sheetChanges = 0; ///< how often `m_current` became another one
-    std::vector<Reading> m_underWay;
-    UsageBook m_usage;
-    AnnotationBook m_annotations;
     std::string m_query;
     bool m_overlaySticky = false;
+    std::uint64_t m_toldSheet = 0; ///< revision of the sheet that was told last
+    bool m_toldReading = false;
+    Subscription m_settingChange;
+    Subscription m_recordChange;
     Subscription m_activation;
     Subscription m_trustChange;
     Subscription m_trustTimer;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true); ///< expires with the model
 };
 
 } // namespace quillon

@@ -1,78 +1,108 @@
 #include "settings.h"
 
 #include <cmath>
+#include <filesystem>
+#include <system_error>
 
 namespace quillon {
 
 namespace {
 
-const QString triggerName = QStringLiteral("trigger");
-const QString holdDelayName = QStringLiteral("holdDelay");
-const QString nudgesOnName = QStringLiteral("nudgesOn");
-const QString countTypedName = QStringLiteral("countTyped");
-const QString onboardedName = QStringLiteral("onboarded");
-
-constexpr Seconds defaultHoldDelay{0.8};
-
-} // namespace
-
-Settings::Settings(const QString& path) : m_store(path, QSettings::IniFormat) {}
-
-TriggerKey Settings::trigger() const {
-    return triggerKeyFromRawValue(m_store.value(triggerName).toString().toStdString());
+QString nameOf(Setting setting) {
+    switch (setting) {
+    case Setting::trigger: return QStringLiteral("trigger");
+    case Setting::holdDelay: return QStringLiteral("holdDelay");
+    case Setting::nudgesOn: return QStringLiteral("nudgesOn");
+    case Setting::countTyped: return QStringLiteral("countTyped");
+    case Setting::onboarded: return QStringLiteral("onboarded");
+    }
+    return {};
 }
 
-void Settings::setTrigger(TriggerKey trigger) {
-    m_store.setValue(triggerName, QString::fromStdString(std::string(rawValue(trigger))));
-    m_store.sync();
+/// Opening a pipe waits for whoever writes to it, and a device may never end.
+bool canHoldSettings(const std::filesystem::path& path) {
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    if (status.type() == std::filesystem::file_type::not_found)
+        return true;
+    if (!std::filesystem::is_regular_file(status))
+        return false;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    return !error && size <= static_cast<std::uintmax_t>(Settings::largestFile);
 }
 
-Seconds Settings::holdDelay() const {
-    bool isNumber = false;
-    const double seconds = m_store.value(holdDelayName).toString().toDouble(&isNumber);
-    return isNumber && std::isfinite(seconds) ? Seconds(seconds) : defaultHoldDelay;
+bool isDelay(Seconds delay) {
+    return std::isfinite(delay.count()) && delay.count() >= 0;
 }
 
-void Settings::setHoldDelay(Seconds delay) {
-    m_store.setValue(holdDelayName, delay.count());
-    m_store.sync();
-}
-
-bool Settings::nudgesOn() const {
-    return flag(nudgesOnName, true);
-}
-
-void Settings::setNudgesOn(bool on) {
-    m_store.setValue(nudgesOnName, on);
-    m_store.sync();
-}
-
-bool Settings::countTyped() const {
-    return flag(countTypedName, true);
-}
-
-void Settings::setCountTyped(bool on) {
-    m_store.setValue(countTypedName, on);
-    m_store.sync();
-}
-
-bool Settings::onboarded() const {
-    return flag(onboardedName, false);
-}
-
-void Settings::setOnboarded(bool onboarded) {
-    m_store.setValue(onboardedName, onboarded);
-    m_store.sync();
+QString textOf(const QSettings& store, Setting setting) {
+    return store.value(nameOf(setting)).toString();
 }
 
 // An INI file holds text, so a Boolean is one of two words; anything else is no Boolean.
-bool Settings::flag(const QString& key, bool fallback) const {
-    const QString text = m_store.value(key).toString();
+bool flag(const QSettings& store, Setting setting, bool fallback) {
+    const QString text = textOf(store, setting);
     if (text == QLatin1String("true"))
         return true;
     if (text == QLatin1String("false"))
         return false;
     return fallback;
+}
+
+Seconds delay(const QSettings& store, Seconds fallback) {
+    bool isNumber = false;
+    const Seconds stored(textOf(store, Setting::holdDelay).toDouble(&isNumber));
+    return isNumber && isDelay(stored) ? stored : fallback;
+}
+
+} // namespace
+
+Settings::Settings(const QString& path) {
+    if (path.isEmpty() || !canHoldSettings(path.toStdString()))
+        return;
+    m_store = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    read();
+}
+
+void Settings::read() {
+    m_trigger = triggerKeyFromRawValue(textOf(*m_store, Setting::trigger).toStdString());
+    m_holdDelay = delay(*m_store, m_holdDelay);
+    m_nudgesOn = flag(*m_store, Setting::nudgesOn, m_nudgesOn);
+    m_countTyped = flag(*m_store, Setting::countTyped, m_countTyped);
+    m_onboarded = flag(*m_store, Setting::onboarded, m_onboarded);
+}
+
+template <class Value>
+void Settings::set(Value& field, const Value& value, Setting setting, const QVariant& stored) {
+    if (field == value)
+        return;
+    field = value;
+    if (m_store) {
+        m_store->setValue(nameOf(setting), stored);
+        m_store->sync();
+    }
+    changed.emit(setting);
+}
+
+void Settings::setTrigger(TriggerKey trigger) {
+    set(m_trigger, trigger, Setting::trigger, QString::fromStdString(std::string(rawValue(trigger))));
+}
+
+void Settings::setHoldDelay(Seconds delay) {
+    if (isDelay(delay))
+        set(m_holdDelay, delay, Setting::holdDelay, delay.count());
+}
+
+void Settings::setNudgesOn(bool on) {
+    set(m_nudgesOn, on, Setting::nudgesOn, on);
+}
+
+void Settings::setCountTyped(bool on) {
+    set(m_countTyped, on, Setting::countTyped, on);
+}
+
+void Settings::setOnboarded(bool onboarded) {
+    set(m_onboarded, onboarded, Setting::onboarded, onboarded);
 }
 
 } // namespace quillon

@@ -3,39 +3,63 @@
 #include "trigger_key.h"
 
 #include <quillon/kit/base/instant.h>
+#include <quillon/kit/base/subscription.h>
 
 #include <QSettings>
 #include <QString>
 
+#include <memory>
+
 namespace quillon {
+
+enum class Setting { trigger, holdDelay, nudgesOn, countTyped, onboarded };
 
 /// The five settings. Each is written to its key the moment it is set; a missing or mistyped value reads as
 /// its default.
 class Settings {
   public:
-    /// Kept in the INI file at `path`.
+    /// Kept in the INI file at `path`, which need not exist; not kept when it is empty. Anything there that
+    /// cannot be a file of settings (a folder, a pipe, a device, more than `largestFile`) is not touched: the
+    /// settings then have their defaults at each start.
     explicit Settings(const QString& path);
 
-    TriggerKey trigger() const;
+    /// A file of five lines that is larger than this was written by something else. In bytes.
+    static constexpr std::int64_t largestFile = 1 << 20;
+
+    /// Emitted after a setting got another value.
+    Event<Setting> changed;
+
+    TriggerKey trigger() const { return m_trigger; }
     void setTrigger(TriggerKey trigger);
 
     /// How long the trigger is held before the overlay shows. 0.8 s by default.
-    Seconds holdDelay() const;
+    Seconds holdDelay() const { return m_holdDelay; }
+    /// A delay that is no finite number of at least 0 is not taken.
     void setHoldDelay(Seconds delay);
 
-    bool nudgesOn() const;
+    /// Whether clicks on menu commands are answered by nudges.
+    bool nudgesOn() const { return m_nudgesOn; }
     void setNudgesOn(bool on);
 
-    bool countTyped() const;
+    /// Whether typed shortcuts are counted.
+    bool countTyped() const { return m_countTyped; }
     void setCountTyped(bool on);
 
-    bool onboarded() const;
+    /// Whether the welcome was completed.
+    bool onboarded() const { return m_onboarded; }
     void setOnboarded(bool onboarded);
 
   private:
-    bool flag(const QString& key, bool fallback) const;
+    void read();
+    template <class Value>
+    void set(Value& field, const Value& value, Setting setting, const QVariant& stored);
 
-    QSettings m_store;
+    std::unique_ptr<QSettings> m_store; ///< null when nothing is read or written
+    TriggerKey m_trigger = TriggerKey::command;
+    Seconds m_holdDelay{0.8};
+    bool m_nudgesOn = true;
+    bool m_countTyped = true;
+    bool m_onboarded = false;
 };
 
 } // namespace quillon

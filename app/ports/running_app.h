@@ -27,4 +27,9 @@ struct RunningApp {
     bool operator==(const RunningApp&) const = default;
 };
 
+/// Whether both are one application, whatever their windows.
+inline bool isSameApp(const RunningApp& a, const RunningApp& b) {
+    return a.pid == b.pid && a.bundleID == b.bundleID;
+}
+
 } // namespace quillon

@@ -34,11 +34,13 @@ Program::Program(Platform& platform)
                                                  .panels = m_panels,
                                                  .windows = m_windows,
                                                  .settings = m_settings,
+                                                 .dataFolder = platform.dataFolder(),
                                                  .ownPid = getpid(),
                                              }),
       m_tray(m_model, m_themes, [] { QApplication::quit(); }) {}
 
 Program::~Program() {
+    m_model.savePending();
     // Readings under way use the desktop, which ends before the threads that they run on.
     m_background.finish();
 }

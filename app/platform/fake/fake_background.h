@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <stop_token>
 
 namespace quillon {
 
@@ -12,12 +13,12 @@ class FakeBackground final : public Background {
   public:
     ~FakeBackground() override;
 
-    void run(Job job) override;
+    Subscription run(Job job) override;
 
-    /// Jobs that have not begun.
-    std::size_t waiting() const { return m_jobs.size(); }
-    /// Jobs that are done and whose continuations have not been called.
-    std::size_t finished() const { return m_continuations.size(); }
+    /// Jobs that have not begun and whose handles live.
+    std::size_t waiting() const;
+    /// Jobs that are done, whose continuations have not been called and whose handles live.
+    std::size_t finished() const;
 
     /// Does the oldest waiting job and keeps its continuation back; false when none waits.
     bool workNext();
@@ -33,11 +34,20 @@ class FakeBackground final : public Background {
     void requestStop() { m_stop.request_stop(); }
 
   private:
-    void finish(const Job& job);
+    /// A job or a continuation and whether its handle has ended.
+    template <class Work>
+    struct Pending {
+        Work work;
+        std::stop_source ended;
+    };
+
+    Pending<Continuation> work(Pending<Job> job);
+    static void deliver(const Pending<Continuation>& continuation);
+    void dropEnded();
 
     std::stop_source m_stop;
-    std::deque<Job> m_jobs;
-    std::deque<Continuation> m_continuations;
+    std::deque<Pending<Job>> m_jobs;
+    std::deque<Pending<Continuation>> m_continuations;
 };
 
 } // namespace quillon

@@ -26,15 +26,22 @@ void ThreadBackground::finish() {
     m_threads.waitForDone();
 }
 
-void ThreadBackground::run(Job job) {
-    m_threads.start([this, job = std::move(job)] {
-        if (m_stop.stop_requested())
+Subscription ThreadBackground::run(Job job) {
+    const auto ended = std::make_shared<std::stop_source>();
+    m_threads.start([this, job = std::move(job), ended] {
+        const std::stop_callback finishing(m_stop.get_token(), [&ended] { ended->request_stop(); });
+        if (ended->stop_requested())
             return;
-        Continuation continuation = job(m_stop.get_token());
-        if (!continuation || m_stop.stop_requested())
+        Continuation continuation = job(ended->get_token());
+        if (!continuation || ended->stop_requested())
             return;
-        QMetaObject::invokeMethod(m_mainThread.get(), std::move(continuation), Qt::QueuedConnection);
+        const auto unlessEnded = [continuation = std::move(continuation), ended] {
+            if (!ended->stop_requested())
+                continuation();
+        };
+        QMetaObject::invokeMethod(m_mainThread.get(), unlessEnded, Qt::QueuedConnection);
     });
+    return Subscription([ended] { ended->request_stop(); });
 }
 
 } // namespace quillon

@@ -17,7 +17,7 @@ class ThreadBackground final : public Background {
     ThreadBackground();
     ~ThreadBackground() override;
 
-    void run(Job job) override;
+    Subscription run(Job job) override;
 
     /// Asks the jobs to stop and waits for them; later jobs are dropped. For whoever owns what jobs use and
     /// ends before this object does.

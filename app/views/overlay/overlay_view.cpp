@@ -53,7 +53,9 @@ OverlayView::OverlayView(
     m_prepareSearch.setSingleShot(true);
     m_prepareSearch.setInterval(searchPreparationDelay);
     m_prepareSearch.callOnTimeout(this, [this] { m_sheet.prepareSearch(); });
-    m_subscription = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
+    m_modelChange = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
+    m_recordChange =
+        model.recordChanged.subscribe([this](const RecordChange& change) { recordChanged(change); });
 }
 
 void OverlayView::layOut() {
@@ -109,12 +111,8 @@ QString OverlayView::triggerGlyph() const {
 }
 
 void OverlayView::modelChanged(ModelField field) {
-    switch (field) {
-    case ModelField::current: m_sheet.sheetMayDiffer(); break;
-    case ModelField::annotations:
-    case ModelField::usage: m_sheet.recordsMayDiffer(); break;
-    default: break;
-    }
+    if (field == ModelField::current)
+        m_sheet.sheetMayDiffer();
     if (!isVisible())
         return;
     if (field == ModelField::overlaySticky && m_model.overlaySticky())
@@ -122,6 +120,15 @@ void OverlayView::modelChanged(ModelField field) {
     refresh();
     if (field == ModelField::query)
         m_area->scrollToTop();
+}
+
+void OverlayView::recordChanged(const RecordChange& change) {
+    const auto& prepared = m_sheet.prepared();
+    if (!prepared || !change.concerns(prepared->bundleID))
+        return;
+    m_sheet.recordsMayDiffer();
+    if (isVisible())
+        refresh();
 }
 
 void OverlayView::refresh() {

@@ -53,6 +53,7 @@ class OverlayView : public ThemedWidget {
     void connectParts();
     const PreparedSheet& sheet() const { return *m_sheet.prepared(); }
     void modelChanged(ModelField field);
+    void recordChanged(const RecordChange& change);
     void refresh();
     void refreshSheet();
     void refreshState();
@@ -71,7 +72,8 @@ class OverlayView : public ThemedWidget {
     ShortcutArea* m_area;
     OverlayFooter* m_footer;
     QTimer m_prepareSearch;
-    Subscription m_subscription;
+    Subscription m_modelChange;
+    Subscription m_recordChange;
     std::optional<NinePatch> m_background;
 
     SearchedSheet m_sheet;

@@ -159,14 +159,15 @@ TEST_F(AppModelTest, SettingsAreStoredAndToldOnce) {
 
 TEST_F(AppModelTest, PinsAreToggledAndTold) {
     startWith(sketch);
-    int told = 0;
+    std::vector<RecordChange> told;
     const auto subscription =
-        model.changed.subscribe([&](ModelField field) { told += field == ModelField::annotations ? 1 : 0; });
+        model.recordChanged.subscribe([&](const RecordChange& change) { told.push_back(change); });
     model.togglePin("org.example.sketch", "File › Command a");
     EXPECT_TRUE(model.annotations().get("org.example.sketch", "File › Command a").pinned);
     model.togglePin("org.example.sketch", "File › Command a");
     EXPECT_EQ(model.annotations(), AnnotationBook{});
-    EXPECT_EQ(told, 2);
+    const RecordChange pin{"org.example.sketch", "File › Command a"};
+    EXPECT_EQ(told, (std::vector{pin, pin}));
 }
 
 TEST_F(AppModelTest, ShowsSampleDataWithoutADesktop) {

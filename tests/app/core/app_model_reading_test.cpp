@@ -21,8 +21,19 @@ TEST_F(AppModelTest, ReadsNothingWithoutPermission) {
     desktop.timers.advance(Seconds(10));
     EXPECT_EQ(desktop.background.waiting(), 0U);
     EXPECT_FALSE(model.current());
-    EXPECT_EQ(desktop.keyboard.monitors(), 0U);
-    EXPECT_FALSE(model.isWatching());
+}
+
+TEST_F(AppModelTest, AHoldIsNoticedWithoutPermissionToo) {
+    desktop.front.setCurrent(sketch);
+    model.start();
+    EXPECT_TRUE(model.isWatching());
+    desktop.keyboard.press(Modifiers::command);
+    desktop.timers.advance(Seconds(0.9));
+    EXPECT_TRUE(panels.overlay->visible);
+    EXPECT_FALSE(model.trusted());
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+    desktop.keyboard.release(Modifiers::command);
+    EXPECT_FALSE(panels.overlay->visible);
 }
 
 TEST_F(AppModelTest, NoticesThePermissionAtTheNextPoll) {
@@ -291,7 +302,8 @@ TEST(AppModelLifetime, EndsWhileAReadingIsUnderWay) {
         model.start();
         EXPECT_TRUE(desktop.background.workNext());
     }
-    EXPECT_TRUE(desktop.background.deliverNext());
+    EXPECT_EQ(desktop.background.finished(), 0U);
+    EXPECT_FALSE(desktop.background.deliverNext());
     EXPECT_EQ(desktop.front.listeners(), 0U);
     EXPECT_EQ(desktop.timers.running(), 0U);
 }

@@ -3,7 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+#include <limits>
+#include <vector>
 
 namespace quillon {
 namespace {
@@ -65,6 +71,67 @@ TEST_F(SettingsTest, ReadMistypedValuesAsTheirDefaults) {
 TEST_F(SettingsTest, TakeNoInfiniteDelay) {
     write("[General]\nholdDelay=inf\n");
     EXPECT_EQ(Settings(m_path).holdDelay(), Seconds(0.8));
+}
+
+TEST_F(SettingsTest, TakeNoDelayBelowZero) {
+    write("[General]\nholdDelay=-0.5\n");
+    EXPECT_EQ(Settings(m_path).holdDelay(), Seconds(0.8));
+    write("[General]\nholdDelay=nan\n");
+    EXPECT_EQ(Settings(m_path).holdDelay(), Seconds(0.8));
+    write("[General]\nholdDelay=0\n");
+    EXPECT_EQ(Settings(m_path).holdDelay(), Seconds(0));
+}
+
+TEST_F(SettingsTest, KeepTheDelayThatTheyHaveWhenGivenOneThatIsNone) {
+    Settings settings(m_path);
+    settings.setHoldDelay(Seconds(-1));
+    settings.setHoldDelay(Seconds(std::numeric_limits<double>::infinity()));
+    EXPECT_EQ(settings.holdDelay(), Seconds(0.8));
+}
+
+TEST_F(SettingsTest, TellWhichOfThemGotAnotherValue) {
+    Settings settings(m_path);
+    std::vector<Setting> told;
+    const Subscription subscription =
+        settings.changed.subscribe([&](Setting setting) { told.push_back(setting); });
+    settings.setNudgesOn(false);
+    settings.setNudgesOn(false);
+    settings.setTrigger(TriggerKey::control);
+    EXPECT_EQ(told, (std::vector{Setting::nudgesOn, Setting::trigger}));
+}
+
+TEST_F(SettingsTest, AreNotKeptWithoutAPath) {
+    {
+        Settings settings{QString()};
+        settings.setTrigger(TriggerKey::control);
+        EXPECT_EQ(settings.trigger(), TriggerKey::control);
+    }
+    EXPECT_EQ(Settings(QString()).trigger(), TriggerKey::command);
+}
+
+TEST_F(SettingsTest, DoNotWaitForAPipe) {
+    ASSERT_EQ(mkfifo(m_path.toLocal8Bit().constData(), 0600), 0);
+    Settings settings(m_path);
+    EXPECT_EQ(settings.trigger(), TriggerKey::command);
+    settings.setTrigger(TriggerKey::option);
+    EXPECT_EQ(settings.trigger(), TriggerKey::option) << "until the end of the program";
+}
+
+TEST_F(SettingsTest, DoNotReadADevice) {
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), m_path));
+    EXPECT_EQ(Settings(m_path).trigger(), TriggerKey::command);
+}
+
+TEST_F(SettingsTest, DoNotReadAFileThatIsFarTooLarge) {
+    write("[General]\ntrigger=option\n");
+    ASSERT_TRUE(QFile::resize(m_path, Settings::largestFile));
+    EXPECT_EQ(Settings(m_path).trigger(), TriggerKey::option);
+    ASSERT_TRUE(QFile::resize(m_path, Settings::largestFile + 1));
+    Settings settings(m_path);
+    EXPECT_EQ(settings.trigger(), TriggerKey::command);
+    settings.setTrigger(TriggerKey::control);
+    EXPECT_EQ(QFileInfo(m_path).size(), Settings::largestFile + 1)
+        << "it is not this program's to write over";
 }
 
 TEST_F(SettingsTest, SurviveABrokenFile) {

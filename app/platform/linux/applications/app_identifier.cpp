@@ -22,19 +22,14 @@ AppIdentifier::AppIdentifier(Background& background, const Clock& clock, Loader 
 }
 
 void AppIdentifier::load() {
-    m_loading = true;
-    m_background.run([weak = std::weak_ptr(m_self), read = m_load](std::stop_token) {
+    m_loading = m_background.run([this, read = m_load](std::stop_token) {
         auto entries = std::make_shared<const DesktopEntries>(read());
-        return [weak, entries = std::move(entries)] {
-            const auto alive = weak.lock();
-            if (!alive)
-                return;
-            AppIdentifier& self = **alive;
-            self.m_loading = false;
-            self.m_loadedAt = self.m_clock.steadyNow();
-            self.m_entries = entries;
-            self.m_known.clear();
-            self.m_read.emit();
+        return [this, entries = std::move(entries)] {
+            m_loading.reset();
+            m_loadedAt = m_clock.steadyNow();
+            m_entries = entries;
+            m_known.clear();
+            m_read.emit();
         };
     });
 }

@@ -46,10 +46,9 @@ class AppIdentifier {
     std::string m_processes;
     std::shared_ptr<const DesktopEntries> m_entries;
     Instant m_loadedAt = distantPast;
-    bool m_loading = false;
     std::map<WindowFacts, AppIdentity> m_known;
     Event<> m_read;
-    std::shared_ptr<AppIdentifier*> m_self = std::make_shared<AppIdentifier*>(this);
+    Subscription m_loading; ///< a reading that is under way
 };
 
 } // namespace quillon

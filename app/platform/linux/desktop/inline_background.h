@@ -7,9 +7,10 @@ namespace quillon {
 /// For commands that have nothing else to do meanwhile: jobs and continuations run where they are asked for.
 class InlineBackground final : public Background {
   public:
-    void run(Job job) override {
+    Subscription run(Job job) override {
         if (const Continuation continuation = job({}))
             continuation();
+        return {};
     }
 };
 

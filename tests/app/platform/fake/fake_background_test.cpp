@@ -23,22 +23,22 @@ struct FakeBackgroundTest : testing::Test {
 };
 
 TEST_F(FakeBackgroundTest, NothingRunsUntilItIsTold) {
-    background.run(job("a"));
+    const Subscription a = background.run(job("a"));
     EXPECT_THAT(log, ElementsAre());
     EXPECT_EQ(background.waiting(), 1U);
 }
 
 TEST_F(FakeBackgroundTest, RunsTheOldestAndItsContinuation) {
-    background.run(job("a"));
-    background.run(job("b"));
+    const Subscription a = background.run(job("a"));
+    const Subscription b = background.run(job("b"));
     EXPECT_TRUE(background.runNext());
     EXPECT_THAT(log, ElementsAre("work a", "done a"));
     EXPECT_EQ(background.waiting(), 1U);
 }
 
 TEST_F(FakeBackgroundTest, ALaterJobMayOvertake) {
-    background.run(job("a"));
-    background.run(job("b"));
+    const Subscription a = background.run(job("a"));
+    const Subscription b = background.run(job("b"));
     EXPECT_TRUE(background.runLast());
     EXPECT_TRUE(background.runLast());
     EXPECT_FALSE(background.runLast());
@@ -46,7 +46,7 @@ TEST_F(FakeBackgroundTest, ALaterJobMayOvertake) {
 }
 
 TEST_F(FakeBackgroundTest, KeepsAnAnswerBackUntilItIsDelivered) {
-    background.run(job("a"));
+    const Subscription a = background.run(job("a"));
     EXPECT_TRUE(background.workNext());
     EXPECT_THAT(log, ElementsAre("work a"));
     EXPECT_EQ(background.finished(), 1U);
@@ -56,21 +56,52 @@ TEST_F(FakeBackgroundTest, KeepsAnAnswerBackUntilItIsDelivered) {
 }
 
 TEST_F(FakeBackgroundTest, RunsJobsThatOtherJobsAdd) {
-    background.run(
-        [this](std::stop_token) -> Background::Continuation { return [this] { background.run(job("b")); }; });
+    Subscription b;
+    const Subscription a = background.run(
+        [&](std::stop_token) -> Background::Continuation { return [&] { b = background.run(job("b")); }; });
     background.runAll();
     EXPECT_THAT(log, ElementsAre("work b", "done b"));
 }
 
 TEST_F(FakeBackgroundTest, AJobWithoutAContinuationIsFine) {
-    background.run([](std::stop_token) { return Background::Continuation(); });
+    const Subscription a = background.run([](std::stop_token) { return Background::Continuation(); });
     EXPECT_TRUE(background.runNext());
     EXPECT_FALSE(background.runNext());
 }
 
+TEST_F(FakeBackgroundTest, AJobWhoseHandleEndedIsNotRun) {
+    Subscription a = background.run(job("a"));
+    const Subscription b = background.run(job("b"));
+    a.reset();
+    EXPECT_EQ(background.waiting(), 1U);
+    background.runAll();
+    EXPECT_THAT(log, ElementsAre("work b", "done b"));
+}
+
+TEST_F(FakeBackgroundTest, AnAnswerWhoseHandleEndedIsNotDelivered) {
+    Subscription a = background.run(job("a"));
+    EXPECT_TRUE(background.workNext());
+    a.reset();
+    EXPECT_EQ(background.finished(), 0U);
+    EXPECT_FALSE(background.deliverNext());
+    EXPECT_THAT(log, ElementsAre("work a"));
+}
+
+TEST_F(FakeBackgroundTest, AContinuationMayEndItsOwnHandle) {
+    Subscription a;
+    a = background.run([&](std::stop_token) -> Background::Continuation {
+        return [&] {
+            a.reset();
+            log.push_back("done a");
+        };
+    });
+    background.runAll();
+    EXPECT_THAT(log, ElementsAre("done a"));
+}
+
 TEST_F(FakeBackgroundTest, TellsJobsToStop) {
     bool stopped = false;
-    background.run([&](std::stop_token stop) {
+    const Subscription a = background.run([&](std::stop_token stop) {
         stopped = stop.stop_requested();
         return Background::Continuation();
     });

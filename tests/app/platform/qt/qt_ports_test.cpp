@@ -56,7 +56,7 @@ TEST_F(QtPorts, JobsRunBesideTheMainThreadAndContinueOnIt) {
     QThread* const mainThread = QThread::currentThread();
     QThread* jobThread = nullptr;
     QThread* continuationThread = nullptr;
-    background.run([&](std::stop_token) {
+    const Subscription job = background.run([&](std::stop_token) {
         jobThread = QThread::currentThread();
         return [&] {
             continuationThread = QThread::currentThread();
@@ -71,11 +71,11 @@ TEST_F(QtPorts, JobsRunBesideTheMainThreadAndContinueOnIt) {
 TEST_F(QtPorts, AJobThatWaitsDoesNotHoldUpTheNext) {
     ThreadBackground background;
     std::latch second(1);
-    background.run([&](std::stop_token) {
+    const Subscription waiting = background.run([&](std::stop_token) {
         second.wait();
         return [this] { m_loop.quit(); };
     });
-    background.run([&](std::stop_token) {
+    const Subscription next = background.run([&](std::stop_token) {
         second.count_down();
         return Background::Continuation();
     });
@@ -88,7 +88,7 @@ TEST_F(QtPorts, TheEndStopsJobsAndDropsTheirContinuations) {
     std::latch begun(1);
     {
         ThreadBackground background;
-        background.run([&](std::stop_token stop) {
+        const Subscription job = background.run([&](std::stop_token stop) {
             begun.count_down();
             while (!stop.stop_requested())
                 QThread::yieldCurrentThread();
@@ -98,6 +98,40 @@ TEST_F(QtPorts, TheEndStopsJobsAndDropsTheirContinuations) {
         begun.wait();
     }
     EXPECT_TRUE(stopped);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(continued);
+}
+
+TEST_F(QtPorts, AJobWhoseHandleEndsIsAskedToStopAndNotContinued) {
+    ThreadBackground background;
+    std::atomic<bool> stopped = false;
+    bool continued = false;
+    std::latch begun(1);
+    Subscription given = background.run([&](std::stop_token stop) {
+        begun.count_down();
+        while (!stop.stop_requested())
+            QThread::yieldCurrentThread();
+        stopped = true;
+        return [&] { continued = true; };
+    });
+    begun.wait();
+    given.reset();
+    background.finish();
+    EXPECT_TRUE(stopped);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(continued);
+}
+
+TEST_F(QtPorts, AContinuationThatWaitsIsDroppedWithItsHandle) {
+    ThreadBackground background;
+    bool continued = false;
+    std::latch worked(1);
+    Subscription given = background.run([&](std::stop_token) {
+        worked.count_down();
+        return [&] { continued = true; };
+    });
+    worked.wait();
+    given.reset();
     QCoreApplication::processEvents();
     EXPECT_FALSE(continued);
 }

@@ -22,6 +22,16 @@ TEST_F(OverlayTest, WithoutPermissionItAsksForItAndShowsHow) {
     EXPECT_THAT(desk.desktop.windows.opened(), ElementsAre(WindowName::welcome));
 }
 
+TEST_F(OverlayTest, ARecordOfAnotherApplicationPreparesNothingAnew) {
+    desk.trust();
+    desk.showSample();
+    const PreparedSheet* before = &view->area().sheet();
+    desk.model.togglePin("org.example.other", "File › Save");
+    EXPECT_EQ(&view->area().sheet(), before);
+    desk.model.togglePin(std::string(SampleMenus::bundleID), "File › Save");
+    EXPECT_NE(&view->area().sheet(), before);
+}
+
 TEST_F(OverlayTest, PermissionThatIsGrantedWhileItIsOpenShowsAtOnce) {
     desk.showSample();
     EXPECT_EQ(view->state(), OverlayState::needsAccessibility);

@@ -1,0 +1,97 @@
+#include "data_folder.h"
+
+#include <quillon/kit/records/json_file.h>
+
+#include <optional>
+#include <system_error>
+#include <tuple>
+#include <utility>
+
+namespace quillon {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* usageName = "usage.json";
+constexpr const char* notesName = "notes.json";
+constexpr const char* menusName = "menus.json";
+
+/// Whoever wants to look into a broken file finds these; one more is written over.
+constexpr int mostSetAside = 9;
+
+std::optional<fs::path> freeName(const fs::path& path) {
+    for (int number = 1; number <= mostSetAside; ++number) {
+        fs::path name = path;
+        name += number == 1 ? std::string(".broken") : ".broken-" + std::to_string(number);
+        std::error_code error;
+        if (fs::symlink_status(name, error).type() == fs::file_type::not_found)
+            return name;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+DataFolder::DataFolder(fs::path folder) : m_folder(std::move(folder)) {}
+
+LearnedData DataFolder::load() {
+    if (m_folder.empty())
+        return {};
+    return {
+        .usage = loadFile<UsageBook>(usageName),
+        .annotations = loadFile<AnnotationBook>(notesName),
+        .sheets = loadFile<SheetMap>(menusName),
+    };
+}
+
+void DataFolder::save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets) {
+    if (m_folder.empty())
+        return;
+    saveFile(usageName, usage);
+    saveFile(notesName, annotations);
+    saveFile(menusName, sheets);
+}
+
+void DataFolder::erase() {
+    if (m_folder.empty())
+        return;
+    std::error_code ignored;
+    fs::remove_all(m_folder, ignored);
+    m_broken.clear();
+}
+
+template <class Value>
+Value DataFolder::loadFile(const char* name) {
+    const JSONFile<Value> file(m_folder / name);
+    if (auto value = file.load())
+        return std::move(*value);
+    std::error_code error;
+    if (fs::is_regular_file(file.url(), error))
+        m_broken.insert(name);
+    return {};
+}
+
+template <class Value>
+void DataFolder::saveFile(const char* name, const Value& value) {
+    if (m_broken.contains(name) && !setAside(name))
+        return;
+    m_broken.erase(name);
+    // A save that fails is made up for by the next.
+    std::ignore = JSONFile<Value>(m_folder / name).save(value);
+}
+
+// A link stays where it is, so that saving goes on to where it leads.
+bool DataFolder::setAside(const std::string& name) const {
+    const fs::path path = m_folder / name;
+    const auto other = freeName(path);
+    std::error_code error;
+    if (!other || !fs::exists(path, error))
+        return true;
+    if (fs::is_symlink(path, error))
+        return fs::copy_file(path, *other, error);
+    fs::rename(path, *other, error);
+    return !error;
+}
+
+} // namespace quillon

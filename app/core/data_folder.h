@@ -1,0 +1,48 @@
+#pragma once
+
+#include <quillon/kit/records/annotations.h>
+#include <quillon/kit/records/json_codec.h>
+#include <quillon/kit/records/usage.h>
+
+#include <filesystem>
+#include <set>
+#include <string>
+
+namespace quillon {
+
+/// Everything that is kept from one run to the next.
+struct LearnedData {
+    UsageBook usage;
+    AnnotationBook annotations;
+    SheetMap sheets;
+
+    bool operator==(const LearnedData&) const = default;
+};
+
+/// The folder with the three files of what was learned.
+class DataFolder {
+  public:
+    /// It need not exist. Empty: nothing is read or written.
+    explicit DataFolder(std::filesystem::path folder);
+
+    /// What the files hold; nothing in place of one that is missing or cannot be made out.
+    LearnedData load();
+    /// Writes all three files: usage, annotations, sheets. One that fails stays as it was and does not keep
+    /// the others from being written. A file that `load` could not make out is kept under another name,
+    /// "usage.json.broken" or with a number behind it.
+    void save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets);
+    /// Removes the folder with all that is in it.
+    void erase();
+
+  private:
+    template <class Value>
+    Value loadFile(const char* name);
+    template <class Value>
+    void saveFile(const char* name, const Value& value);
+    bool setAside(const std::string& name) const;
+
+    std::filesystem::path m_folder;
+    std::set<std::string> m_broken; ///< names of files that `load` could not make out and that still stand
+};
+
+} // namespace quillon

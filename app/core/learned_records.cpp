@@ -1,0 +1,26 @@
+#include "learned_records.h"
+
+#include <utility>
+
+namespace quillon {
+
+void LearnedRecords::togglePin(const std::string& bundleID, const std::string& entryID) {
+    m_annotations.togglePin(bundleID, entryID);
+    changed.emit({bundleID, entryID});
+}
+
+void LearnedRecords::replace(UsageBook usage, AnnotationBook annotations) {
+    if (usage == m_usage && annotations == m_annotations)
+        return;
+    m_usage = std::move(usage);
+    m_annotations = std::move(annotations);
+    changed.emit({});
+}
+
+void LearnedRecords::replace(const std::string& bundleID, UsageRecords usage, Annotations annotations) {
+    m_usage.apps.insert_or_assign(bundleID, std::move(usage));
+    m_annotations.apps.insert_or_assign(bundleID, std::move(annotations));
+    changed.emit({bundleID, {}});
+}
+
+} // namespace quillon

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <quillon/kit/base/subscription.h>
+#include <quillon/kit/records/annotations.h>
+#include <quillon/kit/records/usage.h>
+
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// Whose usage record or annotation changed.
+struct RecordChange {
+    std::string bundleID = {}; ///< empty: any application's
+    std::string entryID = {};  ///< empty: any of the application's commands
+
+    /// Whether something of this application may have changed.
+    bool concerns(std::string_view application) const { return bundleID.empty() || bundleID == application; }
+
+    bool operator==(const RecordChange&) const = default;
+};
+
+/// What was learned of the user's ways and what the user has said of commands.
+class LearnedRecords {
+  public:
+    /// Emitted after a record or an annotation changed.
+    Event<const RecordChange&> changed;
+
+    const UsageBook& usage() const { return m_usage; }
+    const AnnotationBook& annotations() const { return m_annotations; }
+
+    void togglePin(const std::string& bundleID, const std::string& entryID);
+
+    /// Takes over all records at once: those of an earlier run, or none.
+    void replace(UsageBook usage, AnnotationBook annotations);
+    /// Takes over those of one application.
+    void replace(const std::string& bundleID, UsageRecords usage, Annotations annotations);
+
+  private:
+    UsageBook m_usage;
+    AnnotationBook m_annotations;
+};
+
+} // namespace quillon

@@ -1,0 +1,166 @@
+#include "app_model_fixture.h"
+
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/records/sample_records.h>
+
+#include <filesystem>
+#include <memory>
+
+namespace quillon {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The program's runs one after the other, over one data folder.
+class AppModelLearningTest : public testing::Test {
+  protected:
+    AppModelLearningTest() {
+        desktop.menus.answer(sketch.bundleID, {menuBarOf(3), ReadOutcome::complete});
+        desktop.access.setTrusted(true);
+        desktop.front.setCurrent(sketch);
+    }
+    std::unique_ptr<AppModel> modelOver(const fs::path& dataFolder) {
+        return std::make_unique<AppModel>(AppServices{
+            .frontApplication = desktop.front,
+            .menuReader = desktop.menus,
+            .accessibility = desktop.access,
+            .keyboard = desktop.keyboard,
+            .clock = desktop.clock,
+            .timers = desktop.timers,
+            .background = desktop.background,
+            .panels = panels,
+            .windows = desktop.windows,
+            .settings = settings,
+            .dataFolder = dataFolder,
+            .ownPid = 1,
+        });
+    }
+    /// Started, and the first reading done.
+    std::unique_ptr<AppModel> startedModel() {
+        auto model = modelOver(data);
+        model->start();
+        desktop.background.runAll();
+        return model;
+    }
+    bool isStored() const { return fs::exists(data); }
+
+    const RunningApp sketch = appNamed("sketch", 10);
+    const RunningApp writer = appNamed("writer", 20);
+    const std::string save = "File › Command a";
+    QTemporaryDir folder;
+    const fs::path data = fs::path(folder.path().toStdString()) / "data";
+    Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
+    FakeDesktop desktop;
+    FakePanelHost panels;
+};
+
+TEST_F(AppModelLearningTest, PinsAndSheetsAreThereInTheNextRun) {
+    auto model = startedModel();
+    model->togglePin(sketch.bundleID, save);
+    desktop.timers.advance(Seconds(1.1));
+    const SheetMap sheets = model->sheets();
+    model.reset();
+    auto next = modelOver(data);
+    EXPECT_TRUE(next->sheets().empty()) << "loaded at the start";
+    next->start();
+    EXPECT_TRUE(next->annotations().get(sketch.bundleID, save).pinned);
+    ASSERT_TRUE(next->sheets().contains(sketch.bundleID));
+    EXPECT_EQ(next->current()->entries, sheets.at(sketch.bundleID).entries) << "shown before it is read anew";
+}
+
+TEST_F(AppModelLearningTest, SavesASecondAfterTheLastChange) {
+    auto model = startedModel();
+    desktop.timers.advance(Seconds(0.9));
+    model->togglePin(sketch.bundleID, save);
+    desktop.timers.advance(Seconds(0.9));
+    EXPECT_FALSE(isStored());
+    desktop.timers.advance(Seconds(0.2));
+    EXPECT_TRUE(isStored());
+}
+
+TEST_F(AppModelLearningTest, TheEndWritesWhatIsPendingAndOnlyThat) {
+    auto model = startedModel();
+    model->togglePin(sketch.bundleID, save);
+    model->savePending();
+    EXPECT_TRUE(isStored());
+    fs::remove_all(data);
+    model->savePending();
+    EXPECT_FALSE(isStored());
+}
+
+TEST_F(AppModelLearningTest, LoadingIsNoChangeToSave) {
+    startedModel()->savePending();
+    fs::remove(data / "usage.json");
+    desktop.access.setTrusted(false);
+    const auto next = modelOver(data);
+    next->start();
+    desktop.timers.advance(Seconds(3));
+    next->savePending();
+    EXPECT_FALSE(fs::exists(data / "usage.json"));
+}
+
+TEST_F(AppModelLearningTest, WithoutAFolderNoFileIsTouched) {
+    const fs::path before = fs::current_path();
+    const fs::path empty = fs::path(folder.path().toStdString()) / "empty";
+    fs::create_directory(empty);
+    fs::current_path(empty);
+    auto model = modelOver({});
+    model->start();
+    desktop.background.runAll();
+    model->togglePin(sketch.bundleID, save);
+    desktop.timers.advance(Seconds(3));
+    model->eraseEverything();
+    fs::current_path(before);
+    EXPECT_TRUE(fs::is_empty(empty));
+    EXPECT_EQ(model->annotations(), AnnotationBook());
+}
+
+TEST_F(AppModelLearningTest, ErasingForgetsEverythingButTheSettings) {
+    settings.setTrigger(TriggerKey::option);
+    auto model = startedModel();
+    model->togglePin(sketch.bundleID, save);
+    model->savePending();
+    model->togglePin(sketch.bundleID, "File › Command b");
+    model->eraseEverything();
+    EXPECT_FALSE(isStored());
+    EXPECT_FALSE(model->current());
+    EXPECT_TRUE(model->sheets().empty());
+    EXPECT_EQ(model->usage(), UsageBook());
+    EXPECT_EQ(model->annotations(), AnnotationBook());
+    EXPECT_EQ(model->trigger(), TriggerKey::option);
+    desktop.timers.advance(Seconds(1.5));
+    EXPECT_FALSE(isStored()) << "what was pending before is not written any more";
+    desktop.timers.advance(Seconds(1));
+    desktop.background.runAll();
+    EXPECT_EQ(model->current()->entries.size(), 3U) << "read again with the next look at the permission";
+}
+
+TEST_F(AppModelLearningTest, ErasingIsToldAsAWhole) {
+    auto model = startedModel();
+    model->togglePin(sketch.bundleID, save);
+    std::vector<ModelField> told;
+    std::vector<RecordChange> records;
+    const Subscription fields = model->changed.subscribe([&](ModelField field) { told.push_back(field); });
+    const Subscription changes =
+        model->recordChanged.subscribe([&](const RecordChange& change) { records.push_back(change); });
+    model->eraseEverything();
+    EXPECT_EQ(told, std::vector{ModelField::current});
+    EXPECT_EQ(records, std::vector{RecordChange()});
+}
+
+TEST_F(AppModelLearningTest, AFloodOfApplicationsCostsNoGrowingMemory) {
+    auto model = startedModel();
+    for (int number = 0; number < 20'000; ++number) {
+        const RunningApp app = appNamed("flood" + std::to_string(number), 100 + number);
+        desktop.front.activate(app);
+    }
+    EXPECT_LE(desktop.background.waiting(), ReadingQueue::mostUnderWay);
+    EXPECT_EQ(model->current()->bundleID, "org.example.flood19999");
+    EXPECT_TRUE(model->reading());
+    desktop.background.runAll();
+    EXPECT_FALSE(model->reading());
+    EXPECT_LE(model->sheets().size(), ReadingQueue::mostUnderWay + ReadingQueue::mostWaiting + 1);
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,47 @@
+#include <quillon/app/core/learned_records.h>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quillon {
+namespace {
+
+class LearnedRecordsTest : public testing::Test {
+  protected:
+    LearnedRecords records;
+    std::vector<RecordChange> told;
+    Subscription subscription =
+        records.changed.subscribe([this](const RecordChange& change) { told.push_back(change); });
+};
+
+TEST_F(LearnedRecordsTest, APinTellsWhose) {
+    records.togglePin("org.example.writer", "File › Save");
+    EXPECT_TRUE(records.annotations().get("org.example.writer", "File › Save").pinned);
+    EXPECT_EQ(told, (std::vector<RecordChange>{{"org.example.writer", "File › Save"}}));
+    EXPECT_TRUE(told[0].concerns("org.example.writer"));
+    EXPECT_FALSE(told[0].concerns("org.example.sketch"));
+}
+
+TEST_F(LearnedRecordsTest, ReplacingAllConcernsEveryApplication) {
+    UsageBook usage;
+    usage.typed("a", "x");
+    records.replace(usage, {});
+    EXPECT_EQ(records.usage(), usage);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_TRUE(told[0].concerns("a"));
+    EXPECT_TRUE(told[0].concerns("b"));
+    records.replace(usage, {});
+    EXPECT_EQ(told.size(), 1U) << "nothing changed";
+}
+
+TEST_F(LearnedRecordsTest, ReplacingOneApplicationsLeavesTheOthers) {
+    records.togglePin("a", "x");
+    records.replace("b", {{"y", UsageRecord{.clicked = 2}}}, {{"y", Annotation{.pinned = true}}});
+    EXPECT_TRUE(records.annotations().get("a", "x").pinned);
+    EXPECT_EQ(records.usage().record("b", "y")->clicked, 2);
+    EXPECT_EQ(told.back(), (RecordChange{"b", ""}));
+}
+
+} // namespace
+} // namespace quillon
