@@ -3,6 +3,8 @@
 #include "panel_log.h"
 #include "stall_hook.h"
 
+#include <quillon/app/platform/qt/end_signals.h>
+
 #include <QApplication>
 
 #include <array>
@@ -32,6 +34,7 @@ LoopEnd run(Program& program, Instance& instance, FirstShow firstShow) {
     const Subscription returned = instance.onReturn([](Instance::Return how) {
         QApplication::exit(how == Instance::Return::startAnew ? LoopEnd::startAnew : LoopEnd::quit);
     });
+    const EndSignals signals([] { QApplication::quit(); });
     program.start(firstShow);
     return static_cast<LoopEnd>(QApplication::exec());
 }

@@ -1,3 +1,4 @@
+#include <quillon/app/platform/qt/end_signals.h>
 #include <quillon/app/platform/qt/qt_timers.h>
 #include <quillon/app/platform/qt/stall_meter.h>
 #include <quillon/app/platform/qt/system_clock.h>
@@ -10,6 +11,7 @@
 #include <QThread>
 
 #include <atomic>
+#include <csignal>
 #include <latch>
 #include <memory>
 
@@ -134,6 +136,34 @@ TEST_F(QtPorts, AContinuationThatWaitsIsDroppedWithItsHandle) {
     given.reset();
     QCoreApplication::processEvents();
     EXPECT_FALSE(continued);
+}
+
+TEST_F(QtPorts, ASignalToEndIsToldByTheEventLoop) {
+    int asked = 0;
+    {
+        const EndSignals signals([&] {
+            ++asked;
+            m_loop.quit();
+        });
+        std::raise(SIGTERM);
+        EXPECT_EQ(asked, 0);
+        runLoop();
+        EXPECT_EQ(asked, 1);
+        std::raise(SIGHUP);
+        runLoop();
+        EXPECT_EQ(asked, 2);
+    }
+    EXPECT_EQ(std::signal(SIGINT, SIG_DFL), SIG_DFL) << "as before";
+}
+
+TEST_F(QtPorts, TheSameSignalSentAgainEndsTheProgram) {
+    EXPECT_EXIT(
+        {
+            const EndSignals signals([] {});
+            std::raise(SIGTERM);
+            std::raise(SIGTERM);
+        },
+        testing::KilledBySignal(SIGTERM), "");
 }
 
 TEST_F(QtPorts, TheStallMeterSeesTheLongestBusyTime) {
