@@ -15,7 +15,8 @@ AppSheet sheetOf(const std::string& bundleID, std::size_t entries, Instant readA
     AppSheet sheet{bundleID, bundleID, {}, readAt};
     for (std::size_t i = 0; i < entries; ++i)
         sheet.entries.push_back(
-            {.path = {"Menu", std::to_string(i)}, .shortcut = Shortcut(Modifiers::command, Key::character("A"))});
+            {.path = {"Menu", std::to_string(i)},
+             .shortcut = Shortcut(Modifiers::command, Key::character("A"))});
     return sheet;
 }
 

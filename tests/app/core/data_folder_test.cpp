@@ -19,7 +19,8 @@ class DataFolderTest : public testing::Test {
     DataFolderTest() {
         learned.usage.typed("app", "File › Save");
         learned.annotations.togglePin("app", "File › Save");
-        const MenuEntry save{.path = {"File", "Save"}, .shortcut = Shortcut(Modifiers::command, Key::character("S"))};
+        const MenuEntry save{
+            .path = {"File", "Save"}, .shortcut = Shortcut(Modifiers::command, Key::character("S"))};
         learned.sheets.emplace("app", AppSheet{"app", "App", {save}, distantPast});
     }
     void write(const char* name, const std::string& text) const {
