@@ -67,7 +67,7 @@ TEST(AxOfCharacter, TakesTheCharacterInAnyCase) {
 
 TEST(AxOfCharacter, TellsNothingOfWhatCannotBeSeen) {
     for (const char32_t character :
-         {0x00, 0x0d, 0x1b, 0x7f, 0x9b, 0xa0, 0x2028, 0xd800, 0xe000, 0xf704, 0xf0000})
+         {0x00u, 0x0du, 0x1bu, 0x7fu, 0x9bu, 0xa0u, 0x2028u, 0xd800u, 0xe000u, 0xf704u, 0xf0000u})
         EXPECT_EQ(axOfCharacter(character, Modifiers::control), AxKeyEquivalent())
             << static_cast<std::uint32_t>(character);
 }
