@@ -91,6 +91,8 @@ class AppModel {
     const SheetMap& sheets() const { return m_sheets.sheets(); }
     /// Whether the menus of the current application are being read (of any, while none is current).
     bool reading() const;
+    /// Whether the current application answered to the end when it was read last. True until then.
+    bool answered() const { return m_sheets.answered(); }
     const UsageBook& usage() const { return m_records.usage(); }
     const AnnotationBook& annotations() const { return m_records.annotations(); }
     /// What is typed in the overlay's search field.

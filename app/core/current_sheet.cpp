@@ -21,6 +21,7 @@ void CurrentSheet::load(SheetMap sheets) {
 }
 
 void CurrentSheet::frontIs(const RunningApp& app) {
+    m_answered = m_answered || !m_current || m_current->bundleID != app.bundleID;
     const auto known = m_sheets.find(app.bundleID);
     if (known == m_sheets.end())
         return setCurrent({app.bundleID, app.name, {}, distantPast});
@@ -45,12 +46,15 @@ bool CurrentSheet::arrived(const RunningApp& app, AppSheet sheet, ReadOutcome ou
     case SheetArrival::Current::takeNew: setCurrent(sheet); break;
     case SheetArrival::Current::takeCached: setCurrent(cached->second); break;
     }
+    if (m_current && m_current->bundleID == app.bundleID)
+        m_answered = outcome != ReadOutcome::partial;
     if (arrival.store)
         store(std::move(sheet));
     return arrival.store;
 }
 
 void CurrentSheet::show(AppSheet sheet) {
+    m_answered = true;
     setCurrent(std::move(sheet));
 }
 

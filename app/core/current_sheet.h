@@ -31,6 +31,9 @@ class CurrentSheet {
     /// Another number whenever `current` has become another sheet; cheaper to compare than sheets.
     std::uint64_t revision() const { return m_revision; }
 
+    /// Whether the current application answered to the end when it was read last. True until then.
+    bool answered() const { return m_answered; }
+
     /// The sheets of an earlier run.
     void load(SheetMap sheets);
     /// Another application came to the front: its sheet is current at once, an empty one while none is known.
@@ -50,6 +53,7 @@ class CurrentSheet {
 
     std::optional<AppSheet> m_current;
     std::uint64_t m_revision = 0;
+    bool m_answered = true;
     SheetMap m_sheets;
     std::size_t m_entries = 0;              ///< of all sheets
     std::vector<std::string> m_usedInOrder; ///< the sheets' identifiers, that of the last use at the end

@@ -152,6 +152,7 @@ void OverlayView::refreshState() {
         .hasSheet = m_model.current().has_value(),
         .hasEntries = !sheet().entries.empty(),
         .reading = m_model.reading(),
+        .answered = m_model.answered(),
     });
     m_matches = m_sheet.matches(m_model.query());
 }

@@ -52,6 +52,24 @@ TEST(CurrentSheetTest, ALateSheetIsKeptWithoutBecomingCurrent) {
     EXPECT_EQ(sheets.sheets().count("c"), 1U);
 }
 
+TEST(CurrentSheetTest, RemembersWhetherTheCurrentApplicationAnswered) {
+    CurrentSheet sheets;
+    sheets.frontIs(appOf("a"));
+    EXPECT_TRUE(sheets.answered());
+    sheets.arrived(appOf("a"), sheetOf("a", 0), ReadOutcome::partial, true);
+    EXPECT_FALSE(sheets.answered());
+    sheets.frontIs(appOf("a"));
+    EXPECT_FALSE(sheets.answered()) << "until it is read again";
+    sheets.arrived(appOf("b"), sheetOf("b", 1), ReadOutcome::complete, false);
+    EXPECT_FALSE(sheets.answered()) << "another one did";
+    sheets.frontIs(appOf("b"));
+    EXPECT_TRUE(sheets.answered());
+    sheets.frontIs(appOf("a"));
+    sheets.arrived(appOf("a"), sheetOf("a", 0), ReadOutcome::partial, true);
+    sheets.arrived(appOf("a"), sheetOf("a", 0), ReadOutcome::noMenuBar, true);
+    EXPECT_TRUE(sheets.answered());
+}
+
 TEST(CurrentSheetTest, TheRevisionTellsAnotherSheetFromTheSame) {
     CurrentSheet sheets;
     read(sheets, "a", 1);

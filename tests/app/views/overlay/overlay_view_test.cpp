@@ -75,6 +75,21 @@ TEST_F(OverlayTest, AnApplicationThatSharesNoMenusIsNamed) {
     EXPECT_THAT(texts(), Contains(u"Some apps draw their own menus, which Linux doesn’t share."_s));
 }
 
+TEST_F(OverlayTest, AnApplicationThatDoesNotAnswerIsSaidToBeSilent) {
+    desk.trust();
+    desk.desktop.menus.answer("org.example.Writer", {{}, ReadOutcome::partial});
+    desk.beginReading("Writer");
+    desk.desktop.background.runAll();
+    EXPECT_THAT(texts(), Contains(u"No menu shortcuts in Writer"_s));
+    EXPECT_THAT(
+        texts(), Contains(u"Some apps draw their own menus, which Linux doesn’t share.\n"
+                          "Writer does not answer now."_s));
+    desk.desktop.menus.answer("org.example.Writer", {{}, ReadOutcome::noMenuBar});
+    desk.beginReading("Writer");
+    desk.desktop.background.runAll();
+    EXPECT_THAT(texts(), Contains(u"Some apps draw their own menus, which Linux doesn’t share."_s));
+}
+
 TEST_F(OverlayTest, TheHeaderNamesTheApplicationAndCountsItsShortcuts) {
     desk.trust();
     desk.showSample();
