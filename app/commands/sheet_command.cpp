@@ -22,9 +22,7 @@ namespace {
 std::optional<RunningApp> chosenApp(const SheetCommand& command, ApplicationList& applications) {
     if (!command.appName && !command.pid)
         return applications.front();
-    std::vector<RunningApp> apps;
-    for (ListedApp& listed : applications.apps())
-        apps.push_back(std::move(listed.app));
+    const std::vector<ListedApp> apps = applications.apps();
     return command.pid ? appOfProcess(*command.pid, apps) : appCalled(*command.appName, apps);
 }
 

@@ -12,6 +12,8 @@ namespace quillon {
 struct ListedApp {
     RunningApp app;
     std::string toolkit; ///< with its version: "gtk 3.24.38"; "" when unknown
+    /// What it is called besides its id and its name: by its program's file, by its windows' class.
+    std::vector<std::string> otherNames = {};
 
     bool operator==(const ListedApp&) const = default;
 };

@@ -54,6 +54,7 @@ class SheetTest(QuillonTestCase):
         self.assertNotEqual(pid, program.pid)
         wait_until("its menus", lambda: menus_of(pid) and menus_of(pid) == menus_of(pid), within=60)
         self.assert_same_sheet_of(pid, "gtk", "libreoffice-writer", "LibreOffice Writer", at_least=80)
+        self.assertEqual(sheet("--app", "soffice.bin")["bundleID"], "libreoffice-writer", "by its program's name")
 
 
 class CommandLineTest(QuillonTestCase):

@@ -22,32 +22,80 @@ namespace {
 
 /// A command may wait longer for a busy X server than a program that has windows to draw.
 constexpr std::chrono::milliseconds patience{2000};
+constexpr const char* processes = "/proc";
 
-/// The applications that have windows, the topmost first, each with its windows.
-std::vector<RunningApp> appsWithWindows() {
-    const auto x11 = X11Connection::open({}, patience);
-    if (!x11)
-        return {};
-    const DesktopEntries entries = DesktopEntries::installed();
-    std::vector<RunningApp> apps;
-    for (const SurveyedWindow& window : openWindows(*x11)) {
-        const std::int64_t pid = window.facts.pid;
-        const AppIdentity identity = entries.identify(window.facts, readProcess(pid, "/proc"));
-        const auto known = std::ranges::find_if(
-            apps, [&](const RunningApp& app) { return app.pid == pid && app.bundleID == identity.bundleID; });
-        RunningApp& app = known != apps.end()
-                              ? *known
-                              : apps.emplace_back(RunningApp{pid, identity.bundleID, identity.name, {}});
-        app.windows.push_back({window.id, window.title});
-    }
-    return apps;
+/// Dialogs of dialogs; the chain is written by the application and might be a ring.
+constexpr std::size_t longestOwnerChain = 8;
+
+void noteName(ListedApp& listed, const std::string& name) {
+    if (!name.empty() && std::ranges::find(listed.otherNames, name) == listed.otherNames.end())
+        listed.otherNames.push_back(name);
 }
 
-RunningApp appWithoutWindows(const atspi::SharingApp& sharing, const DesktopEntries& entries) {
+/// The applications that have windows, the topmost first, each with its windows.
+class WindowedApps {
+  public:
+    explicit WindowedApps(const DesktopEntries& entries) : m_entries(entries) {
+        const auto x11 = X11Connection::open({}, patience);
+        m_windows = x11 ? openWindows(*x11) : std::vector<SurveyedWindow>();
+    }
+
+    std::vector<ListedApp> listed() const {
+        std::vector<ListedApp> apps;
+        for (const SurveyedWindow& window : m_windows)
+            add(apps, window);
+        return apps;
+    }
+
+  private:
+    void add(std::vector<ListedApp>& apps, const SurveyedWindow& window) const {
+        const std::int64_t pid = window.facts.pid;
+        const AppIdentity identity = m_entries.identifyOwned(identityOf(window), ownersOf(window));
+        const auto known = std::ranges::find_if(apps, [&](const ListedApp& listed) {
+            return listed.app.pid == pid && listed.app.bundleID == identity.bundleID;
+        });
+        ListedApp& listed =
+            known != apps.end()
+                ? *known
+                : apps.emplace_back(ListedApp{{pid, identity.bundleID, identity.name, {}}, ""});
+        listed.app.windows.push_back({window.id, window.title});
+        noteName(listed, readProcess(pid, processes).executable);
+        noteName(listed, window.facts.instance);
+        noteName(listed, window.facts.className);
+    }
+
+    AppIdentity identityOf(const SurveyedWindow& window) const {
+        return m_entries.identify(window.facts, readProcess(window.facts.pid, processes));
+    }
+
+    /// What the windows of the same process are that it belongs to, the nearest first.
+    std::vector<AppIdentity> ownersOf(const SurveyedWindow& window) const {
+        std::vector<AppIdentity> owners;
+        xcb_window_t next = window.transientFor;
+        for (std::size_t steps = 0; steps < longestOwnerChain && next != XCB_NONE; ++steps) {
+            const auto owner = std::ranges::find(m_windows, next, &SurveyedWindow::id);
+            if (owner == m_windows.end())
+                break;
+            if (owner->facts.pid == window.facts.pid)
+                owners.push_back(identityOf(*owner));
+            next = owner->transientFor;
+        }
+        return owners;
+    }
+
+    const DesktopEntries& m_entries;
+    std::vector<SurveyedWindow> m_windows;
+};
+
+ListedApp appWithoutWindows(const atspi::SharingApp& sharing, const DesktopEntries& entries) {
     WindowFacts facts;
     facts.pid = sharing.pid;
-    const AppIdentity identity = entries.identify(facts, readProcess(sharing.pid, "/proc"));
-    return {sharing.pid, identity.bundleID, identity.name.empty() ? sharing.name : identity.name, {}};
+    const ProcessFacts process = readProcess(sharing.pid, processes);
+    const AppIdentity identity = entries.identify(facts, process);
+    ListedApp listed{
+        {sharing.pid, identity.bundleID, identity.name.empty() ? sharing.name : identity.name, {}}, ""};
+    noteName(listed, process.executable);
+    return listed;
 }
 
 } // namespace
@@ -70,8 +118,8 @@ std::vector<ListedApp> LinuxApplicationList::apps() {
     const auto sharing = atspi::sharingApps();
     if (!sharing)
         return {};
-    const std::vector<RunningApp> windowed = appsWithWindows();
     const DesktopEntries entries = DesktopEntries::installed();
+    const std::vector<ListedApp> windowed = WindowedApps(entries).listed();
     std::vector<ListedApp> listed;
     for (const atspi::SharingApp& app : *sharing) {
         if (app.pid == getpid())
@@ -79,11 +127,13 @@ std::vector<ListedApp> LinuxApplicationList::apps() {
         const std::string toolkit =
             app.toolkit + (app.toolkitVersion.empty() ? "" : " " + app.toolkitVersion);
         const std::size_t before = listed.size();
-        for (const RunningApp& candidate : windowed)
-            if (candidate.pid == app.pid)
-                listed.push_back({candidate, toolkit});
+        for (const ListedApp& candidate : windowed)
+            if (candidate.app.pid == app.pid)
+                listed.push_back(candidate);
         if (listed.size() == before)
-            listed.push_back({appWithoutWindows(app, entries), toolkit});
+            listed.push_back(appWithoutWindows(app, entries));
+        for (std::size_t i = before; i < listed.size(); ++i)
+            listed[i].toolkit = toolkit;
     }
     return listed;
 }
