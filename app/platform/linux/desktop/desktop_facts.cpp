@@ -103,6 +103,17 @@ Check trayHost(const DesktopFacts& facts) {
         "Start quillon again to reach its menu, or use `quillon show` and `quillon quit`."};
 }
 
+Check gtk2Programs(const DesktopFacts& facts) {
+    std::string names;
+    for (const std::string& name : facts.silentGtk2Programs)
+        names += (names.empty() ? "" : ", ") + name;
+    return {
+        "GTK 2", Result::limited, names + " cannot be read",
+        "Install the package libatk-adaptor, set GTK_MODULES=gail:atk-bridge for the whole session, and "
+        "start "
+        "the programs again."};
+}
+
 Check frontApplication(const DesktopFacts& facts) {
     if (!facts.front)
         return {"Front application", Result::limited, "none", "Bring an application's window to the front."};
@@ -128,6 +139,8 @@ std::vector<Check> diagnose(const DesktopFacts& facts) {
              {inputExtension, keyboardExtension, shapeExtension, windowManager, compositor})
             checks.push_back(check(facts));
     }
+    if (!facts.silentGtk2Programs.empty())
+        checks.push_back(gtk2Programs(facts));
     checks.push_back(trayHost(facts));
     if (facts.display)
         checks.push_back(frontApplication(facts));

@@ -23,6 +23,8 @@ struct DesktopFacts {
     std::optional<std::string> windowManager; ///< its name; absent when none tells the active window
     bool compositor = false;
     bool trayHost = false;
+    /// The names of GTK 2 programs that have windows and are not on the accessibility bus.
+    std::vector<std::string> silentGtk2Programs = {};
     std::optional<RunningApp> front;
     bool instanceRunning = false;
 };

@@ -53,6 +53,17 @@ TEST(Diagnosis, TellsASilentSessionBusFromNone) {
     EXPECT_NE(checkOf({}, "Session bus").finding, checkOf(facts, "Session bus").finding);
 }
 
+TEST(Diagnosis, NamesGtk2ProgramsThatAreNotOnTheBus) {
+    DesktopFacts facts = wellDesktop();
+    EXPECT_EQ(checkOf(facts, "GTK 2").subject, "") << "nothing to say";
+    facts.silentGtk2Programs = {"gimp-2.10", "hexchat"};
+    const Check check = checkOf(facts, "GTK 2");
+    EXPECT_EQ(check.result, Check::Result::limited);
+    EXPECT_EQ(check.finding, "gimp-2.10, hexchat cannot be read");
+    EXPECT_NE(check.remedy.find("libatk-adaptor"), std::string::npos);
+    EXPECT_NE(check.remedy.find("GTK_MODULES=gail:atk-bridge"), std::string::npos);
+}
+
 TEST(Diagnosis, NamesTheFrontApplication) {
     EXPECT_EQ(checkOf(wellDesktop(), "Front application").finding, "Geany (geany, process 10)");
 }
