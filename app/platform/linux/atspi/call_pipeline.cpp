@@ -1,9 +1,10 @@
 #include "call_pipeline.h"
 
+#include "bus_handles.h"
+
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <systemd/sd-bus.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -21,11 +22,6 @@ constexpr std::size_t firstWindow = 4;
 /// A request that waited so long has too many others before it; one that waited so little has not.
 constexpr auto slowAnswer = 400ms;
 constexpr auto fastAnswer = 100ms;
-
-struct UnrefMessage {
-    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
-};
-using Message = std::unique_ptr<sd_bus_message, UnrefMessage>;
 
 /// Adds one argument to a message; each answers whether it could.
 struct ArgumentAppender {
@@ -55,11 +51,11 @@ struct ArgumentAppender {
 };
 
 /// The message of a call; nullptr when the object's name or path cannot be any.
-Message messageOf(sd_bus* bus, const Call& call) {
+BusMessage messageOf(sd_bus* bus, const Call& call) {
     sd_bus_message* raw = nullptr;
     const int made = sd_bus_message_new_method_call(
         bus, &raw, call.object.busName.c_str(), call.object.path.c_str(), call.interface, call.member);
-    Message message(raw);
+    BusMessage message(raw);
     if (made < 0)
         return nullptr;
     for (const Call::Argument& argument : call.arguments)
@@ -84,9 +80,7 @@ struct CallPipeline::Pending {
     CallPipeline* owner = nullptr;
     Callback callback;
     Clock::time_point sentAt;
-    sd_bus_slot* slot = nullptr; ///< cancels the call when it is let go
-
-    ~Pending() { sd_bus_slot_unref(slot); }
+    BusSlot slot;
 
     static int answered(sd_bus_message* message, void* pending, sd_bus_error*) {
         auto* self = static_cast<Pending*>(pending);
@@ -108,8 +102,6 @@ CallPipeline::CallPipeline(
 
 CallPipeline::~CallPipeline() {
     m_pending.clear(); // before the connection: slots belong to it
-    if (m_wakeUp >= 0)
-        close(m_wakeUp);
 }
 
 void CallPipeline::ask(Call call, Callback callback) {
@@ -118,7 +110,7 @@ void CallPipeline::ask(Call call, Callback callback) {
 }
 
 bool CallPipeline::run() {
-    const std::stop_callback wakeUp(m_stop, [this] { eventfd_write(m_wakeUp, 1); });
+    const std::stop_callback wakeUp(m_stop, [this] { eventfd_write(m_wakeUp.get(), 1); });
     m_lastArrival = Clock::now();
     while (!m_ended) {
         sendQueued();
@@ -140,7 +132,7 @@ bool CallPipeline::run() {
 void CallPipeline::handle(Pending& pending, sd_bus_message* message) {
     const Clock::time_point now = Clock::now();
     const Clock::duration latency = now - pending.sentAt;
-    sd_bus_slot_unref(std::exchange(pending.slot, nullptr));
+    pending.slot.reset();
     const Callback callback = std::exchange(pending.callback, nullptr);
     m_free.push_back(&pending);
     --m_inFlight;
@@ -172,15 +164,17 @@ void CallPipeline::sendQueued() {
 
 void CallPipeline::send(Request request) {
     sd_bus* bus = m_connection.get();
-    const Message message = messageOf(bus, request.call);
+    const BusMessage message = messageOf(bus, request.call);
     if (!message) {
         request.callback(Answer::refused, nullptr);
         return;
     }
     Pending& pending = freePending();
     const auto limit = std::chrono::microseconds(m_limits.call).count();
+    sd_bus_slot* slot = nullptr;
     const int sent = sd_bus_call_async(
-        bus, &pending.slot, message.get(), &Pending::answered, &pending, static_cast<std::uint64_t>(limit));
+        bus, &slot, message.get(), &Pending::answered, &pending, static_cast<std::uint64_t>(limit));
+    pending.slot.reset(slot);
     if (sent < 0) {
         m_free.push_back(&pending);
         m_disconnected = true;
@@ -209,7 +203,7 @@ void CallPipeline::waitForInput() {
     if (events < 0)
         return; // the connection is closing; processing it tells
     std::array<pollfd, 2> descriptors{
-        {{sd_bus_get_fd(bus), static_cast<short>(events), 0}, {m_wakeUp, POLLIN, 0}}};
+        {{sd_bus_get_fd(bus), static_cast<short>(events), 0}, {m_wakeUp.get(), POLLIN, 0}}};
 
     Clock::time_point until = std::min(m_deadline, m_lastArrival + m_limits.silence);
     std::uint64_t callTimeout = 0; // of the monotonic clock, in microseconds

@@ -4,6 +4,8 @@
 #include "object_ref.h"
 #include "read_limits.h"
 
+#include <quillon/kit/base/file_descriptor.h>
+
 #include <array>
 #include <chrono>
 #include <cstdint>
@@ -96,7 +98,7 @@ class CallPipeline {
     ReadLimits m_limits;
     Clock::time_point m_deadline;
     std::stop_token m_stop;
-    int m_wakeUp = -1; ///< event descriptor that a stop request makes readable
+    FileDescriptor m_wakeUp; ///< event descriptor that a stop request makes readable
     std::deque<Request> m_queue;
     std::vector<std::unique_ptr<Pending>> m_pending; ///< grows to the window's size, then is used again
     std::vector<Pending*> m_free;

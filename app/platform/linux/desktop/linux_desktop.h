@@ -3,7 +3,7 @@
 #include "logged_menu_reader.h"
 
 #include <quillon/app/platform/linux/applications/app_identifier.h>
-#include <quillon/app/platform/linux/atspi/menu_reader.h>
+#include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/app/platform/none/no_desktop.h>
 #include <quillon/app/ports/background.h>
 #include <quillon/app/ports/clock.h>

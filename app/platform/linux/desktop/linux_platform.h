@@ -4,7 +4,7 @@
 #include "linux_diagnosis.h"
 #include "logged_menu_reader.h"
 
-#include <quillon/app/platform/linux/atspi/menu_reader.h>
+#include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/app/platform/linux/session/bus_running_program.h>
 #include <quillon/app/platform/linux/session/session_bus.h>
 #include <quillon/app/ports/platform.h>

@@ -10,7 +10,7 @@
 #include "captured_calls.h"
 
 #include <quillon/app/platform/linux/atspi/accessibility_bus.h>
-#include <quillon/app/platform/linux/atspi/menu_reader.h>
+#include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/kit/menu/menu_parser.h>
 
 #include <chrono>

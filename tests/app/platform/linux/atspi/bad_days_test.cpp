@@ -2,8 +2,8 @@
 #include "kill_accessibility_bus.h"
 
 #include <quillon/app/platform/linux/atspi/accessibility_bus.h>
+#include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/app/platform/linux/atspi/bus_values.h>
-#include <quillon/app/platform/linux/atspi/menu_reader.h>
 #include <quillon/app/platform/linux/atspi/running_apps.h>
 #include <quillon/kit/menu/menu_parser.h>
 #include <quillon/tests/support/system/bus_daemon.h>

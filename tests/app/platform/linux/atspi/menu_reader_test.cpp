@@ -1,7 +1,7 @@
 #include "fake_app_process.h"
 #include "recordings.h"
 
-#include <quillon/app/platform/linux/atspi/menu_reader.h>
+#include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/kit/menu/menu_parser.h>
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "menu_reader.h"
+#include "atspi_menu_reader.h"
 
 #include "accessibility_bus.h"
 #include "application_search.h"
