@@ -1,4 +1,4 @@
-#include <quillon/tests/support/temporary_folder.h>
+#include <quillon/tests/support/system/temporary_folder.h>
 
 #include <quillon/app/platform/linux/applications/gtk2_process.h>
 
