@@ -18,6 +18,13 @@ class AccessibilityOffTest(QuillonTestCase):
         self.assertEqual(checks["Accessibility"].split()[0], "missing")
         self.assertEqual(Ran("doctor").status, 1)
 
+    def test_holding_the_key_shows_what_is_missing(self):
+        self.start_quillon(environment=READABLE)
+        self.wait_watching()
+        with self.overlay_held_open() as overlay:
+            wait_until("the message", lambda: overlay.says("Quillon needs Accessibility to read menus"))
+        self.wait_closed()
+
     def test_the_user_can_allow_it_and_goes_on_without_restarting_anything(self):
         self.start_application("geany", "--new-instance", "--no-session")
         self.start_quillon(environment=READABLE)
