@@ -3,7 +3,9 @@
 import contextlib
 import json
 import os
+import pathlib
 import re
+import shutil
 import subprocess
 
 from gi.repository import GLib
@@ -13,6 +15,7 @@ import desktop
 from desktop import wait_until
 
 QUILLON = str(desktop.PROGRAMS / "quillon")
+LEARNED = pathlib.Path(os.environ.get("XDG_DATA_HOME", "/nonexistent"), "app.quillon.Quillon")
 HOLD_DELAY = 0.8  # seconds, the default
 NO_OVERLAY_FOR = HOLD_DELAY + 0.7  # to be sure that none comes
 
@@ -109,6 +112,11 @@ class Overlay:
 
 
 class QuillonTestCase(desktop.DesktopTestCase):
+    def setUp(self):
+        """What an earlier test's program has learned is none of this test's business."""
+        super().setUp()
+        shutil.rmtree(LEARNED, ignore_errors=True)
+
     @staticmethod
     def program():
         return QUILLON
