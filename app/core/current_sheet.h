@@ -18,7 +18,7 @@ namespace quillon {
 class CurrentSheet {
   public:
     /// The sheets that are kept have no more entries together than this: two hundred applications with three
-    /// hundred commands each, more than anyone uses, which are stored in about 40 ms and take some 25 MiB.
+    /// hundred commands each, more than anyone uses. They take 18 MiB, and 7.3 MiB as a file.
     static constexpr std::size_t mostEntries = 60'000;
     /// And there are no more of them than this, be they ever so small.
     static constexpr std::size_t mostSheets = 500;
