@@ -2,22 +2,23 @@
 
 #include "panel_placement.h"
 
-#include <vector>
-
 namespace quillon {
+
+OverlayController::OverlayController(PanelHost& host)
+    : m_host(host), m_screens(host.onScreensChanged([this] { fitAnew(); })) {}
 
 void OverlayController::prepare() {
     if (m_panel)
         return;
     makePanel();
-    place();
+    placeIn(PanelPlacement::visibleFrame(m_host.screens(), m_host.pointer()));
     m_panel->prepare();
 }
 
 void OverlayController::show(Stickiness stickiness) {
     if (!m_panel)
         makePanel();
-    place();
+    placeIn(PanelPlacement::visibleFrame(m_host.screens(), m_host.pointer()));
     m_panel->orderFront();
     if (stickiness == Stickiness::sticky)
         m_panel->makeKey();
@@ -45,9 +46,15 @@ void OverlayController::makePanel() {
     };
 }
 
-void OverlayController::place() {
-    const std::vector<Screen> screens = m_host.screens();
-    m_panel->setFrame(PanelPlacement::overlayFrame(PanelPlacement::visibleFrame(screens, m_host.pointer())));
+void OverlayController::placeIn(Rect visibleFrame) {
+    m_frame = PanelPlacement::overlayFrame(visibleFrame);
+    m_panel->setFrame(m_frame);
+}
+
+/// On the screen that it is on.
+void OverlayController::fitAnew() {
+    if (isVisible())
+        placeIn(PanelPlacement::visibleFrame(m_host.screens(), m_frame));
 }
 
 } // namespace quillon

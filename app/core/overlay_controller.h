@@ -15,7 +15,7 @@ enum class Stickiness {
 /// Creates, places, shows and hides the overlay's panel.
 class OverlayController {
   public:
-    explicit OverlayController(PanelHost& host) : m_host(host) {}
+    explicit OverlayController(PanelHost& host);
     OverlayController(const OverlayController&) = delete;
     OverlayController& operator=(const OverlayController&) = delete;
 
@@ -32,10 +32,13 @@ class OverlayController {
 
   private:
     void makePanel();
-    void place();
+    void placeIn(Rect visibleFrame);
+    void fitAnew();
 
     PanelHost& m_host;
     std::unique_ptr<FloatingPanel> m_panel;
+    Rect m_frame; ///< where it was placed last
+    Subscription m_screens;
 };
 
 } // namespace quillon

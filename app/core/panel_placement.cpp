@@ -11,6 +11,15 @@ constexpr double toastHeight = 92;
 constexpr double toastGapToPointer = 28;
 constexpr double toastMargin = 12;
 
+constexpr Rect noScreen{0, 0, 1440, 900};
+
+/// The area that both cover.
+double overlap(Rect a, Rect b) {
+    const double width = std::min(a.right(), b.right()) - std::max(a.x, b.x);
+    const double height = std::min(a.bottom(), b.bottom()) - std::max(a.y, b.y);
+    return std::max(0.0, width) * std::max(0.0, height);
+}
+
 // The lower bound wins where the room is too small for both.
 double clamped(double value, double low, double high) {
     return std::max(low, std::min(value, high));
@@ -25,7 +34,13 @@ Rect visibleFrame(std::span<const Screen> screens, Point pointer) {
         return under->visibleFrame;
     if (!screens.empty())
         return screens.front().visibleFrame;
-    return {0, 0, 1440, 900};
+    return noScreen;
+}
+
+Rect visibleFrame(std::span<const Screen> screens, Rect frame) {
+    const auto shows = [frame](const Screen& screen) { return overlap(screen.frame, frame); };
+    const auto most = std::ranges::max_element(screens, {}, shows);
+    return most == screens.end() ? noScreen : most->visibleFrame;
 }
 
 Rect overlayFrame(Rect visible) {

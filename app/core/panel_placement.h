@@ -14,6 +14,10 @@ namespace PanelPlacement {
 /// screen 1440 × 900 at the origin.
 Rect visibleFrame(std::span<const Screen> screens, Point pointer);
 
+/// The visible frame of the screen that shows most of `frame`; else that of the first (main) screen; without
+/// any screen as above.
+Rect visibleFrame(std::span<const Screen> screens, Rect frame);
+
 /// The overlay: 86 % of the width up to 1180, 80 % of the height up to 760, centred.
 Rect overlayFrame(Rect visibleFrame);
 

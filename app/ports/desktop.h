@@ -6,7 +6,7 @@
 #include "front_application.h"
 #include "keyboard.h"
 #include "menu_reader.h"
-#include "panel_windows.h"
+#include "panel_maker.h"
 
 namespace quillon {
 
@@ -21,7 +21,7 @@ class Desktop {
     virtual Keyboard& keyboard() = 0;
     virtual AppIcons& icons() = 0;
     virtual Appearance& appearance() = 0;
-    virtual PanelWindows& panelWindows() = 0;
+    virtual PanelMaker& panels() = 0;
 };
 
 } // namespace quillon

@@ -3,6 +3,9 @@
 #include "floating_panel.h"
 #include "screen.h"
 
+#include <quillon/kit/base/subscription.h>
+
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -16,6 +19,8 @@ class PanelHost {
 
     /// The monitors, the main one first; empty when there is none.
     virtual std::vector<Screen> screens() const = 0;
+    /// Called when one of them became another.
+    virtual Subscription onScreensChanged(std::function<void()> callback) = 0;
     virtual Point pointer() const = 0;
     /// A panel that shows the overlay, hidden. Never null.
     virtual std::unique_ptr<FloatingPanel> makeOverlayPanel() = 0;

@@ -7,10 +7,12 @@
 namespace quillon {
 
 PanelContent overlayContent(AppModel& model, ThemeSource& themes, AppIconCache& icons, OverlayMode mode) {
-    auto view = std::make_unique<OverlayView>(model, themes, icons, mode);
+    auto view = std::make_shared<OverlayView>(model, themes, icons, mode);
     auto prepare = [view = view.get()] { view->prepare(); };
     return {
-        .widget = std::move(view), .cornerRadius = OverlayView::cornerRadius, .prepare = std::move(prepare)};
+        .widget = std::move(view),
+        .traits = {.cornerRadius = OverlayView::cornerRadius},
+        .prepare = std::move(prepare)};
 }
 
 } // namespace quillon

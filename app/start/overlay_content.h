@@ -1,10 +1,10 @@
 #pragma once
 
 #include <quillon/app/core/app_model.h>
+#include <quillon/app/ports/panel_content.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/overlay/overlay_state.h>
-#include <quillon/app/views/panels/panel_content.h>
 
 namespace quillon {
 

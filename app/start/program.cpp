@@ -21,7 +21,7 @@ Program::Program(Platform& platform)
       m_settings(QString::fromStdString(platform.settingsFile().string())), m_themes(m_desktop->appearance()),
       m_icons(m_desktop->icons()),
       m_panels(
-          m_themes, m_desktop->panelWindows(),
+          m_desktop->panels(),
           [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); }),
       m_windows(m_desktop->accessibility()), m_model({
                                                  .frontApplication = m_desktop->frontApplication(),
@@ -87,7 +87,7 @@ void Program::activate() {
 void Program::showSample() {
     if (!m_showcase)
         m_showcase = std::make_unique<Showcase>(
-            m_clock, m_timers, m_background, m_themes, m_icons, m_desktop->panelWindows(), m_settings);
+            m_clock, m_timers, m_background, m_themes, m_icons, m_desktop->panels(), m_settings);
     m_showcase->show();
 }
 

@@ -10,7 +10,7 @@
 #include <quillon/app/ports/platform.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
-#include <quillon/app/views/panels/qt_panel_host.h>
+#include <quillon/app/views/panels/view_panel_host.h>
 #include <quillon/app/views/tray/tray_menu.h>
 
 #include <memory>
@@ -46,7 +46,7 @@ class Program {
     Settings m_settings;
     ThemeSource m_themes;
     AppIconCache m_icons;
-    QtPanelHost m_panels;
+    ViewPanelHost m_panels;
     ProgramWindows m_windows;
     AppModel m_model;
     TrayMenu m_tray;

@@ -9,9 +9,9 @@ namespace quillon {
 
 Showcase::Showcase(
     const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
-    PanelWindows& windows, Settings& settings)
+    PanelMaker& panels, Settings& settings)
     : m_panels(
-        themes, windows,
+        panels,
         [this, &themes, &icons] { return overlayContent(m_model, themes, icons, OverlayMode::showcase); }),
       m_model({
           .frontApplication = m_none.front,

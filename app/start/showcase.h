@@ -4,7 +4,7 @@
 #include <quillon/app/platform/none/no_desktop.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
-#include <quillon/app/views/panels/qt_panel_host.h>
+#include <quillon/app/views/panels/view_panel_host.h>
 
 namespace quillon {
 
@@ -14,14 +14,14 @@ class Showcase {
     /// All of them outlive the showcase.
     Showcase(
         const Clock& clock, Timers& timers, Background& background, ThemeSource& themes, AppIconCache& icons,
-        PanelWindows& windows, Settings& settings);
+        PanelMaker& panels, Settings& settings);
 
     /// Opens the overlay and keeps it open.
     void show();
 
   private:
     NoDesktop m_none;
-    QtPanelHost m_panels;
+    ViewPanelHost m_panels;
     AppModel m_model;
 };
 

@@ -8,7 +8,7 @@
 #include "fake_front_application.h"
 #include "fake_keyboard.h"
 #include "fake_menu_reader.h"
-#include "fake_panel_windows.h"
+#include "fake_panel_maker.h"
 #include "fake_timers.h"
 #include "fake_windows.h"
 
@@ -25,7 +25,7 @@ struct FakeDesktop {
     FakeKeyboard keyboard{clock};
     FakeAppIcons icons;
     FakeAppearance appearance;
-    FakePanelWindows panels;
+    FakePanelMaker panels;
     FakeWindows windows;
 };
 

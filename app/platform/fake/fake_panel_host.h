@@ -1,5 +1,8 @@
 #pragma once
 
+#include "counted_event.h"
+#include "fake_panel.h"
+
 #include <quillon/app/ports/panel_host.h>
 
 #include <memory>
@@ -7,40 +10,18 @@
 
 namespace quillon {
 
-/// What happened to a panel so far; outlives the panel.
-struct PanelRecord {
-    Rect frame;
-    bool visible = false;
-    bool hasKeyboard = false;
-    int timesPrepared = 0;
-    int timesShown = 0;
-};
-
-class FakePanel final : public FloatingPanel {
-  public:
-    explicit FakePanel(std::shared_ptr<PanelRecord> record) : m_record(std::move(record)) {}
-
-    void prepare() override { ++m_record->timesPrepared; }
-    void setFrame(Rect frame) override { m_record->frame = frame; }
-    void orderFront() override {
-        m_record->visible = true;
-        ++m_record->timesShown;
-    }
-    void makeKey() override { m_record->hasKeyboard = true; }
-    void orderOut() override {
-        m_record->visible = false;
-        m_record->hasKeyboard = false;
-    }
-    bool isVisible() const override { return m_record->visible; }
-
-  private:
-    std::shared_ptr<PanelRecord> m_record;
-};
-
 /// Screens, pointer and panels of which a test can see all.
 class FakePanelHost final : public PanelHost {
   public:
     std::vector<Screen> screens() const override { return allScreens; }
+    Subscription onScreensChanged(std::function<void()> callback) override {
+        return m_screensChanged.subscribe(std::move(callback));
+    }
+    /// Replaces the monitors, and tells.
+    void changeScreens(std::vector<Screen> screens) {
+        allScreens = std::move(screens);
+        m_screensChanged.emit();
+    }
     Point pointer() const override { return pointerPosition; }
     std::unique_ptr<FloatingPanel> makeOverlayPanel() override {
         ++panelsMade;
@@ -54,6 +35,9 @@ class FakePanelHost final : public PanelHost {
     std::shared_ptr<PanelRecord> overlay = std::make_shared<PanelRecord>();
     FloatingPanel* overlayPanel = nullptr;
     int panelsMade = 0;
+
+  private:
+    CountedEvent<> m_screensChanged;
 };
 
 } // namespace quillon

@@ -6,7 +6,7 @@
 #include "no_front_application.h"
 #include "no_keyboard.h"
 #include "no_menu_reader.h"
-#include "no_panel_windows.h"
+#include "no_panel_maker.h"
 #include "no_windows.h"
 
 namespace quillon {
@@ -19,7 +19,7 @@ struct NoDesktop {
     NoKeyboard keyboard;
     NoAppIcons icons;
     NoAppearance appearance;
-    NoPanelWindows panels;
+    NoPanelMaker panels;
     NoWindows windows;
 };
 

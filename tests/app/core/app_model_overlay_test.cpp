@@ -1,5 +1,6 @@
 #include "app_model_fixture.h"
 
+#include <quillon/app/core/panel_placement.h>
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/sample_records.h>
 
@@ -183,6 +184,30 @@ TEST_F(AppModelTest, WindowsAreAskedFor) {
     EXPECT_TRUE(model.offersWindow(WindowName::settings));
     desktop.windows.withhold(WindowName::settings);
     EXPECT_FALSE(model.offersWindow(WindowName::settings));
+}
+
+TEST_F(AppModelTest, AnOverlayThatIsShownFollowsItsScreen) {
+    panels.allScreens = {
+        {{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}, {{1920, 0, 1280, 1000}, {1920, 0, 1280, 1000}}};
+    panels.pointerPosition = {2000, 500};
+    startWith(sketch);
+    model.showOverlay(Stickiness::sticky);
+    panels.pointerPosition = {10, 10};
+    const Rect smaller{1920, 0, 1280, 500};
+    panels.changeScreens({panels.allScreens[0], {smaller, smaller}});
+    EXPECT_EQ(panels.overlay->frame, PanelPlacement::overlayFrame(smaller));
+    panels.changeScreens({panels.allScreens[0]});
+    EXPECT_EQ(panels.overlay->frame, PanelPlacement::overlayFrame({0, 0, 1920, 1080}))
+        << "its screen is gone, so it goes to the main one";
+}
+
+TEST_F(AppModelTest, AnOverlayThatIsHiddenLeavesScreensAlone) {
+    startWith(sketch);
+    model.showOverlay(Stickiness::sticky);
+    model.closeOverlay();
+    const Rect before = panels.overlay->frame;
+    panels.changeScreens({});
+    EXPECT_EQ(panels.overlay->frame, before);
 }
 
 } // namespace

@@ -63,5 +63,14 @@ TEST(PanelPlacement, KeepsTheToastsStartVisibleOnATinyScreen) {
     EXPECT_EQ(toastFrame({0, 0, 300, 80}, {150, 40}), (Rect{12, 12, 360, 92}));
 }
 
+TEST(PanelPlacementTest, AFrameStaysOnTheScreenThatShowsMostOfIt) {
+    const std::vector<Screen> screens{
+        {{0, 0, 1000, 800}, {0, 20, 1000, 780}}, {{1000, 0, 500, 400}, {1000, 0, 480, 400}}};
+    EXPECT_EQ(PanelPlacement::visibleFrame(screens, Rect{900, 0, 400, 300}), screens[1].visibleFrame);
+    EXPECT_EQ(PanelPlacement::visibleFrame(screens, Rect{700, 0, 400, 300}), screens[0].visibleFrame);
+    EXPECT_EQ(PanelPlacement::visibleFrame(screens, Rect{3000, 0, 400, 300}), screens[0].visibleFrame);
+    EXPECT_EQ(PanelPlacement::visibleFrame({}, Rect{0, 0, 400, 300}), (Rect{0, 0, 1440, 900}));
+}
+
 } // namespace
 } // namespace quillon

@@ -10,6 +10,7 @@
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
 #include <quillon/app/platform/linux/x11/x11_keyboard.h>
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
+#include <quillon/app/platform/qt/panels/plain_panel_windows.h>
 #include <quillon/app/ports/diagnostics/log.h>
 
 namespace quillon {
@@ -30,23 +31,30 @@ void logActivation(const RunningApp& app) {
         << "in front: " << logged(app) << ", window 0x" << Qt::hex << window;
 }
 
+std::unique_ptr<PanelWindows>
+panelWindows(const std::shared_ptr<X11Connection>& x11, const std::shared_ptr<RawInput>& input) {
+    if (!x11)
+        return std::make_unique<PlainPanelWindows>();
+    return std::make_unique<X11PanelWindows>(x11, input);
+}
+
 } // namespace
 
 LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock)
     : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
       m_appearance(std::make_unique<XdgAppearance>(sessionBus)),
-      m_icons(std::make_unique<XdgAppIcons>(m_identifier)), m_x11(X11Connection::open()) {
+      m_icons(std::make_unique<XdgAppIcons>(m_identifier)), m_x11(X11Connection::open()),
+      m_input(m_x11 ? std::make_shared<RawInput>(m_x11) : nullptr),
+      m_panelWindows(panelWindows(m_x11, m_input)), m_panels(*m_panelWindows) {
     if (!m_x11) {
         qCInfo(logInput) << "there is no X server: held keys are not noticed";
         return;
     }
     qCInfo(logInput).noquote() << "held keys are noticed through an X server;" << extensionsOf(*m_x11);
-    const auto input = std::make_shared<RawInput>(m_x11);
     m_front = std::make_unique<X11FrontApplication>(
         m_x11, m_identifier,
         [this](const std::string& bundleID, IconPixels icon) { m_icons->note(bundleID, std::move(icon)); });
-    m_keyboard = std::make_unique<X11Keyboard>(m_x11, input);
-    m_panels = std::make_unique<X11PanelWindows>(m_x11, input);
+    m_keyboard = std::make_unique<X11Keyboard>(m_x11, m_input);
     m_activations = m_front->onActivated(logActivation);
 }
 
@@ -66,12 +74,6 @@ Keyboard& LinuxDesktop::keyboard() {
 
 AppIcons& LinuxDesktop::icons() {
     return *m_icons;
-}
-
-PanelWindows& LinuxDesktop::panelWindows() {
-    if (m_panels)
-        return *m_panels;
-    return m_none.panels;
 }
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include <quillon/app/platform/linux/applications/app_identifier.h>
 #include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/app/platform/none/no_desktop.h>
+#include <quillon/app/platform/qt/panels/qt_panel_maker.h>
 #include <quillon/app/ports/background.h>
 #include <quillon/app/ports/clock.h>
 #include <quillon/app/ports/desktop.h>
@@ -15,6 +16,7 @@
 
 namespace quillon {
 
+class RawInput;
 class X11Connection;
 class XdgAppIcons;
 
@@ -32,7 +34,7 @@ class LinuxDesktop final : public Desktop {
     Keyboard& keyboard() override;
     AppIcons& icons() override;
     Appearance& appearance() override { return *m_appearance; }
-    PanelWindows& panelWindows() override;
+    PanelMaker& panels() override { return m_panels; }
 
   private:
     NoDesktop m_none;
@@ -43,9 +45,11 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<Appearance> m_appearance;
     std::unique_ptr<XdgAppIcons> m_icons;
     std::shared_ptr<X11Connection> m_x11;
+    std::shared_ptr<RawInput> m_input; ///< absent without X11
+    std::unique_ptr<PanelWindows> m_panelWindows;
+    QtPanelMaker m_panels;
     std::unique_ptr<FrontApplication> m_front;
     std::unique_ptr<Keyboard> m_keyboard;
-    std::unique_ptr<PanelWindows> m_panels;
     Subscription m_activations;
 };
 

@@ -2,7 +2,7 @@
 
 #include "raw_input.h"
 
-#include <quillon/app/ports/panel_windows.h>
+#include <quillon/app/platform/qt/panels/panel_windows.h>
 
 #include <map>
 #include <memory>

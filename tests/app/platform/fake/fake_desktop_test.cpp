@@ -72,29 +72,26 @@ TEST(FakeAccessibilityAccessTest, MayGrantWhenAsked) {
     EXPECT_EQ(access.asked(), 2);
 }
 
-TEST(FakePanelWindowsTest, TheKeyboardGoesBackOnlyFromItsOwner) {
-    FakePanelWindows panels;
-    panels.takeKeyboard(5);
-    panels.returnKeyboard(6);
-    EXPECT_EQ(panels.keyboardOwner(), 5U);
-    panels.returnKeyboard(5);
-    EXPECT_EQ(panels.keyboardOwner(), std::nullopt);
+TEST(FakePanelMakerTest, KeepsWhatItsPanelsShowAndWhatIsDoneWithThem) {
+    FakePanelMaker maker;
+    PanelContent content;
+    content.traits.input = PanelInput::passes;
+    const auto panel = maker.makePanel(std::move(content));
+    panel->setFrame({1, 2, 3, 4});
+    panel->orderFront();
+    ASSERT_EQ(maker.made.size(), 1U);
+    EXPECT_EQ(maker.made[0].content.traits.input, PanelInput::passes);
+    EXPECT_EQ(maker.made[0].record->frame, (Rect{1, 2, 3, 4}));
+    EXPECT_TRUE(maker.made[0].record->visible);
 }
 
-TEST(FakePanelWindowsTest, TellsPressesAndBlending) {
-    FakePanelWindows panels;
-    int presses = 0;
-    int blendings = 0;
-    Subscription press = panels.onPressElsewhere([&] { ++presses; });
-    const Subscription blending = panels.onCompositedChanged([&] { ++blendings; });
-    panels.pressElsewhere();
-    press.reset();
-    panels.pressElsewhere();
-    panels.setComposited(false);
-    panels.setComposited(false);
-    EXPECT_EQ(presses, 1);
-    EXPECT_EQ(blendings, 1);
-    EXPECT_EQ(panels.pressListeners(), 0U);
+TEST(FakePanelMakerTest, TellsOfItsScreens) {
+    FakePanelMaker maker;
+    int told = 0;
+    const Subscription listener = maker.onScreensChanged([&] { ++told; });
+    maker.changeScreens({});
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(maker.screens().empty());
 }
 
 TEST(FakeAppIconsTest, KnowsWhatItWasTold) {

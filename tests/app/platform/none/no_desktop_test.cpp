@@ -15,7 +15,8 @@ TEST(NoDesktopTest, HasNothingToTell) {
     EXPECT_FALSE(desktop.access.openSettings());
     EXPECT_FALSE(desktop.icons.icon("org.gnome.gedit"));
     EXPECT_EQ(desktop.appearance.look(), Look());
-    EXPECT_FALSE(desktop.panels.isComposited());
+    EXPECT_TRUE(desktop.panels.screens().empty());
+    EXPECT_EQ(desktop.panels.pointer(), Point());
     EXPECT_FALSE(desktop.windows.offers(WindowName::welcome));
     EXPECT_FALSE(desktop.windows.hasKeyboard(WindowName::practice));
     EXPECT_EQ(desktop.menus.readMenus({}, {}), MenuReading());
@@ -25,15 +26,23 @@ TEST(NoDesktopTest, AsksForNothing) {
     NoDesktop desktop;
     desktop.access.ask();
     desktop.windows.open(WindowName::library);
-    desktop.panels.prepare(1);
-    desktop.panels.takeKeyboard(1);
-    desktop.panels.returnKeyboard(1);
     EXPECT_FALSE(desktop.access.onChanged([] {}));
-    EXPECT_FALSE(desktop.panels.onPressElsewhere([] {}));
-    EXPECT_FALSE(desktop.panels.onCompositedChanged([] {}));
+    EXPECT_FALSE(desktop.panels.onScreensChanged([] {}));
     EXPECT_FALSE(desktop.keyboard.onModifiersChanged([](Modifiers) {}));
     EXPECT_FALSE(desktop.front.onActivated([](const RunningApp&) {}));
     EXPECT_FALSE(desktop.appearance.onChanged([] {}));
+}
+
+TEST(NoDesktopTest, APanelIsNeverNullAndNeverSeen) {
+    NoDesktop desktop;
+    const auto panel = desktop.panels.makePanel({});
+    ASSERT_NE(panel, nullptr);
+    panel->prepare();
+    panel->setFrame({0, 0, 100, 100});
+    panel->orderFront();
+    panel->makeKey();
+    EXPECT_FALSE(panel->isVisible());
+    panel->orderOut();
 }
 
 TEST(NoDesktopTest, AnObservationSeesNothingAndIsNeverNull) {

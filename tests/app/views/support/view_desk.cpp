@@ -29,10 +29,12 @@ void ViewDesk::beginReading(const std::string& appName) {
 }
 
 PanelContent ViewDesk::overlayContent() {
-    auto view = std::make_unique<OverlayView>(model, themes, icons, OverlayMode::live);
+    auto view = std::make_shared<OverlayView>(model, themes, icons, OverlayMode::live);
     auto prepare = [view = view.get()] { view->prepare(); };
     return {
-        .widget = std::move(view), .cornerRadius = OverlayView::cornerRadius, .prepare = std::move(prepare)};
+        .widget = std::move(view),
+        .traits = {.cornerRadius = OverlayView::cornerRadius},
+        .prepare = std::move(prepare)};
 }
 
 } // namespace quillon

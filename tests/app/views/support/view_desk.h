@@ -2,9 +2,11 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/platform/fake/fake_desktop.h>
+#include <quillon/app/platform/qt/panels/qt_panel_maker.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
-#include <quillon/app/views/panels/qt_panel_host.h>
+#include <quillon/app/views/panels/view_panel_host.h>
+#include <quillon/tests/app/platform/qt/panels/support/fake_panel_windows.h>
 
 #include <QTemporaryDir>
 
@@ -32,7 +34,9 @@ class ViewDesk {
     Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
     ThemeSource themes{desktop.appearance};
     AppIconCache icons{desktop.icons};
-    QtPanelHost host{themes, desktop.panels, [this] { return overlayContent(); }};
+    FakePanelWindows panelWindows;
+    QtPanelMaker panels{panelWindows};
+    ViewPanelHost host{panels, [this] { return overlayContent(); }};
     AppModel model{{
         .frontApplication = desktop.front,
         .menuReader = desktop.menus,

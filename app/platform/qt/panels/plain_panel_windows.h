@@ -1,19 +1,19 @@
 #pragma once
 
-#include <quillon/app/ports/panel_windows.h>
+#include "panel_windows.h"
 
 namespace quillon {
 
-/// A desktop that offers panels no more than a toolkit does: the keyboard stays where it is, nothing is
-/// blended, and presses elsewhere are not told.
-class NoPanelWindows final : public PanelWindows {
+/// A desktop of which nothing more is known than the toolkit knows: the keyboard stays where it is, presses
+/// elsewhere are not told, and what is translucent is blended, as wherever windows are not X11's.
+class PlainPanelWindows final : public PanelWindows {
   public:
     void prepare(std::uintptr_t) override {}
     void setShape(std::uintptr_t, const WindowShape&) override {}
     void takeAway(std::uintptr_t) override {}
     void takeKeyboard(std::uintptr_t) override {}
     void returnKeyboard(std::uintptr_t) override {}
-    bool isComposited() const override { return false; }
+    bool isComposited() const override { return true; }
     Subscription onCompositedChanged(std::function<void()>) override { return {}; }
     Subscription onPressElsewhere(std::function<void()>) override { return {}; }
 };

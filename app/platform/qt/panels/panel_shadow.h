@@ -1,12 +1,9 @@
 #pragma once
 
-#include <quillon/app/views/components/nine_patch.h>
-
 #include <QColor>
 #include <QPainter>
-#include <QRectF>
-
-#include <optional>
+#include <QPixmap>
+#include <QRect>
 
 namespace quillon {
 
@@ -18,10 +15,10 @@ class PanelShadow {
     static constexpr int reach = 36;
 
     /// Draws the shadow of a panel at `panel` with rounded corners of `radius`, nothing inside of the panel.
-    void paint(QPainter& painter, const QRectF& panel, double radius, const QColor& colour);
+    void paint(QPainter& painter, const QRect& panel, double radius, const QColor& colour);
 
   private:
-    std::optional<NinePatch> m_patch;
+    QPixmap m_picture; ///< of the smallest panel
     double m_radius = 0;
     QColor m_colour;
 };

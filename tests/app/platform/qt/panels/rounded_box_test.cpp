@@ -1,4 +1,4 @@
-#include <quillon/app/views/panels/rounded_box.h>
+#include <quillon/app/platform/qt/panels/rounded_box.h>
 
 #include <gtest/gtest.h>
 

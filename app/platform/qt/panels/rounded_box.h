@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/app/ports/panel_windows.h>
+#include "panel_windows.h"
 
 #include <vector>
 

@@ -2,8 +2,6 @@
 
 #include "rounded_box.h"
 
-#include <quillon/app/views/components/accessible_roles.h>
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -26,30 +24,30 @@ constexpr std::chrono::milliseconds returnDelay{100};
 
 } // namespace
 
-FloatingPanelWindow::FloatingPanelWindow(PanelContent content, ThemeSource& themes, PanelWindows& windows)
-    : QWidget(nullptr, panelFlags), m_themes(themes), m_windows(windows), m_content(content.widget.release()),
-      m_cornerRadius(content.cornerRadius), m_prepareContent(std::move(content.prepare)) {
-    readAs(*this, ReadAs::panel);
+FloatingPanelWindow::FloatingPanelWindow(PanelContent content, PanelWindows& windows)
+    : QWidget(nullptr, panelFlags), m_windows(windows), m_content(std::move(content)) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_content);
+    layout->addWidget(m_content.widget.get());
     // On a small screen the content shrinks rather than hang over.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     m_compositing = windows.onCompositedChanged([this] { followCompositing(); });
     m_return.setSingleShot(true);
     m_return.setInterval(returnDelay);
     m_return.callOnTimeout(this, [this] { returnKeyboard(); });
-    m_theme = themes.changed.subscribe([this] { update(); });
     followCompositing();
 }
 
-FloatingPanelWindow::~FloatingPanelWindow() = default;
+/// The content may have other owners.
+FloatingPanelWindow::~FloatingPanelWindow() {
+    m_content.widget->setParent(nullptr);
+}
 
 int FloatingPanelWindow::shadowReach() const {
-    return m_windows.isComposited() ? PanelShadow::reach : 0;
+    return m_content.traits.hasShadow && m_windows.isComposited() ? PanelShadow::reach : 0;
 }
 
 void FloatingPanelWindow::followCompositing() {
@@ -83,16 +81,19 @@ WindowShape FloatingPanelWindow::shape() const {
     const int reach = static_cast<int>(std::lround(shadowReach() * ratio));
     const QSize size = (QSizeF(this->size()) * ratio).toSize();
     const PixelBox panel{reach, reach, size.width() - 2 * reach, size.height() - 2 * reach};
-    WindowShape shape{.shown = {}, .touchable = roundedBoxes(panel, m_cornerRadius * ratio)};
+    const auto boxes = roundedBoxes(panel, m_content.traits.cornerRadius * ratio);
+    WindowShape shape;
     if (!m_windows.isComposited())
-        shape.shown = shape.touchable;
+        shape.shown = boxes;
+    if (m_content.traits.input == PanelInput::takes)
+        shape.touchable = boxes;
     return shape;
 }
 
 void FloatingPanelWindow::prepare() {
     prepareWindow();
-    if (m_prepareContent)
-        m_prepareContent();
+    if (m_content.prepare)
+        m_content.prepare();
     grab();
 }
 
@@ -192,7 +193,7 @@ void FloatingPanelWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void FloatingPanelWindow::mousePressEvent(QMouseEvent* event) {
-    if (!m_content->geometry().contains(event->position().toPoint()))
+    if (!m_content.widget->geometry().contains(event->position().toPoint()))
         resign();
 }
 
@@ -201,9 +202,10 @@ void FloatingPanelWindow::paintEvent(QPaintEvent*) {
     // Under the softened pixels of the content's edge, where nothing else shines through.
     if (!m_windows.isComposited())
         painter.fillRect(rect(), palette().color(QPalette::Mid));
-    else
+    else if (m_content.traits.hasShadow)
         m_shadow.paint(
-            painter, QRectF(m_content->geometry()), m_cornerRadius, m_themes.theme().palette.shadow);
+            painter, m_content.widget->geometry(), m_content.traits.cornerRadius,
+            palette().color(QPalette::Shadow));
 }
 
 } // namespace quillon

@@ -3,16 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
-#include <QCursor>
 #include <QLineEdit>
-#include <QScreen>
 #include <QTest>
 
 namespace quillon {
 namespace {
 
-class QtPanelHostTest : public testing::Test {
+class OverlayPanelTest : public testing::Test {
   protected:
     /// The overlay's panel; null before it was made.
     QWidget* panel() const {
@@ -26,21 +25,7 @@ class QtPanelHostTest : public testing::Test {
     ViewDesk desk;
 };
 
-TEST_F(QtPanelHostTest, TellsTheMonitorsTheMainOneFirst) {
-    const std::vector<Screen> screens = desk.host.screens();
-    ASSERT_EQ(screens.size(), static_cast<std::size_t>(QGuiApplication::screens().size()));
-    const QRect main = QGuiApplication::primaryScreen()->geometry();
-    EXPECT_EQ(
-        screens[0].frame,
-        (Rect{0, 0, static_cast<double>(main.width()), static_cast<double>(main.height())}));
-}
-
-TEST_F(QtPanelHostTest, TellsWhereThePointerIs) {
-    QCursor::setPos(123, 45);
-    EXPECT_EQ(desk.host.pointer(), (Point{123, 45}));
-}
-
-TEST_F(QtPanelHostTest, TheModelsOverlayIsShownInOnePanelThatIsKept) {
+TEST_F(OverlayPanelTest, TheModelsOverlayIsShownInOnePanelThatIsKept) {
     desk.trust();
     desk.showSample();
     desk.model.showOverlay(Stickiness::held);
@@ -55,47 +40,57 @@ TEST_F(QtPanelHostTest, TheModelsOverlayIsShownInOnePanelThatIsKept) {
     EXPECT_TRUE(first->isVisible());
 }
 
-TEST_F(QtPanelHostTest, AnOverlayThatWasPreparedIsTheOneThatIsShown) {
+TEST_F(OverlayPanelTest, AnOverlayThatWasPreparedIsTheOneThatIsShown) {
     desk.trust();
     desk.showSample();
     desk.model.prepareOverlay();
     QWidget* prepared = panel();
     ASSERT_NE(prepared, nullptr);
     EXPECT_FALSE(prepared->isVisible());
-    EXPECT_EQ(desk.desktop.panels.prepared().size(), 1U);
+    EXPECT_EQ(desk.panelWindows.prepared().size(), 1U);
     desk.model.showOverlay(Stickiness::held);
     EXPECT_EQ(panel(), prepared);
     EXPECT_TRUE(prepared->isVisible());
-    EXPECT_EQ(desk.desktop.panels.prepared().size(), 1U);
+    EXPECT_EQ(desk.panelWindows.prepared().size(), 1U);
 }
 
-TEST_F(QtPanelHostTest, AStickyOverlayIsTypedIntoAndClosedByEscape) {
+TEST_F(OverlayPanelTest, AStickyOverlayIsTypedIntoAndClosedByEscape) {
     desk.trust();
     desk.showSample();
     desk.model.showOverlay(Stickiness::sticky);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()));
     QApplication::setActiveWindow(panel());
-    EXPECT_TRUE(desk.desktop.panels.keyboardOwner());
+    EXPECT_TRUE(desk.panelWindows.keyboardOwner());
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("save"));
     EXPECT_EQ(desk.model.query(), "save");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(desk.model.overlayVisible());
     EXPECT_EQ(desk.model.query(), "");
-    EXPECT_FALSE(desk.desktop.panels.keyboardOwner());
+    EXPECT_FALSE(desk.panelWindows.keyboardOwner());
 }
 
-TEST_F(QtPanelHostTest, AHeldOverlayIsKeptByATapAndClosedByAPressElsewhere) {
+TEST_F(OverlayPanelTest, AHeldOverlayIsKeptByATapAndClosedByAPressElsewhere) {
     desk.trust();
     desk.showSample();
     desk.model.showOverlay(Stickiness::held);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()));
-    EXPECT_FALSE(desk.desktop.panels.keyboardOwner());
+    EXPECT_FALSE(desk.panelWindows.keyboardOwner());
     QTest::mouseClick(
         panel()->findChild<OverlayView*>()->area().viewport(), Qt::LeftButton, {}, QPoint(30, 50));
     EXPECT_TRUE(desk.model.overlaySticky());
-    EXPECT_TRUE(desk.desktop.panels.keyboardOwner());
-    desk.desktop.panels.pressElsewhere();
+    EXPECT_TRUE(desk.panelWindows.keyboardOwner());
+    desk.panelWindows.pressElsewhere();
     EXPECT_FALSE(desk.model.overlayVisible());
+}
+
+TEST_F(OverlayPanelTest, IsReadAsADialogThatBearsTheOverlaysName) {
+    desk.trust();
+    desk.showSample();
+    desk.model.showOverlay(Stickiness::held);
+    const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(panel());
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(read->role(), QAccessible::Dialog);
+    EXPECT_EQ(read->text(QAccessible::Name), panel()->findChild<OverlayView*>()->accessibleName());
 }
 
 } // namespace

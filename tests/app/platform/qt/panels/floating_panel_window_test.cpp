@@ -1,7 +1,7 @@
-#include <quillon/app/platform/fake/fake_appearance.h>
-#include <quillon/app/platform/fake/fake_panel_windows.h>
-#include <quillon/app/views/panels/floating_panel_window.h>
-#include <quillon/app/views/panels/rounded_box.h>
+#include "support/fake_panel_windows.h"
+
+#include <quillon/app/platform/qt/panels/floating_panel_window.h>
+#include <quillon/app/platform/qt/panels/rounded_box.h>
 
 #include <gtest/gtest.h>
 
@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include <memory>
 
 namespace quillon {
 namespace {
@@ -36,12 +38,10 @@ class FloatingPanelWindowTest : public testing::Test {
     }
     std::uintptr_t window() { return static_cast<std::uintptr_t>(panel.winId()); }
 
-    FakeAppearance appearance;
-    ThemeSource themes{appearance};
     FakePanelWindows desktop;
-    QWidget* content = new QWidget;
-    QLineEdit* field = new QLineEdit(content);
-    FloatingPanelWindow panel{{std::unique_ptr<QWidget>(content), 16, {}}, themes, desktop};
+    std::shared_ptr<QWidget> content = std::make_shared<QWidget>();
+    QLineEdit* field = new QLineEdit(content.get());
+    FloatingPanelWindow panel{{.widget = content, .traits = {.cornerRadius = 16}, .prepare = {}}, desktop};
     int escapes = 0;
     int resigns = 0;
 };
@@ -66,6 +66,23 @@ TEST_F(FloatingPanelWindowTest, ThePointerReachesWhatLiesUnderTheShadow) {
     EXPECT_EQ(desktop.shape(), (WindowShape{.shown = {}, .touchable = roundedBoxes({36, 36, 400, 300}, 16)}));
     panel.setFrame({100, 80, 500, 350});
     EXPECT_EQ(desktop.shape().touchable, roundedBoxes({36, 36, 500, 350}, 16));
+}
+
+TEST_F(FloatingPanelWindowTest, OneThatPassesInputIsNotThereForThePointer) {
+    FloatingPanelWindow toast(
+        {.widget = std::make_shared<QWidget>(), .traits = {.input = PanelInput::passes}, .prepare = {}},
+        desktop);
+    toast.setFrame({100, 80, 360, 92});
+    toast.orderFront();
+    EXPECT_EQ(desktop.shape(), WindowShape());
+}
+
+TEST_F(FloatingPanelWindowTest, OneWithoutAShadowIsNoLargerThanItsContent) {
+    FloatingPanelWindow plain(
+        {.widget = std::make_shared<QWidget>(), .traits = {.hasShadow = false}, .prepare = {}}, desktop);
+    plain.setFrame({100, 80, 400, 300});
+    plain.orderFront();
+    EXPECT_EQ(plain.geometry(), QRect(100, 80, 400, 300));
 }
 
 TEST_F(FloatingPanelWindowTest, OnATinyScreenTheContentShrinks) {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "counted_event.h"
-
-#include <quillon/app/ports/panel_windows.h>
+#include <quillon/app/platform/fake/counted_event.h>
+#include <quillon/app/platform/qt/panels/panel_windows.h>
 
 #include <optional>
 #include <utility>

@@ -1,6 +1,7 @@
 #include "panel_shadow.h"
 
 #include <QImage>
+#include <qdrawutil.h>
 
 #include <algorithm>
 #include <cmath>
@@ -50,25 +51,40 @@ QImage shadowImage(QSize size, double ratio, const QRectF& shape, double radius,
     return image;
 }
 
-NinePatch shadowPatch(double radius, double ratio, const QColor& colour) {
-    constexpr int reach = PanelShadow::reach;
-    return NinePatch(reach + drop + radius, ratio, [&](QPainter& painter, const QRectF& box) {
-        const QRectF shape = box.adjusted(reach, reach, -reach, -reach);
-        painter.drawImage(
-            QPointF(0, 0), shadowImage((box.size() * ratio).toSize(), ratio, shape, radius, colour));
-    });
+/// How far the corners reach into the picture, in logical pixels; between them it is straight.
+int cornerOf(double radius) {
+    return static_cast<int>(std::ceil(PanelShadow::reach + drop + radius));
+}
+
+QPixmap shadowPicture(double radius, double ratio, const QColor& colour) {
+    constexpr int straight = 4;
+    const int side = 2 * cornerOf(radius) + straight;
+    const QRectF shape =
+        QRectF(0, 0, side, side)
+            .adjusted(PanelShadow::reach, PanelShadow::reach, -PanelShadow::reach, -PanelShadow::reach);
+    const QSize size = (QSizeF(side, side) * ratio).toSize();
+    return QPixmap::fromImage(shadowImage(size, ratio, shape, radius, colour));
 }
 
 } // namespace
 
-void PanelShadow::paint(QPainter& painter, const QRectF& panel, double radius, const QColor& colour) {
+void PanelShadow::paint(QPainter& painter, const QRect& panel, double radius, const QColor& colour) {
     const double ratio = painter.device()->devicePixelRatioF();
-    if (!m_patch || ratio != m_patch->ratio() || radius != m_radius || colour != m_colour) {
-        m_patch = shadowPatch(radius, ratio, colour);
+    if (m_picture.isNull() || ratio != m_picture.devicePixelRatio() || radius != m_radius
+        || colour != m_colour) {
+        m_picture = shadowPicture(radius, ratio, colour);
         m_radius = radius;
         m_colour = colour;
     }
-    m_patch->paintFrame(painter, panel.adjusted(-reach, -reach, reach, reach));
+    const int corner = cornerOf(radius);
+    const QRect all = panel.adjusted(-reach, -reach, reach, reach);
+    const int pictureCorner = static_cast<int>(std::lround(corner * ratio));
+    painter.save();
+    painter.setClipRegion(QRegion(all) - all.adjusted(corner, corner, -corner, -corner));
+    qDrawBorderPixmap(
+        &painter, all, QMargins(corner, corner, corner, corner), m_picture, m_picture.rect(),
+        QMargins(pictureCorner, pictureCorner, pictureCorner, pictureCorner));
+    painter.restore();
 }
 
 } // namespace quillon

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "panel_content.h"
 #include "panel_shadow.h"
+#include "panel_windows.h"
 
 #include <quillon/app/ports/floating_panel.h>
-#include <quillon/app/ports/panel_windows.h>
-#include <quillon/app/views/components/theme_source.h>
+#include <quillon/app/ports/panel_content.h>
 
 #include <QTimer>
 #include <QWidget>
+
+#include <memory>
 
 namespace quillon {
 
@@ -18,8 +19,9 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     Q_OBJECT
 
   public:
-    /// The others outlive the panel.
-    FloatingPanelWindow(PanelContent content, ThemeSource& themes, PanelWindows& windows);
+    /// `windows` outlives the panel. Edge and shadow have the colours that the toolkit's palette has for
+    /// them (`Mid`, `Shadow`).
+    FloatingPanelWindow(PanelContent content, PanelWindows& windows);
     ~FloatingPanelWindow() override;
 
     void prepare() override;
@@ -55,11 +57,8 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     void resign();
     int shadowReach() const;
 
-    ThemeSource& m_themes;
     PanelWindows& m_windows;
-    QWidget* m_content;
-    double m_cornerRadius;
-    std::function<void()> m_prepareContent;
+    PanelContent m_content;
     Rect m_frame;
     bool m_isPrepared = false;
     Keyboard m_keyboard = Keyboard::elsewhere;
@@ -68,7 +67,6 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     PanelShadow m_shadow;
     Subscription m_compositing;
     Subscription m_presses;
-    Subscription m_theme;
 };
 
 } // namespace quillon

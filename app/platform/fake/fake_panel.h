@@ -1,0 +1,40 @@
+#pragma once
+
+#include <quillon/app/ports/floating_panel.h>
+
+#include <memory>
+#include <utility>
+
+namespace quillon {
+
+/// What happened to a panel so far; outlives the panel.
+struct PanelRecord {
+    Rect frame;
+    bool visible = false;
+    bool hasKeyboard = false;
+    int timesPrepared = 0;
+    int timesShown = 0;
+};
+
+class FakePanel final : public FloatingPanel {
+  public:
+    explicit FakePanel(std::shared_ptr<PanelRecord> record) : m_record(std::move(record)) {}
+
+    void prepare() override { ++m_record->timesPrepared; }
+    void setFrame(Rect frame) override { m_record->frame = frame; }
+    void orderFront() override {
+        m_record->visible = true;
+        ++m_record->timesShown;
+    }
+    void makeKey() override { m_record->hasKeyboard = true; }
+    void orderOut() override {
+        m_record->visible = false;
+        m_record->hasKeyboard = false;
+    }
+    bool isVisible() const override { return m_record->visible; }
+
+  private:
+    std::shared_ptr<PanelRecord> m_record;
+};
+
+} // namespace quillon

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <quillon/app/ports/panel_content.h>
+#include <quillon/app/ports/panel_host.h>
+#include <quillon/app/ports/panel_maker.h>
+#include <quillon/kit/base/subscription.h>
+
+#include <functional>
+
+namespace quillon {
+
+/// The program's panels: the views' contents in what the desktop makes of them.
+class ViewPanelHost final : public PanelHost {
+  public:
+    /// Makes a panel's content when the panel is made.
+    using MakeContent = std::function<PanelContent()>;
+
+    /// `maker` outlives the host and its panels. `overlay` makes what the overlay's panel shows.
+    ViewPanelHost(PanelMaker& maker, MakeContent overlay);
+
+    std::vector<Screen> screens() const override;
+    Subscription onScreensChanged(std::function<void()> callback) override;
+    Point pointer() const override;
+    std::unique_ptr<FloatingPanel> makeOverlayPanel() override;
+
+  private:
+    PanelMaker& m_maker;
+    MakeContent m_overlay;
+};
+
+} // namespace quillon
