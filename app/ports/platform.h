@@ -11,6 +11,8 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace quillon {
 
@@ -28,8 +30,9 @@ class Platform {
     /// The folder that holds what the program has learned; empty when the user has no home.
     virtual std::filesystem::path dataFolder() const = 0;
 
-    /// Makes ready what the toolkit looks at when it starts; false when there is no display for it.
-    virtual bool prepareDisplay() = 0;
+    /// Makes ready what the toolkit looks at when it starts. Where there is no display for it, what the user
+    /// is to be told; absent when there is one.
+    virtual std::optional<std::string> prepareDisplay() = 0;
     /// For this process to become the running program.
     virtual std::unique_ptr<Instance> makeInstance() = 0;
     /// The desktop to run on. `background` and `clock` outlive it.

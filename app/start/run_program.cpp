@@ -72,9 +72,8 @@ Ended runInstance(Platform& platform, FirstShow firstShow, Output& output) {
 } // namespace
 
 ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** argv, Output& output) {
-    if (!platform.prepareDisplay())
-        return output.fail(
-            ExitCode::failure, "there is no display; start it in a graphical session, or use quillon sheet");
+    if (const auto problem = platform.prepareDisplay())
+        return output.fail(ExitCode::failure, TerminalText::of(*problem));
     QApplication::setApplicationName(QStringLiteral("Quillon")); // trays and screen readers tell it
     QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QStringLiteral("app.quillon.Quillon"));

@@ -18,13 +18,13 @@ std::filesystem::path LinuxPlatform::dataFolder() const {
     return quillon::dataFolder();
 }
 
-bool LinuxPlatform::prepareDisplay() {
-    const QByteArray platform = usableQtPlatform();
-    if (platform.isEmpty())
-        return false;
-    qputenv("QT_QPA_PLATFORM", platform);
+std::optional<std::string> LinuxPlatform::prepareDisplay() {
+    const QtPlatformChoice choice = usableQtPlatform();
+    if (choice.name.isEmpty())
+        return choice.problem;
+    qputenv("QT_QPA_PLATFORM", choice.name);
     m_session.hideSilent();
-    return true;
+    return std::nullopt;
 }
 
 std::unique_ptr<Instance> LinuxPlatform::makeInstance() {

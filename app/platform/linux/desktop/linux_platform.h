@@ -9,6 +9,9 @@
 #include <quillon/app/platform/linux/session/session_bus.h>
 #include <quillon/app/ports/platform.h>
 
+#include <optional>
+#include <string>
+
 namespace quillon {
 
 /// Linux desktops. Where the session bus does not answer, making one takes the time to find that out.
@@ -21,7 +24,7 @@ class LinuxPlatform final : public Platform {
     std::filesystem::path settingsFile() const override;
     std::filesystem::path dataFolder() const override;
 
-    bool prepareDisplay() override;
+    std::optional<std::string> prepareDisplay() override;
     std::unique_ptr<Instance> makeInstance() override;
     std::unique_ptr<Desktop> openDesktop(Background& background, const Clock& clock) override;
     bool startAnew(char** arguments) override;

@@ -2,9 +2,17 @@
 
 #include <QByteArray>
 
+#include <string>
+
 namespace quillon {
 
-/// The Qt platform to draw with, as $QT_QPA_PLATFORM names it; "" when there is none that would work.
-QByteArray usableQtPlatform();
+/// What Qt is to draw with.
+struct QtPlatformChoice {
+    QByteArray name;     ///< as $QT_QPA_PLATFORM names it; "" when there is none that would work
+    std::string problem; ///< then: why, for the user
+};
+
+/// Looks before Qt does, which ends the program where it finds nothing.
+QtPlatformChoice usableQtPlatform();
 
 } // namespace quillon
