@@ -54,7 +54,7 @@ void OverlayController::placeIn(Rect visibleFrame) {
 /// On the screen that it is on.
 void OverlayController::fitAnew() {
     if (isVisible())
-        placeIn(PanelPlacement::visibleFrame(m_host.screens(), m_frame));
+        placeIn(PanelPlacement::visibleFrameAround(m_host.screens(), m_frame));
 }
 
 } // namespace quillon

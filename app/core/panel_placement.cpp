@@ -37,7 +37,7 @@ Rect visibleFrame(std::span<const Screen> screens, Point pointer) {
     return noScreen;
 }
 
-Rect visibleFrame(std::span<const Screen> screens, Rect frame) {
+Rect visibleFrameAround(std::span<const Screen> screens, Rect frame) {
     const auto shows = [frame](const Screen& screen) { return overlap(screen.frame, frame); };
     const auto most = std::ranges::max_element(screens, {}, shows);
     return most == screens.end() ? noScreen : most->visibleFrame;

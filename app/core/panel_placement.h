@@ -16,7 +16,7 @@ Rect visibleFrame(std::span<const Screen> screens, Point pointer);
 
 /// The visible frame of the screen that shows most of `frame`; else that of the first (main) screen; without
 /// any screen as above.
-Rect visibleFrame(std::span<const Screen> screens, Rect frame);
+Rect visibleFrameAround(std::span<const Screen> screens, Rect frame);
 
 /// The overlay: 86 % of the width up to 1180, 80 % of the height up to 760, centred.
 Rect overlayFrame(Rect visibleFrame);

@@ -66,10 +66,10 @@ TEST(PanelPlacement, KeepsTheToastsStartVisibleOnATinyScreen) {
 TEST(PanelPlacementTest, AFrameStaysOnTheScreenThatShowsMostOfIt) {
     const std::vector<Screen> screens{
         {{0, 0, 1000, 800}, {0, 20, 1000, 780}}, {{1000, 0, 500, 400}, {1000, 0, 480, 400}}};
-    EXPECT_EQ(PanelPlacement::visibleFrame(screens, Rect{900, 0, 400, 300}), screens[1].visibleFrame);
-    EXPECT_EQ(PanelPlacement::visibleFrame(screens, Rect{700, 0, 400, 300}), screens[0].visibleFrame);
-    EXPECT_EQ(PanelPlacement::visibleFrame(screens, Rect{3000, 0, 400, 300}), screens[0].visibleFrame);
-    EXPECT_EQ(PanelPlacement::visibleFrame({}, Rect{0, 0, 400, 300}), (Rect{0, 0, 1440, 900}));
+    EXPECT_EQ(PanelPlacement::visibleFrameAround(screens, Rect{900, 0, 400, 300}), screens[1].visibleFrame);
+    EXPECT_EQ(PanelPlacement::visibleFrameAround(screens, Rect{700, 0, 400, 300}), screens[0].visibleFrame);
+    EXPECT_EQ(PanelPlacement::visibleFrameAround(screens, Rect{3000, 0, 400, 300}), screens[0].visibleFrame);
+    EXPECT_EQ(PanelPlacement::visibleFrameAround({}, Rect{0, 0, 400, 300}), (Rect{0, 0, 1440, 900}));
 }
 
 } // namespace
