@@ -21,14 +21,6 @@ constexpr xcb_window_t pointerRoot = XCB_INPUT_FOCUS_POINTER_ROOT;
 /// How deep one of our own windows may lie below the root window, frames included.
 constexpr int deepestNesting = 8;
 
-void setNumbers(
-    X11Connection& x11, xcb_window_t window, X11Name property, xcb_atom_t type,
-    const std::vector<std::uint32_t>& values) {
-    xcb_change_property(
-        x11.xcb(), XCB_PROP_MODE_REPLACE, window, x11.atom(property), type, 32,
-        static_cast<std::uint32_t>(values.size()), values.data());
-}
-
 xcb_window_t windowOf(std::uintptr_t number) {
     return static_cast<xcb_window_t>(number);
 }
@@ -119,37 +111,41 @@ Subscription X11PanelWindows::onCompositedChanged(std::function<void()> callback
 
 void X11PanelWindows::prepare(std::uintptr_t number) {
     const xcb_window_t window = windowOf(number);
-    auto& x11 = *m_x11;
+    const auto& x11 = *m_x11;
     m_ourClients.insert(x11.clientBase(window));
-    setNumbers(
-        x11, window, X11Name::netWmWindowType, XCB_ATOM_ATOM,
-        {x11.atom(X11Name::netWmWindowTypeNotification)});
-    setNumbers(
-        x11, window, X11Name::netWmState, XCB_ATOM_ATOM,
+    xcb_connection_t* toolkit = toolkitsConnection();
+    const auto set = [&](X11Name property, xcb_atom_t type, const std::vector<std::uint32_t>& values) {
+        xcb_change_property(
+            toolkit, XCB_PROP_MODE_REPLACE, window, x11.atom(property), type, 32,
+            static_cast<std::uint32_t>(values.size()), values.data());
+    };
+    set(X11Name::netWmWindowType, XCB_ATOM_ATOM, {x11.atom(X11Name::netWmWindowTypeNotification)});
+    set(X11Name::netWmState, XCB_ATOM_ATOM,
         {x11.atom(X11Name::netWmStateAbove), x11.atom(X11Name::netWmStateSticky),
          x11.atom(X11Name::netWmStateSkipTaskbar), x11.atom(X11Name::netWmStateSkipPager)});
-    setNumbers(x11, window, X11Name::netWmDesktop, XCB_ATOM_CARDINAL, {everyDesktop});
+    set(X11Name::netWmDesktop, XCB_ATOM_CARDINAL, {everyDesktop});
     // Not to be focused when it appears.
-    setNumbers(x11, window, X11Name::netWmUserTime, XCB_ATOM_CARDINAL, {0});
-    x11.flush();
+    set(X11Name::netWmUserTime, XCB_ATOM_CARDINAL, {0});
+    xcb_flush(toolkit);
 }
 
 void X11PanelWindows::setShape(std::uintptr_t number, const WindowShape& shape) {
     if (!m_x11->extensions().shape)
         return;
     const xcb_window_t window = windowOf(number);
+    xcb_connection_t* toolkit = toolkitsConnection();
     const auto set = [&](xcb_shape_kind_t kind, const std::vector<PixelBox>& boxes) {
         const auto area = rectangles(boxes);
         xcb_shape_rectangles(
-            m_x11->xcb(), XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0,
+            toolkit, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0,
             static_cast<std::uint32_t>(area.size()), area.data());
     };
     if (shape.shown)
         set(XCB_SHAPE_SK_BOUNDING, *shape.shown);
     else
-        xcb_shape_mask(m_x11->xcb(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0, XCB_PIXMAP_NONE);
+        xcb_shape_mask(toolkit, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0, XCB_PIXMAP_NONE);
     set(XCB_SHAPE_SK_INPUT, shape.touchable);
-    m_x11->flush();
+    xcb_flush(toolkit);
 }
 
 /// A window that goes while the toolkit's client has the pointer leaves it in the window below by the end of
@@ -167,8 +163,8 @@ void X11PanelWindows::takeAway(std::uintptr_t number) {
     xcb_flush(toolkit);
 }
 
-/// What the toolkit does with a window afterwards must not come first, and the server keeps no order between
-/// connections.
+/// Whatever changes a window must come behind its making and before its going, and the server keeps no order
+/// between connections.
 xcb_connection_t* X11PanelWindows::toolkitsConnection() const {
     const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
     const auto* native =
