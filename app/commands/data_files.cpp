@@ -21,11 +21,12 @@ namespace fs = std::filesystem;
 constexpr const char* subject = "Learned data";
 constexpr std::string_view setAsideMark = ".broken";
 
+/// A file that is gone, or a link to one that is still to be written, is no failure.
 template <class Value>
 std::optional<LoadFailure> failureOf(const fs::path& file) {
     const auto loaded = JSONFile<Value>(file).tryLoad();
     const LoadFailure* const failure = loaded.failure();
-    return failure ? std::optional(*failure) : std::nullopt;
+    return failure && failure->kind != LoadFailure::Kind::absent ? std::optional(*failure) : std::nullopt;
 }
 
 /// A kind of file by its name, and what becomes of it when it is read.

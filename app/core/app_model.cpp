@@ -73,7 +73,10 @@ void AppModel::settingChanged(Setting setting) {
     case Setting::trigger:
     case Setting::holdDelay: m_hold.replaceDetector(detectorFor(m_services.settings)); break;
     case Setting::nudgesOn:
-    case Setting::countTyped: applyWatchers(); break;
+    case Setting::countTyped:
+        if (isStarted())
+            applyWatchers();
+        break;
     case Setting::onboarded: break;
     }
     changed.emit(fieldOf(setting));

@@ -136,6 +136,7 @@ class AppModel {
     void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations);
 
   private:
+    bool isStarted() const { return static_cast<bool>(m_trustTimer); }
     void load();
     void save();
     void applyWatchers();

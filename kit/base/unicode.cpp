@@ -152,9 +152,8 @@ std::string repaired(std::string_view bytes) {
 }
 
 std::string encoded(char32_t scalar) {
-    const bool isScalar = scalar < 0xD800 || (scalar > 0xDFFF && scalar <= 0x10FFFF);
     std::string text;
-    utf8::append(text, isScalar ? scalar : utf8::replacement);
+    append(text, scalar);
     return text;
 }
 

@@ -16,6 +16,7 @@ from desktop import wait_until
 
 QUILLON = str(desktop.PROGRAMS / "quillon")
 LEARNED = pathlib.Path(os.environ.get("XDG_DATA_HOME", "/nonexistent"), "app.quillon.Quillon")
+PRIVATE_PREFIX = "quillon-desktop-"  # of the folder that scripts/private-desktop makes
 HOLD_DELAY = 0.8  # seconds, the default
 NO_OVERLAY_FOR = HOLD_DELAY + 0.7  # to be sure that none comes
 
@@ -111,10 +112,18 @@ class Overlay:
         return hint.centre()
 
 
+def is_private(path):
+    """Whether it lies in a private desktop's own folder, and not in that of whoever runs a test without one."""
+    home = pathlib.Path(os.environ.get("HOME", "/")).resolve()
+    base = home.parent
+    return base.name.startswith(PRIVATE_PREFIX) and path.resolve().is_relative_to(home)
+
+
 class QuillonTestCase(desktop.DesktopTestCase):
     def setUp(self):
         """What an earlier test's program has learned is none of this test's business."""
         super().setUp()
+        self.assertTrue(is_private(LEARNED), "these tests delete what was learned: run them by scripts/private-desktop")
         shutil.rmtree(LEARNED, ignore_errors=True)
 
     @staticmethod

@@ -173,6 +173,13 @@ TEST_F(CommandsTest, DoctorNamesABrokenDataFile) {
     EXPECT_EQ(results.text().find("other.json"), std::string::npos);
 }
 
+TEST_F(CommandsTest, DoctorFindsNothingWrongWithALinkToAFileThatIsStillToBeWritten) {
+    OneCheck desktop;
+    std::filesystem::create_symlink(folder.path() / "elsewhere.json", folder.path() / "usage.json");
+    EXPECT_EQ(runDoctor(desktop, folder.path(), output), ExitCode::success);
+    EXPECT_NE(results.text().find("ok      Learned data"), std::string::npos) << results.text();
+}
+
 TEST_F(CommandsTest, DoctorFailsWhenSomethingIsMissing) {
     OneCheck desktop;
     desktop.check.result = Check::Result::missing;

@@ -158,6 +158,14 @@ TEST_F(AppModelTest, SettingsAreStoredAndToldOnce) {
     EXPECT_EQ(desktop.keyboard.monitors(), 1U);
 }
 
+TEST_F(AppModelTest, AModelThatWasNotStartedWatchesNothing) {
+    model.setNudgesOn(false);
+    model.setCountTyped(false);
+    EXPECT_FALSE(model.isWatching());
+    startWith(sketch);
+    EXPECT_TRUE(model.isWatching());
+}
+
 TEST_F(AppModelTest, PinsAreToggledAndTold) {
     startWith(sketch);
     std::vector<RecordChange> told;
