@@ -8,6 +8,7 @@
 #include <QApplication>
 
 #include <array>
+#include <string_view>
 
 namespace quillon {
 
@@ -78,6 +79,8 @@ ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** a
     QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QStringLiteral("app.quillon.Quillon"));
 
+    // What was asked of the first start is done; how it tells what it does stays.
+    char* const verbose = argc > 1 && std::string_view(argv[1]) == "--verbose" ? argv[1] : nullptr;
     Ended ended;
     {
         const QApplication application(argc, argv);
@@ -85,8 +88,9 @@ ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** a
         ended = runInstance(platform, firstShow, output);
     }
     if (ended.how == LoopEnd::startAnew) {
-        std::array<char*, 2> alone{argv[0], nullptr};
-        platform.startAnew(alone.data());
+        std::array<char*, 3> again{argv[0], verbose, nullptr};
+        if (!platform.startAnew(again.data()))
+            return output.fail(ExitCode::failure, "could not start again after the session bus was lost");
     }
     return ended.code;
 }

@@ -10,7 +10,7 @@ from gi.repository import Gio, GLib
 
 import desktop
 from desktop import wait_until
-from quillon import QUILLON, SERVICE, QuillonTestCase, Ran, doctor
+from quillon import INTERFACE, OBJECT, QUILLON, SERVICE, QuillonTestCase, Ran, doctor
 
 BOUND = 10.0  # seconds that a command may take where the bus does not answer
 
@@ -49,6 +49,13 @@ class Bus:
         with contextlib.suppress(GLib.Error):
             return self.ask(self.connect(), "GetConnectionUnixProcessID", GLib.Variant("(s)", (SERVICE,)))
         return None
+
+    def instance_answers(self):
+        """Whether the instance has begun to answer, with all of its own and Qt's start behind it."""
+        with contextlib.suppress(GLib.Error):
+            self.connect().call_sync(SERVICE, OBJECT, INTERFACE, "IsWatching", None, None, 0, 5000, None)
+            return True
+        return False
 
 
 class SilentBusTest(QuillonTestCase):
@@ -93,14 +100,16 @@ class LostBusTest(QuillonTestCase):
         self.bus = Bus(self.enterContext(tempfile.TemporaryDirectory()))
         self.bus.start()
         self.addCleanup(self.bus.kill)
-        self.first = self.start(QUILLON, environment=self.bus.environment)
-        wait_until("the instance", lambda: self.bus.owner() == self.first.pid)
+        self.first = self.start(QUILLON, "--verbose", environment=self.bus.environment)
+        wait_until("the instance", self.bus.instance_answers)
 
     def test_the_program_comes_back_to_a_bus_that_was_lost(self):
         self.bus.kill()
         desktop.stays("the program runs", self.first.is_running, 0.5)
         self.bus.start()
+        earlier = self.first.messages.stat().st_size
         wait_until("the same process on the new bus", lambda: self.bus.owner() == self.first.pid)
+        self.assertIn("held keys are noticed", self.first.messages.read_text()[earlier:], "it tells as much as before")
         ran = Ran("quit", environment=self.bus.environment)
         self.assertEqual(ran.status, 0, ran)
         self.assertEqual(self.first.process.wait(timeout=5), 0)

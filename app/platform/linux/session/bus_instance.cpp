@@ -42,6 +42,11 @@ Instance::Claim BusInstance::claim(InstanceRequests requests) {
 
 Instance::Claim BusInstance::claimOnBus() {
     QDBusConnection bus = m_bus.connection();
+    // Before anything that takes time, in which the bus may be lost.
+    bus.connect(
+        QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+        SLOT(lookForBus()));
     // The object first: whoever sees the name can call it.
     m_object.emplace(bus, QLatin1StringView(instancePath), *this, QDBusConnection::ExportScriptableSlots);
     m_name.emplace(bus, QLatin1StringView(instanceName), nameMilliseconds);
@@ -54,10 +59,6 @@ Instance::Claim BusInstance::claimOnBus() {
         m_object.reset();
         return result;
     }
-    bus.connect(
-        QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
-        SLOT(lookForBus()));
     return result;
 }
 
