@@ -3,6 +3,7 @@
 #include <quillon/kit/records/annotations.h>
 #include <quillon/kit/records/json_codec.h>
 #include <quillon/kit/records/json_file.h>
+#include <quillon/kit/records/learned_files.h>
 #include <quillon/kit/records/usage.h>
 
 #include <algorithm>
@@ -19,7 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* subject = "Learned data";
-constexpr std::string_view setAsideMark = ".broken";
 
 /// A file that is gone, or a link to one that is still to be written, is no failure.
 template <class Value>
@@ -36,9 +36,9 @@ struct Kind {
 };
 
 constexpr std::array kinds{
-    Kind{"usage.json", failureOf<UsageBook>},
-    Kind{"notes.json", failureOf<AnnotationBook>},
-    Kind{"menus.json", failureOf<SheetMap>},
+    Kind{LearnedFiles::usage, failureOf<UsageBook>},
+    Kind{LearnedFiles::notes, failureOf<AnnotationBook>},
+    Kind{LearnedFiles::menus, failureOf<SheetMap>},
 };
 
 Check checkOf(const fs::path& file, const LoadFailure& failure, bool isSetAside) {
@@ -71,7 +71,7 @@ std::vector<Check> checkDataFiles(const fs::path& folder) {
         if (kind == kinds.end())
             continue;
         const std::string_view rest = std::string_view(name).substr(kind->name.size());
-        const bool isSetAside = rest.starts_with(setAsideMark);
+        const bool isSetAside = rest.starts_with(LearnedFiles::setAsideMark);
         if (!rest.empty() && !isSetAside)
             continue;
         if (const auto failure = kind->failureOf(file))

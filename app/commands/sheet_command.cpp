@@ -8,6 +8,7 @@
 #include <quillon/kit/menu/shortcut_search.h>
 #include <quillon/kit/records/json_codec.h>
 #include <quillon/kit/records/json_file.h>
+#include <quillon/kit/records/learned_files.h>
 
 #include <QRandomGenerator>
 
@@ -57,8 +58,8 @@ struct Records {
         if (folder.empty())
             return {};
         return {
-            JSONFile<UsageBook>(folder / "usage.json").load().value_or(UsageBook{}),
-            JSONFile<AnnotationBook>(folder / "notes.json").load().value_or(AnnotationBook{})};
+            JSONFile<UsageBook>(folder / LearnedFiles::usage).load().value_or(UsageBook{}),
+            JSONFile<AnnotationBook>(folder / LearnedFiles::notes).load().value_or(AnnotationBook{})};
     }
 };
 

@@ -1,6 +1,7 @@
 #include "data_folder.h"
 
 #include <quillon/kit/records/json_file.h>
+#include <quillon/kit/records/learned_files.h>
 
 #include <optional>
 #include <system_error>
@@ -13,17 +14,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* usageName = "usage.json";
-constexpr const char* notesName = "notes.json";
-constexpr const char* menusName = "menus.json";
-
 /// Whoever wants to look into a broken file finds these; one more is written over.
 constexpr int mostSetAside = 9;
 
 std::optional<fs::path> freeName(const fs::path& path) {
     for (int number = 1; number <= mostSetAside; ++number) {
         fs::path name = path;
-        name += number == 1 ? std::string(".broken") : ".broken-" + std::to_string(number);
+        name += LearnedFiles::setAsideMark;
+        if (number > 1)
+            name += "-" + std::to_string(number);
         std::error_code error;
         if (fs::symlink_status(name, error).type() == fs::file_type::not_found)
             return name;
@@ -39,18 +38,18 @@ LearnedData DataFolder::load() {
     if (m_folder.empty())
         return {};
     return {
-        .usage = loadFile<UsageBook>(usageName),
-        .annotations = loadFile<AnnotationBook>(notesName),
-        .sheets = loadFile<SheetMap>(menusName),
+        .usage = loadFile<UsageBook>(LearnedFiles::usage),
+        .annotations = loadFile<AnnotationBook>(LearnedFiles::notes),
+        .sheets = loadFile<SheetMap>(LearnedFiles::menus),
     };
 }
 
 void DataFolder::save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets) {
     if (m_folder.empty())
         return;
-    saveFile(usageName, usage);
-    saveFile(notesName, annotations);
-    saveFile(menusName, sheets);
+    saveFile(LearnedFiles::usage, usage);
+    saveFile(LearnedFiles::notes, annotations);
+    saveFile(LearnedFiles::menus, sheets);
 }
 
 void DataFolder::erase() {
