@@ -1,9 +1,9 @@
 #include "panel_shadow.h"
 
 #include <QImage>
-#include <qdrawutil.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace quillon {
@@ -66,6 +66,26 @@ QPixmap shadowPicture(double radius, double ratio, const QColor& colour) {
     return QPixmap::fromImage(shadowImage(size, ratio, shape, radius, colour));
 }
 
+/// Draws the corners of `picture` as they are and its edges stretched along `frame`, nothing in the middle.
+void paintFrame(QPainter& painter, const QPixmap& picture, const QRect& frame, int corner) {
+    const double side = picture.width();
+    const double cornerPixels = corner * picture.devicePixelRatio();
+    const std::array<double, 4> from{0, cornerPixels, side - cornerPixels, side};
+    const QRectF outer = frame;
+    const QRectF inner = outer.adjusted(corner, corner, -corner, -corner);
+    const std::array x{outer.left(), inner.left(), inner.right(), outer.right()};
+    const std::array y{outer.top(), inner.top(), inner.bottom(), outer.bottom()};
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            if (row == 1 && column == 1)
+                continue;
+            painter.drawPixmap(
+                QRectF(QPointF(x[column], y[row]), QPointF(x[column + 1], y[row + 1])), picture,
+                QRectF(QPointF(from[column], from[row]), QPointF(from[column + 1], from[row + 1])));
+        }
+    }
+}
+
 } // namespace
 
 void PanelShadow::paint(QPainter& painter, const QRect& panel, double radius, const QColor& colour) {
@@ -76,15 +96,7 @@ void PanelShadow::paint(QPainter& painter, const QRect& panel, double radius, co
         m_radius = radius;
         m_colour = colour;
     }
-    const int corner = cornerOf(radius);
-    const QRect all = panel.adjusted(-reach, -reach, reach, reach);
-    const int pictureCorner = static_cast<int>(std::lround(corner * ratio));
-    painter.save();
-    painter.setClipRegion(QRegion(all) - all.adjusted(corner, corner, -corner, -corner));
-    qDrawBorderPixmap(
-        &painter, all, QMargins(corner, corner, corner, corner), m_picture, m_picture.rect(),
-        QMargins(pictureCorner, pictureCorner, pictureCorner, pictureCorner));
-    painter.restore();
+    paintFrame(painter, m_picture, panel.adjusted(-reach, -reach, reach, reach), cornerOf(radius));
 }
 
 } // namespace quillon
