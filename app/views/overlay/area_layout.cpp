@@ -29,6 +29,12 @@ double columnWidth(double areaWidth) {
     return std::floor((areaWidth - (columns - 1) * cardGap) / columns);
 }
 
+/// The last column ends where the area does: what is left of a pixel goes into the gaps.
+double columnLeft(std::size_t column, double areaWidth) {
+    constexpr auto last = static_cast<double>(Masonry::overlayColumns - 1);
+    return std::round((areaWidth - columnWidth(areaWidth)) * static_cast<double>(column) / last);
+}
+
 /// Lays cards out one by one.
 class Builder {
   public:
@@ -98,8 +104,7 @@ class Builder {
     /// The rows' parts stand above those of the columns below, whose cards are further apart than the grid's
     /// columns.
     double placeGrid(std::size_t card, const QRectF& inner, double y) {
-        const double step = columnWidth(m_layout.width) + cardGap;
-        const double width = step - wideColumnGap;
+        const double width = columnWidth(m_layout.width) + cardGap - wideColumnGap;
         const double inset = rowInset + cardHorizontalPadding - (wideColumnGap - cardGap) / 2;
         const double left = inner.x() + rowInset - inset;
         const RowArranger arranger(m_measure, width - 2 * inset);
@@ -112,7 +117,7 @@ class Builder {
                     y += std::exchange(rowHeight, 0);
                 }
                 const double height = arranger.height(m_sheet.entries[entry], SubmenuInRow::shown);
-                const double x = left + static_cast<double>(column) * step;
+                const double x = left + columnLeft(column, m_layout.width);
                 m_layout.rows.push_back(
                     {QRectF(x, y, width, height), card, entry, SubmenuInRow::shown, column, inset});
                 rowHeight = std::max(rowHeight, height);
@@ -178,9 +183,8 @@ AreaLayout AreaLayout::of(
     bottoms.fill(top);
     for (std::size_t group = 0; group < columnOf.size(); ++group) {
         const std::size_t column = columnOf[group];
-        const double x = static_cast<double>(column) * (columnWidth(width) + cardGap);
-        bottoms[column] +=
-            builder.place(narrow + group, QPointF(x, bottoms[column]), columnWidth(width), column) + cardGap;
+        const QPointF topLeft(columnLeft(column, width), bottoms[column]);
+        bottoms[column] += builder.place(narrow + group, topLeft, columnWidth(width), column) + cardGap;
     }
     const double bottom = std::ranges::max(bottoms);
     layout.height = std::max(0.0, bottom - cardGap);

@@ -40,8 +40,9 @@ bool isWheel(std::uint32_t button) {
 
 } // namespace
 
-X11PanelWindows::X11PanelWindows(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input)
-    : m_x11(std::move(x11)), m_input(std::move(input)) {
+X11PanelWindows::X11PanelWindows(
+    std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input, xcb_connection_t* maker)
+    : m_x11(std::move(x11)), m_input(std::move(input)), m_maker(maker) {
     m_events = m_x11->onEvent([this](const xcb_generic_event_t& event) { handle(event); });
     m_drained = m_x11->onDrained([this] { drained(); });
     m_lost = m_x11->onLost([this] { setComposited(false); });
@@ -113,7 +114,7 @@ void X11PanelWindows::prepare(std::uintptr_t number) {
     const xcb_window_t window = windowOf(number);
     const auto& x11 = *m_x11;
     m_ourClients.insert(x11.clientBase(window));
-    xcb_connection_t* toolkit = toolkitsConnection();
+    xcb_connection_t* toolkit = maker();
     const auto set = [&](X11Name property, xcb_atom_t type, const std::vector<std::uint32_t>& values) {
         xcb_change_property(
             toolkit, XCB_PROP_MODE_REPLACE, window, x11.atom(property), type, 32,
@@ -133,7 +134,7 @@ void X11PanelWindows::setShape(std::uintptr_t number, const WindowShape& shape) 
     if (!m_x11->extensions().shape)
         return;
     const xcb_window_t window = windowOf(number);
-    xcb_connection_t* toolkit = toolkitsConnection();
+    xcb_connection_t* toolkit = maker();
     const auto set = [&](xcb_shape_kind_t kind, const std::vector<PixelBox>& boxes) {
         const auto area = rectangles(boxes);
         xcb_shape_rectangles(
@@ -153,7 +154,7 @@ void X11PanelWindows::setShape(std::uintptr_t number, const WindowShape& shape) 
 /// is open) nobody is told of moves anyway.
 void X11PanelWindows::takeAway(std::uintptr_t number) {
     constexpr std::uint8_t toOwner = 0;
-    xcb_connection_t* toolkit = toolkitsConnection();
+    xcb_connection_t* toolkit = maker();
     const auto grab = xcb_grab_pointer(
         toolkit, toOwner, m_x11->root(), XCB_EVENT_MASK_NO_EVENT, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
         XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
@@ -165,7 +166,9 @@ void X11PanelWindows::takeAway(std::uintptr_t number) {
 
 /// Whatever changes a window must come behind its making and before its going, and the server keeps no order
 /// between connections.
-xcb_connection_t* X11PanelWindows::toolkitsConnection() const {
+xcb_connection_t* X11PanelWindows::maker() const {
+    if (m_maker != nullptr)
+        return m_maker;
     const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
     const auto* native =
         application ? application->nativeInterface<QNativeInterface::QX11Application>() : nullptr;

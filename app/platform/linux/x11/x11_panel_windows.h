@@ -15,7 +15,10 @@ namespace quillon {
 /// keyboard is given to them and back directly.
 class X11PanelWindows final : public PanelWindows {
   public:
-    X11PanelWindows(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input);
+    /// `maker` is the connection that the windows are made by; the toolkit's when none is given.
+    X11PanelWindows(
+        std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input,
+        xcb_connection_t* maker = nullptr);
     ~X11PanelWindows() override;
 
     void prepare(std::uintptr_t window) override;
@@ -49,12 +52,13 @@ class X11PanelWindows final : public PanelWindows {
     void learnWhoHadIt(xcb_window_t window, Taking& taking);
     bool isWithOurs(xcb_window_t window);
     void drained();
-    xcb_connection_t* toolkitsConnection() const;
+    xcb_connection_t* maker() const;
     std::optional<bool> isPointerOverOurs();
     bool isOurs(xcb_window_t window);
 
     std::shared_ptr<X11Connection> m_x11;
     std::shared_ptr<RawInput> m_input;
+    xcb_connection_t* m_maker;
     xcb_atom_t m_compositorSelection = XCB_ATOM_NONE;
     bool m_composited = false;
     std::map<xcb_window_t, Taking> m_takings;

@@ -81,6 +81,18 @@ TEST_F(AreaLayoutTest, ColumnsAreThreeOfEqualWidth) {
         EXPECT_EQ(card.rect.width(), layout.cards[0].rect.width());
 }
 
+TEST_F(AreaLayoutTest, TheLastColumnEndsWhereTheAreaDoesAndTheGapsAreEven) {
+    for (const double width : {1134.0, 1142.0, 1143.0, 1144.0, 700.0}) {
+        lay(sheetOfMany(60), 10, width);
+        const std::set<double> edges = columnEdges();
+        ASSERT_EQ(edges.size(), 3U);
+        const double columnWidth = layout.cards[0].rect.width();
+        const std::vector<double> lefts(edges.begin(), edges.end());
+        EXPECT_EQ(lefts[2] + columnWidth, width);
+        EXPECT_NEAR(lefts[1] - lefts[0], lefts[2] - lefts[1], 1);
+    }
+}
+
 TEST_F(AreaLayoutTest, AFewMenusDoNotWidenTheColumns) {
     lay(sheetOfMany(60));
     const double width = layout.cards[0].rect.width();

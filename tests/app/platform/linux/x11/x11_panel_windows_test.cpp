@@ -224,6 +224,28 @@ TEST_F(X11PanelWindowsTest, APanelIsCutToItsShapeAndMadeWholeAgain) {
     EXPECT_EQ(client->windowUnderPointer(), panel);
 }
 
+TEST_F(X11PanelWindowsTest, AWindowThatTheServerHasYetToMakeIsMarkedAndCutToo) {
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> maker(
+        xcb_connect(x11Display().c_str(), nullptr), &xcb_disconnect);
+    X11PanelWindows ofMaker(x11, std::make_shared<RawInput>(x11), maker.get());
+    const xcb_window_t panel = xcb_generate_id(maker.get());
+    const std::uint32_t overrideRedirect = 1;
+    xcb_create_window(
+        maker.get(), XCB_COPY_FROM_PARENT, panel, client->root(), 200, 200, 100, 100, 0,
+        XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &overrideRedirect);
+    ofMaker.prepare(panel);
+    ofMaker.setShape(panel, {.shown = {{{10, 0, 80, 100}}}, .touchable = {{0, 0, 100, 100}}});
+    settle();
+    xcb_map_window(maker.get(), panel);
+    xcb_flush(maker.get());
+    EXPECT_TRUE(waitFor([&] { return client->isMapped(panel); }));
+    EXPECT_THAT(client->numbers(panel, "_NET_WM_USER_TIME"), ElementsAre(0));
+    client->movePointer(250, 250);
+    EXPECT_EQ(client->windowUnderPointer(), panel);
+    client->movePointer(205, 250);
+    EXPECT_NE(client->windowUnderPointer(), panel);
+}
+
 TEST_F(X11PanelWindowsTest, ACompositorIsNoticedAsItComesAndGoes) {
     int changes = 0;
     const Subscription listener = panels->onCompositedChanged([&] { ++changes; });
