@@ -77,7 +77,9 @@ def type_text(text):
 
 
 def click(x, y, button=1):
-    xdotool("mousemove", "--sync", x, y, "click", button)
+    """The X server takes the move and the button one after the other. xdotool is not told to wait for the move: where
+    the pointer is there already, it would wait for fifteen seconds."""
+    xdotool("mousemove", x, y, "click", button)
 
 
 def scroll():
