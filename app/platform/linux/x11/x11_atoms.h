@@ -9,7 +9,9 @@ namespace quillon {
 /// The names that this program uses with the X server.
 enum class X11Name {
     gtkApplicationID,
+    gtkWorkAreas, ///< of the first workspace
     netActiveWindow,
+    netClientList,
     netClientListStacking,
     netSupported,
     netSupportingWmCheck,
@@ -22,15 +24,20 @@ enum class X11Name {
     netWmStateSkipPager,
     netWmStateSkipTaskbar,
     netWmStateSticky,
+    netWmStrut,
+    netWmStrutPartial,
     netWmUserTime,
     netWmWindowType,
     netWmWindowTypeNotification,
+    netWorkArea,
     utf8String,
 };
 
-inline constexpr std::array<std::string_view, 18> x11Names{
+inline constexpr std::array<std::string_view, 23> x11Names{
     "_GTK_APPLICATION_ID",
+    "_GTK_WORKAREAS_D0",
     "_NET_ACTIVE_WINDOW",
+    "_NET_CLIENT_LIST",
     "_NET_CLIENT_LIST_STACKING",
     "_NET_SUPPORTED",
     "_NET_SUPPORTING_WM_CHECK",
@@ -43,9 +50,12 @@ inline constexpr std::array<std::string_view, 18> x11Names{
     "_NET_WM_STATE_SKIP_PAGER",
     "_NET_WM_STATE_SKIP_TASKBAR",
     "_NET_WM_STATE_STICKY",
+    "_NET_WM_STRUT",
+    "_NET_WM_STRUT_PARTIAL",
     "_NET_WM_USER_TIME",
     "_NET_WM_WINDOW_TYPE",
     "_NET_WM_WINDOW_TYPE_NOTIFICATION",
+    "_NET_WORKAREA",
     "UTF8_STRING",
 };
 

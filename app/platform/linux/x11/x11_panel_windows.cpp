@@ -42,7 +42,7 @@ bool isWheel(std::uint32_t button) {
 
 X11PanelWindows::X11PanelWindows(
     std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input, xcb_connection_t* maker)
-    : m_x11(std::move(x11)), m_input(std::move(input)), m_maker(maker) {
+    : m_x11(std::move(x11)), m_input(std::move(input)), m_maker(maker), m_workAreas(m_x11) {
     m_events = m_x11->onEvent([this](const xcb_generic_event_t& event) { handle(event); });
     m_drained = m_x11->onDrained([this] { drained(); });
     m_lost = m_x11->onLost([this] { setComposited(false); });

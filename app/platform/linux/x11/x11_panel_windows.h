@@ -1,6 +1,7 @@
 #pragma once
 
 #include "raw_input.h"
+#include "work_areas.h"
 
 #include <quillon/app/platform/qt/panels/panel_windows.h>
 
@@ -8,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <utility>
 
 namespace quillon {
 
@@ -33,6 +35,10 @@ class X11PanelWindows final : public PanelWindows {
     Subscription onCompositedChanged(std::function<void()> callback) override;
     /// The wheel is no press. A press whose place the server does not tell in time is not told.
     Subscription onPressElsewhere(std::function<void()> callback) override;
+    std::optional<PixelBox> freeOf(const PixelBox& monitor) override { return m_workAreas.freeOf(monitor); }
+    Subscription onFreeChanged(std::function<void()> callback) override {
+        return m_workAreas.onChanged(std::move(callback));
+    }
 
   private:
     /// What is known of a window that took the keyboard.
@@ -59,6 +65,7 @@ class X11PanelWindows final : public PanelWindows {
     std::shared_ptr<X11Connection> m_x11;
     std::shared_ptr<RawInput> m_input;
     xcb_connection_t* m_maker;
+    WorkAreas m_workAreas;
     xcb_atom_t m_compositorSelection = XCB_ATOM_NONE;
     bool m_composited = false;
     std::map<xcb_window_t, Taking> m_takings;

@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// A box of a window's own pixels, counted from its top left corner.
+/// A box of pixels: of a window, counted from its top left corner, or of the whole desktop.
 struct PixelBox {
     int x = 0;
     int y = 0;
@@ -50,6 +50,11 @@ class PanelWindows {
     /// Called when a pointer button goes down anywhere outside of this program's windows, while the handle
     /// lives. Does nothing where the desktop does not tell.
     virtual Subscription onPressElsewhere(std::function<void()> callback) = 0;
+    /// What docks leave free of a monitor, both in the desktop's pixels. Absent where the desktop does not
+    /// tell.
+    virtual std::optional<PixelBox> freeOf(const PixelBox& monitor) = 0;
+    /// Called when the answers of `freeOf` may have changed.
+    virtual Subscription onFreeChanged(std::function<void()> callback) = 0;
 };
 
 } // namespace quillon

@@ -27,6 +27,35 @@ TEST_F(QtPanelMakerTest, TellsTheMonitorsTheMainOneFirst) {
         (Rect{0, 0, static_cast<double>(main.width()), static_cast<double>(main.height())}));
 }
 
+TEST_F(QtPanelMakerTest, AMonitorsVisibleFrameIsWhatDocksLeaveFree) {
+    const QRect main = QGuiApplication::primaryScreen()->geometry();
+    windows.setFree(PixelBox{30, 20, main.width() - 30, main.height() - 60});
+    EXPECT_EQ(
+        maker.screens()[0].visibleFrame,
+        (Rect{30, 20, static_cast<double>(main.width() - 30), static_cast<double>(main.height() - 60)}));
+    EXPECT_EQ(windows.askedMonitor(), (PixelBox{main.x(), main.y(), main.width(), main.height()}));
+}
+
+TEST_F(QtPanelMakerTest, AndTheToolkitsWhereTheDesktopDoesNotTellOrTellsOfAnotherPlace) {
+    const QRect told = QGuiApplication::primaryScreen()->availableGeometry();
+    const Rect toolkits{
+        static_cast<double>(told.x()), static_cast<double>(told.y()), static_cast<double>(told.width()),
+        static_cast<double>(told.height())};
+    EXPECT_EQ(maker.screens()[0].visibleFrame, toolkits);
+    windows.setFree(PixelBox{told.right() + 100, 0, 500, 500});
+    EXPECT_EQ(maker.screens()[0].visibleFrame, toolkits);
+}
+
+TEST_F(QtPanelMakerTest, TellsWhenADockChanges) {
+    int told = 0;
+    Subscription listener = maker.onScreensChanged([&] { ++told; });
+    windows.setFree(PixelBox{0, 30, 500, 500});
+    EXPECT_EQ(told, 1);
+    listener.reset();
+    windows.setFree(std::nullopt);
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(QtPanelMakerTest, TellsWhereThePointerIs) {
     QCursor::setPos(123, 45);
     EXPECT_EQ(maker.pointer(), (Point{123, 45}));

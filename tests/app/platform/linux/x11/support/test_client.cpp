@@ -87,6 +87,11 @@ void TestClient::setNumbers(
     sync();
 }
 
+void TestClient::remove(xcb_window_t window, std::string_view property) {
+    xcb_delete_property(m_xcb.get(), window, atom(property));
+    sync();
+}
+
 std::vector<std::uint32_t> TestClient::numbers(xcb_window_t window, std::string_view property) {
     const auto cookie =
         xcb_get_property(m_xcb.get(), 0, window, atom(property), XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);

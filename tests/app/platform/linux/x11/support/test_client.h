@@ -37,6 +37,7 @@ class TestClient {
     void setNumbers(
         xcb_window_t window, std::string_view property, std::string_view type,
         const std::vector<std::uint32_t>& values);
+    void remove(xcb_window_t window, std::string_view property);
     std::vector<std::uint32_t> numbers(xcb_window_t window, std::string_view property);
     xcb_window_t root() const { return m_screen->root; }
 

@@ -27,6 +27,13 @@ class FakePanelWindows final : public PanelWindows {
     Subscription onPressElsewhere(std::function<void()> callback) override {
         return m_pressElsewhere.subscribe(std::move(callback));
     }
+    std::optional<PixelBox> freeOf(const PixelBox& monitor) override {
+        m_askedMonitor = monitor;
+        return m_free;
+    }
+    Subscription onFreeChanged(std::function<void()> callback) override {
+        return m_freeChanged.subscribe(std::move(callback));
+    }
 
     /// The windows that were prepared, in order.
     const std::vector<std::uintptr_t>& prepared() const { return m_prepared; }
@@ -47,6 +54,13 @@ class FakePanelWindows final : public PanelWindows {
     void pressElsewhere() { m_pressElsewhere.emit(); }
     /// How many listen for presses elsewhere.
     std::size_t pressListeners() const { return m_pressElsewhere.listeners(); }
+    /// Docks leave this free of every monitor from now on; absent: unknown again.
+    void setFree(std::optional<PixelBox> box) {
+        m_free = box;
+        m_freeChanged.emit();
+    }
+    /// The monitor that was asked about last.
+    const PixelBox& askedMonitor() const { return m_askedMonitor; }
 
   private:
     std::vector<std::uintptr_t> m_prepared;
@@ -56,6 +70,9 @@ class FakePanelWindows final : public PanelWindows {
     bool m_composited = true;
     CountedEvent<> m_compositedChanged;
     CountedEvent<> m_pressElsewhere;
+    std::optional<PixelBox> m_free;
+    PixelBox m_askedMonitor;
+    CountedEvent<> m_freeChanged;
 };
 
 } // namespace quillon
