@@ -2,6 +2,7 @@
 
 #include "x11_connection.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -14,6 +15,11 @@ struct RawPress {
     bool isRepeat = false;    ///< a held key that repeats
     xcb_timestamp_t time = 0; ///< of the server
 };
+
+/// Buttons 4 to 7 are the wheel; devices that scroll smoothly send them too.
+constexpr bool isWheelButton(std::uint32_t button) {
+    return button >= 4 && button <= 7;
+}
 
 /// The raw input events of the whole display (XInput 2.2). The server is asked for them only while somebody
 /// listens: every one of them wakes this program.

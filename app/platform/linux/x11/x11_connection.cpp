@@ -1,7 +1,5 @@
 #include "x11_connection.h"
 
-#include "x11_extensions.h"
-
 #include <QSocketNotifier>
 
 #include <chrono>

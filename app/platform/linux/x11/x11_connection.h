@@ -1,6 +1,7 @@
 #pragma once
 
 #include "x11_atoms.h"
+#include "x11_extensions.h"
 #include "x11_reply.h"
 
 #include <quillon/kit/base/subscription.h>
@@ -21,24 +22,6 @@
 class QSocketNotifier;
 
 namespace quillon {
-
-/// A version that the server told of one of its extensions.
-struct X11Version {
-    std::uint32_t major = 0;
-    std::uint32_t minor = 0;
-
-    auto operator<=>(const X11Version&) const = default;
-};
-
-/// The extensions that this program uses; absent where the server lacks one or has it too old.
-struct X11Extensions {
-    std::optional<std::uint8_t> xinputOpcode; ///< only where raw events reach us under grabs (2.2)
-    std::optional<X11Version> xinputVersion;  ///< whatever the server has
-    std::optional<std::uint8_t> xkbFirstEvent;
-    std::optional<std::uint8_t> xfixesFirstEvent;
-    bool shape = false;
-    bool clientPids = false; ///< XRes 1.2
-};
 
 /// This program's own connection to the X server and its event pump. Of the main thread; needs its event
 /// loop.

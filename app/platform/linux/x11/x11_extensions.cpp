@@ -1,5 +1,6 @@
 #include "x11_extensions.h"
 
+#include "x11_reply.h"
 #include "xkb_header.h"
 
 #include <xcb/res.h>

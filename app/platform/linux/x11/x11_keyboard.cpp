@@ -20,13 +20,11 @@ constexpr std::uint16_t coreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 } // namespace
 
 InputKind inputKindOfButton(std::uint32_t button) {
+    if (isWheelButton(button))
+        return InputKind::scrollWheel;
     switch (button) {
     case 1: return InputKind::leftMouseDown;
     case 3: return InputKind::rightMouseDown;
-    case 4:
-    case 5:
-    case 6:
-    case 7: return InputKind::scrollWheel;
     default: return InputKind::otherMouseDown;
     }
 }

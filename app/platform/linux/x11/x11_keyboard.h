@@ -9,8 +9,7 @@
 
 namespace quillon {
 
-/// What a pointer button stands for: 1 is the left one, 3 the right one, 4 to 7 are the wheel (devices that
-/// scroll smoothly send them too).
+/// What a pointer button stands for: 1 is the left one, 3 the right one, and some are the wheel.
 InputKind inputKindOfButton(std::uint32_t button);
 
 /// The keyboard as the X server's keyboard extension (XKB) tells it. Its events come under other clients'

@@ -34,10 +34,6 @@ std::vector<xcb_rectangle_t> rectangles(const std::vector<PixelBox>& boxes) {
     return result;
 }
 
-bool isWheel(std::uint32_t button) {
-    return button >= 4 && button <= 7;
-}
-
 } // namespace
 
 X11PanelWindows::X11PanelWindows(
@@ -224,7 +220,7 @@ bool X11PanelWindows::isWithOurs(xcb_window_t window) {
 Subscription X11PanelWindows::onPressElsewhere(std::function<void()> callback) {
     if (++*m_pressListeners == 1)
         m_presses = m_input->onButtonPress(
-            [this](const RawPress& press) { m_isPressed = m_isPressed || !isWheel(press.detail); });
+            [this](const RawPress& press) { m_isPressed = m_isPressed || !isWheelButton(press.detail); });
     auto inner = std::make_shared<Subscription>(m_pressElsewhere.subscribe(std::move(callback)));
     return Subscription([inner = std::move(inner), listeners = std::weak_ptr(m_pressListeners), this] {
         inner->reset();

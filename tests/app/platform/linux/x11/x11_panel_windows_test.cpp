@@ -1,6 +1,7 @@
 #include "support/x11_fixture.h"
 
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
+#include <quillon/kit/base/file_descriptor.h>
 
 #include <gmock/gmock.h>
 
@@ -263,23 +264,23 @@ TEST_F(X11PanelWindowsTest, ACompositorIsNoticedAsItComesAndGoes) {
 /// A client of another process: what it shows is not ours.
 struct OtherProcess {
     explicit OtherProcess(const std::string& display) {
-        std::array<int, 2> ready{};
-        if (::pipe(ready.data()) != 0)
+        std::array<int, 2> ends{-1, -1};
+        if (::pipe(ends.data()) != 0)
             return;
+        const FileDescriptor readEnd(ends[0]);
+        const FileDescriptor writeEnd(ends[1]);
         pid = ::fork();
         if (pid == 0) {
             TestClient other(display);
             other.makeWindow({.x = 400, .y = 300, .size = 100});
             const char done = '1';
-            if (::write(ready[1], &done, 1) != 1)
+            if (::write(writeEnd.get(), &done, 1) != 1)
                 ::_exit(1);
             ::pause();
             ::_exit(0);
         }
         char done = 0;
-        isReady = ::read(ready[0], &done, 1) == 1;
-        ::close(ready[0]);
-        ::close(ready[1]);
+        isReady = ::read(readEnd.get(), &done, 1) == 1;
     }
     OtherProcess(const OtherProcess&) = delete;
     OtherProcess& operator=(const OtherProcess&) = delete;
