@@ -5,7 +5,8 @@
 namespace quillon {
 
 /// A desktop of which nothing more is known than the toolkit knows: the keyboard stays where it is, presses
-/// elsewhere are not told, nor is what docks leave free, and what is translucent is blended, as wherever windows are not X11's.
+/// elsewhere are not told, nor is what docks leave free, and what is translucent is blended, as wherever
+/// windows are not X11's.
 class PlainPanelWindows final : public PanelWindows {
   public:
     void prepare(std::uintptr_t) override {}
