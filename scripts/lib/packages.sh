@@ -35,7 +35,7 @@ test_packages() {
 
 # The private desktop and the applications that the tests use in it.
 desktop_packages() {
-    echo xvfb x11-utils xdotool openbox i3-wm picom dbus at-spi2-core \
+    echo xvfb x11-utils libxrandr2 xdotool openbox i3-wm picom dbus at-spi2-core \
         python3 python3-gi imagemagick \
         fonts-dejavu-core libqt6svg6 hicolor-icon-theme adwaita-icon-theme \
         geany mousepad featherpad designer-qt6 libreoffice-writer libreoffice-gtk3
