@@ -17,6 +17,7 @@
 namespace quillon {
 
 class RawInput;
+class RootEventBrake;
 class X11Connection;
 class XdgAppIcons;
 
@@ -45,6 +46,7 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<Appearance> m_appearance;
     std::unique_ptr<XdgAppIcons> m_icons;
     std::shared_ptr<X11Connection> m_x11;
+    std::unique_ptr<RootEventBrake> m_brake;
     std::shared_ptr<RawInput> m_input; ///< absent without X11
     std::unique_ptr<PanelWindows> m_panelWindows;
     QtPanelMaker m_panels;
