@@ -1,7 +1,9 @@
 #include "root_event_brake.h"
 
+#include "toolkit_connection.h"
+
 #include <QByteArray>
-#include <QGuiApplication>
+#include <QCoreApplication>
 
 #include <xcb/xcb.h>
 
@@ -15,17 +17,10 @@ namespace {
 
 constexpr std::chrono::milliseconds interval{100};
 
-xcb_connection_t* toolkitsConnection() {
-    const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
-    const auto* native =
-        application ? application->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return native ? native->connection() : nullptr;
-}
-
 } // namespace
 
 RootEventBrake::RootEventBrake() {
-    xcb_connection_t* const toolkit = toolkitsConnection();
+    xcb_connection_t* const toolkit = toolkitConnection();
     if (!toolkit)
         return;
     m_root = xcb_setup_roots_iterator(xcb_get_setup(toolkit)).data->root;
@@ -40,7 +35,7 @@ RootEventBrake::RootEventBrake() {
 }
 
 RootEventBrake::~RootEventBrake() {
-    if (xcb_connection_t* const toolkit = toolkitsConnection(); toolkit && m_ownWindow != 0)
+    if (xcb_connection_t* const toolkit = toolkitConnection(); toolkit && m_ownWindow != 0)
         xcb_destroy_window(toolkit, m_ownWindow);
 }
 
@@ -58,7 +53,7 @@ bool RootEventBrake::nativeEventFilter(const QByteArray&, void* message, qintptr
 }
 
 void RootEventBrake::passOnHeld() {
-    xcb_connection_t* const toolkit = toolkitsConnection();
+    xcb_connection_t* const toolkit = toolkitConnection();
     for (const xcb_atom_t atom : m_gate.endInterval()) {
         xcb_property_notify_event_t event{};
         event.response_type = XCB_PROPERTY_NOTIFY;

@@ -1,9 +1,8 @@
 #include "x11_panel_windows.h"
 
+#include "toolkit_connection.h"
 #include "x11_property.h"
 #include "x11_queries.h"
-
-#include <QGuiApplication>
 
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
@@ -165,10 +164,8 @@ void X11PanelWindows::takeAway(std::uintptr_t number) {
 xcb_connection_t* X11PanelWindows::maker() const {
     if (m_maker != nullptr)
         return m_maker;
-    const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
-    const auto* native =
-        application ? application->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return native ? native->connection() : m_x11->xcb();
+    xcb_connection_t* const toolkit = toolkitConnection();
+    return toolkit != nullptr ? toolkit : m_x11->xcb();
 }
 
 void X11PanelWindows::takeKeyboard(std::uintptr_t number) {
