@@ -13,7 +13,7 @@ namespace {
 
 /// The events that are read in one go; what a busy client goes on sending waits until the event loop had its
 /// turn.
-constexpr int mostEventsAtOnce = 4096;
+constexpr int mostEventsAtOnce = 1024;
 
 const xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
     for (auto it = xcb_setup_roots_iterator(xcb_get_setup(connection)); it.rem > 0; xcb_screen_next(&it)) {
