@@ -15,8 +15,10 @@
 #include <quillon/app/ports/front_application.h>
 #include <quillon/app/ports/keyboard.h>
 #include <quillon/app/ports/menu_reader.h>
+#include <quillon/app/ports/menu_use.h>
 #include <quillon/app/ports/panel_host.h>
 #include <quillon/app/ports/timers.h>
+#include <quillon/app/ports/typed_keys.h>
 #include <quillon/app/ports/windows.h>
 #include <quillon/kit/menu/app_sheet.h>
 
@@ -39,6 +41,15 @@ enum class ModelField {
     reading,
     query,
     overlaySticky,
+    nudge,
+};
+
+/// A command that was clicked although it has a shortcut.
+struct Nudge {
+    MenuEntry entry;
+    std::string appName; ///< the display name of its application; "" when unknown
+
+    bool operator==(const Nudge&) const = default;
 };
 
 /// What the model needs of the desktop. All of it outlives the model.
@@ -47,6 +58,8 @@ struct AppServices {
     MenuReader& menuReader;
     AccessibilityAccess& accessibility;
     Keyboard& keyboard;
+    MenuUse& menuUse;
+    TypedKeys& typedKeys;
     const Clock& clock;
     Timers& timers;
     Background& background;
@@ -100,6 +113,8 @@ class AppModel {
     void setQuery(std::string query);
     /// Whether the overlay stays open when the trigger key is let go.
     bool overlaySticky() const { return m_overlaySticky; }
+    /// What the toast shows, or showed last; absent before the first.
+    const std::optional<Nudge>& nudge() const { return m_nudge; }
 
     /// Loads what was learned in earlier runs and begins to watch the desktop.
     void start();
@@ -156,6 +171,7 @@ class AppModel {
     bool m_trusted = false;
     std::string m_query;
     bool m_overlaySticky = false;
+    std::optional<Nudge> m_nudge;
     std::uint64_t m_toldSheet = 0; ///< revision of the sheet that was told last
     bool m_toldReading = false;
     Subscription m_settingChange;

@@ -6,7 +6,9 @@
 #include "front_application.h"
 #include "keyboard.h"
 #include "menu_reader.h"
+#include "menu_use.h"
 #include "panel_maker.h"
+#include "typed_keys.h"
 
 namespace quillon {
 
@@ -19,6 +21,8 @@ class Desktop {
     virtual MenuReader& menuReader() = 0;
     virtual AccessibilityAccess& accessibility() = 0;
     virtual Keyboard& keyboard() = 0;
+    virtual MenuUse& menuUse() = 0;
+    virtual TypedKeys& typedKeys() = 0;
     virtual AppIcons& icons() = 0;
     virtual Appearance& appearance() = 0;
     virtual PanelMaker& panels() = 0;

@@ -2,6 +2,8 @@
 
 #include "geometry.h"
 
+#include <quillon/kit/base/instant.h>
+
 #include <functional>
 
 namespace quillon {
@@ -21,6 +23,11 @@ class FloatingPanel {
     /// Gives the shown panel the keyboard.
     virtual void makeKey() = 0;
     virtual void orderOut() = 0;
+    /// Shows the panel as `orderFront` does, wholly transparent at first and opaque after `time`. Opaque at
+    /// once where the desktop does not blend windows.
+    virtual void fadeIn(Seconds time) = 0;
+    /// Makes the panel transparent for `time` and then orders it out. Showing it again meanwhile ends that.
+    virtual void fadeOut(Seconds time) = 0;
     virtual bool isVisible() const = 0;
 
     std::function<void()> onEscape; ///< the user pressed Escape in the panel

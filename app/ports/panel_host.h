@@ -24,6 +24,8 @@ class PanelHost {
     virtual Point pointer() const = 0;
     /// A panel that shows the overlay, hidden. Never null.
     virtual std::unique_ptr<FloatingPanel> makeOverlayPanel() = 0;
+    /// A panel that shows the nudge, hidden. Never null.
+    virtual std::unique_ptr<FloatingPanel> makeToastPanel() = 0;
 };
 
 } // namespace quillon

@@ -22,12 +22,20 @@ Program::Program(Platform& platform)
       m_icons(m_desktop->icons()),
       m_panels(
           m_desktop->panels(),
-          [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); }),
+          [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); },
+          [] {
+              return PanelContent{
+                  .widget = std::make_shared<QWidget>(),
+                  .traits = {.input = PanelInput::passes},
+                  .prepare = {}};
+          }),
       m_windows(m_desktop->accessibility()), m_model({
                                                  .frontApplication = m_desktop->frontApplication(),
                                                  .menuReader = m_desktop->menuReader(),
                                                  .accessibility = m_desktop->accessibility(),
                                                  .keyboard = m_desktop->keyboard(),
+                                                 .menuUse = m_desktop->menuUse(),
+                                                 .typedKeys = m_desktop->typedKeys(),
                                                  .clock = m_clock,
                                                  .timers = m_timers,
                                                  .background = m_background,

@@ -5,6 +5,8 @@
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/sample_records.h>
 
+#include <QWidget>
+
 namespace quillon {
 
 Showcase::Showcase(
@@ -12,12 +14,20 @@ Showcase::Showcase(
     PanelMaker& panels, Settings& settings)
     : m_panels(
         panels,
-        [this, &themes, &icons] { return overlayContent(m_model, themes, icons, OverlayMode::showcase); }),
+        [this, &themes, &icons] { return overlayContent(m_model, themes, icons, OverlayMode::showcase); },
+        [] {
+            return PanelContent{
+                .widget = std::make_shared<QWidget>(),
+                .traits = {.input = PanelInput::passes},
+                .prepare = {}};
+        }),
       m_model({
           .frontApplication = m_none.front,
           .menuReader = m_none.menus,
           .accessibility = m_none.access,
           .keyboard = m_none.keyboard,
+          .menuUse = m_none.menuUse,
+          .typedKeys = m_none.typedKeys,
           .clock = clock,
           .timers = timers,
           .background = background,

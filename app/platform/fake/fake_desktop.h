@@ -8,8 +8,10 @@
 #include "fake_front_application.h"
 #include "fake_keyboard.h"
 #include "fake_menu_reader.h"
+#include "fake_menu_use.h"
 #include "fake_panel_maker.h"
 #include "fake_timers.h"
+#include "fake_typed_keys.h"
 #include "fake_windows.h"
 
 namespace quillon {
@@ -23,6 +25,8 @@ struct FakeDesktop {
     FakeMenuReader menus;
     FakeAccessibilityAccess access;
     FakeKeyboard keyboard{clock};
+    FakeMenuUse menuUse;
+    FakeTypedKeys typedKeys;
     FakeAppIcons icons;
     FakeAppearance appearance;
     FakePanelMaker panels;

@@ -14,6 +14,8 @@ struct PanelRecord {
     bool hasKeyboard = false;
     int timesPrepared = 0;
     int timesShown = 0;
+    Seconds fadedIn{0};  ///< how long the last showing took to be opaque
+    Seconds fadedOut{0}; ///< how long the last fading out takes; 0 when the panel was not faded out since
 };
 
 class FakePanel final : public FloatingPanel {
@@ -26,6 +28,13 @@ class FakePanel final : public FloatingPanel {
         m_record->visible = true;
         ++m_record->timesShown;
     }
+    void fadeIn(Seconds time) override {
+        orderFront();
+        m_record->fadedIn = time;
+        m_record->fadedOut = Seconds(0);
+    }
+    /// The panel stays visible: no time passes here.
+    void fadeOut(Seconds time) override { m_record->fadedOut = time; }
     void makeKey() override { m_record->hasKeyboard = true; }
     void orderOut() override {
         m_record->visible = false;

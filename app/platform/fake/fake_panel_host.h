@@ -29,10 +29,15 @@ class FakePanelHost final : public PanelHost {
         overlayPanel = made.get();
         return made;
     }
+    std::unique_ptr<FloatingPanel> makeToastPanel() override {
+        ++panelsMade;
+        return std::make_unique<FakePanel>(toast);
+    }
 
     std::vector<Screen> allScreens{{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}};
     Point pointerPosition;
     std::shared_ptr<PanelRecord> overlay = std::make_shared<PanelRecord>();
+    std::shared_ptr<PanelRecord> toast = std::make_shared<PanelRecord>();
     FloatingPanel* overlayPanel = nullptr;
     int panelsMade = 0;
 

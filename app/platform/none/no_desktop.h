@@ -6,7 +6,9 @@
 #include "no_front_application.h"
 #include "no_keyboard.h"
 #include "no_menu_reader.h"
+#include "no_menu_use.h"
 #include "no_panel_maker.h"
+#include "no_typed_keys.h"
 #include "no_windows.h"
 
 namespace quillon {
@@ -17,6 +19,8 @@ struct NoDesktop {
     NoMenuReader menus;
     NoAccessibilityAccess access;
     NoKeyboard keyboard;
+    NoMenuUse menuUse;
+    NoTypedKeys typedKeys;
     NoAppIcons icons;
     NoAppearance appearance;
     NoPanelMaker panels;

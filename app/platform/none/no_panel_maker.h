@@ -12,6 +12,8 @@ class NoPanel final : public FloatingPanel {
     void orderFront() override {}
     void makeKey() override {}
     void orderOut() override {}
+    void fadeIn(Seconds) override {}
+    void fadeOut(Seconds) override {}
     bool isVisible() const override { return false; }
 };
 

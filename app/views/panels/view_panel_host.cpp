@@ -8,8 +8,8 @@
 
 namespace quillon {
 
-ViewPanelHost::ViewPanelHost(PanelMaker& maker, MakeContent overlay)
-    : m_maker(maker), m_overlay(std::move(overlay)) {}
+ViewPanelHost::ViewPanelHost(PanelMaker& maker, MakeContent overlay, MakeContent toast)
+    : m_maker(maker), m_overlay(std::move(overlay)), m_toast(std::move(toast)) {}
 
 std::vector<Screen> ViewPanelHost::screens() const {
     return m_maker.screens();
@@ -29,6 +29,10 @@ std::unique_ptr<FloatingPanel> ViewPanelHost::makeOverlayPanel() {
     auto panel = m_maker.makePanel(std::move(content));
     readAs(*widget->window(), ReadAs::panel);
     return panel;
+}
+
+std::unique_ptr<FloatingPanel> ViewPanelHost::makeToastPanel() {
+    return m_maker.makePanel(m_toast());
 }
 
 } // namespace quillon

@@ -15,17 +15,19 @@ class ViewPanelHost final : public PanelHost {
     /// Makes a panel's content when the panel is made.
     using MakeContent = std::function<PanelContent()>;
 
-    /// `maker` outlives the host and its panels. `overlay` makes what the overlay's panel shows.
-    ViewPanelHost(PanelMaker& maker, MakeContent overlay);
+    /// `maker` outlives the host and its panels. The others make what the panels show.
+    ViewPanelHost(PanelMaker& maker, MakeContent overlay, MakeContent toast);
 
     std::vector<Screen> screens() const override;
     Subscription onScreensChanged(std::function<void()> callback) override;
     Point pointer() const override;
     std::unique_ptr<FloatingPanel> makeOverlayPanel() override;
+    std::unique_ptr<FloatingPanel> makeToastPanel() override;
 
   private:
     PanelMaker& m_maker;
     MakeContent m_overlay;
+    MakeContent m_toast;
 };
 
 } // namespace quillon

@@ -54,6 +54,8 @@ class AppModelTest : public testing::Test {
         .menuReader = desktop.menus,
         .accessibility = desktop.access,
         .keyboard = desktop.keyboard,
+        .menuUse = desktop.menuUse,
+        .typedKeys = desktop.typedKeys,
         .clock = desktop.clock,
         .timers = desktop.timers,
         .background = desktop.background,

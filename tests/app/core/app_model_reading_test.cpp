@@ -291,6 +291,8 @@ TEST(AppModelLifetime, EndsWhileAReadingIsUnderWay) {
             .menuReader = desktop.menus,
             .accessibility = desktop.access,
             .keyboard = desktop.keyboard,
+            .menuUse = desktop.menuUse,
+            .typedKeys = desktop.typedKeys,
             .clock = desktop.clock,
             .timers = desktop.timers,
             .background = desktop.background,

@@ -33,6 +33,8 @@ class LinuxDesktop final : public Desktop {
     MenuReader& menuReader() override { return m_menuReader; }
     AccessibilityAccess& accessibility() override { return *m_access; }
     Keyboard& keyboard() override;
+    MenuUse& menuUse() override { return m_none.menuUse; }
+    TypedKeys& typedKeys() override { return m_none.typedKeys; }
     AppIcons& icons() override;
     Appearance& appearance() override { return *m_appearance; }
     PanelMaker& panels() override { return m_panels; }

@@ -29,6 +29,8 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     void orderFront() override;
     void makeKey() override;
     void orderOut() override;
+    void fadeIn(Seconds) override { orderFront(); }
+    void fadeOut(Seconds) override { orderOut(); }
     bool isVisible() const override { return QWidget::isVisible(); }
 
   protected:

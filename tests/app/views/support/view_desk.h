@@ -9,6 +9,7 @@
 #include <quillon/tests/app/platform/qt/panels/support/fake_panel_windows.h>
 
 #include <QTemporaryDir>
+#include <QWidget>
 
 namespace quillon {
 
@@ -36,12 +37,21 @@ class ViewDesk {
     AppIconCache icons{desktop.icons};
     FakePanelWindows panelWindows;
     QtPanelMaker panels{panelWindows};
-    ViewPanelHost host{panels, [this] { return overlayContent(); }};
+    ViewPanelHost host{
+        panels, [this] { return overlayContent(); },
+        [] {
+            return PanelContent{
+                .widget = std::make_shared<QWidget>(),
+                .traits = {.input = PanelInput::passes},
+                .prepare = {}};
+        }};
     AppModel model{{
         .frontApplication = desktop.front,
         .menuReader = desktop.menus,
         .accessibility = desktop.access,
         .keyboard = desktop.keyboard,
+        .menuUse = desktop.menuUse,
+        .typedKeys = desktop.typedKeys,
         .clock = desktop.clock,
         .timers = desktop.timers,
         .background = desktop.background,
