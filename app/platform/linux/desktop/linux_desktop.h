@@ -33,7 +33,7 @@ class LinuxDesktop final : public Desktop {
     MenuReader& menuReader() override { return m_menuReader; }
     AccessibilityAccess& accessibility() override { return *m_access; }
     Keyboard& keyboard() override;
-    MenuUse& menuUse() override { return m_none.menuUse; }
+    MenuUse& menuUse() override;
     TypedKeys& typedKeys() override { return m_none.typedKeys; }
     AppIcons& icons() override;
     Appearance& appearance() override { return *m_appearance; }
@@ -54,6 +54,7 @@ class LinuxDesktop final : public Desktop {
     QtPanelMaker m_panels;
     std::unique_ptr<FrontApplication> m_front;
     std::unique_ptr<Keyboard> m_keyboard;
+    std::unique_ptr<MenuUse> m_menuUse;
     Subscription m_activations;
 };
 
