@@ -1,5 +1,9 @@
 #include "app_model.h"
 
+#include "click_response.h"
+
+#include <quillon/kit/coach/nudge_policy.h>
+
 #include <utility>
 
 namespace quillon {
@@ -29,8 +33,9 @@ AppModel::AppModel(AppServices services)
     : m_services(std::move(services)),
       m_readings(m_services.menuReader, m_services.background, m_services.clock),
       m_folder(m_services.dataFolder), m_save(m_services.timers, [this] { save(); }),
-      m_overlay(m_services.panels),
-      m_hold(m_services.keyboard, m_services.clock, m_services.timers, detectorFor(m_services.settings)) {
+      m_overlay(m_services.panels), m_toast(m_services.panels, m_services.timers),
+      m_hold(m_services.keyboard, m_services.clock, m_services.timers, detectorFor(m_services.settings)),
+      m_clicks(m_services.menuUse, m_services.clock, m_services.ownPid), m_typed(m_services.typedKeys) {
     m_settingChange =
         m_services.settings.changed.subscribe([this](Setting setting) { settingChanged(setting); });
     m_recordChange = m_records.changed.subscribe([this](const RecordChange& change) {
@@ -50,6 +55,11 @@ AppModel::AppModel(AppServices services)
         if (m_overlaySticky)
             closeOverlay();
     };
+    m_clicks.onPick = [this](const auto& app, const auto& path, const auto& shortcut) {
+        handlePick(app, path, shortcut);
+    };
+    m_typed.entries = [this] { return entriesInFront(); };
+    m_typed.onTyped = [this](const MenuEntry& entry) { handleTyped(entry); };
 }
 
 AppModel::~AppModel() = default;
@@ -66,6 +76,14 @@ void AppModel::start() {
 
 void AppModel::applyWatchers() {
     m_hold.start();
+    if (m_trusted && nudgesOn())
+        m_clicks.start();
+    else
+        m_clicks.stop();
+    if (m_trusted && countTyped())
+        m_typed.start();
+    else
+        m_typed.stop();
 }
 
 void AppModel::settingChanged(Setting setting) {
@@ -168,6 +186,49 @@ void AppModel::closeOverlay() {
 void AppModel::keepOverlayOpen() {
     setSticky(true);
     m_overlay.makeKey();
+}
+
+void AppModel::preparePanels() {
+    m_overlay.prepare();
+    m_toast.prepare();
+}
+
+void AppModel::handlePick(
+    const RunningApp& app, const std::vector<std::string>& path, const Shortcut& shortcut) {
+    if (app.bundleID.empty())
+        return;
+    MenuEntry entry{.path = path, .shortcut = shortcut};
+    const std::string id = entry.id();
+    const Instant now = m_services.clock.now();
+    const ClickResponse response = responseToClick(
+        usage().record(app.bundleID, id), annotations().get(app.bundleID, id), nudgesOn(), defaultNudgePolicy,
+        now);
+    if (response.counts)
+        m_records.click(app.bundleID, id, now);
+    if (response.nudges) {
+        m_records.nudged(app.bundleID, id, now);
+        showNudge({std::move(entry), app.name});
+    }
+}
+
+void AppModel::showNudge(Nudge nudge) {
+    m_nudge = std::move(nudge);
+    changed.emit(ModelField::nudge);
+    m_toast.show();
+}
+
+void AppModel::handleTyped(const MenuEntry& entry) {
+    if (current() && !current()->bundleID.empty())
+        m_records.typed(current()->bundleID, entry.id());
+}
+
+/// Of the current sheet, where it is that of the application in front: what is typed into no application or
+/// into this program belongs to none.
+std::span<const MenuEntry> AppModel::entriesInFront() const {
+    const auto front = m_services.frontApplication.current();
+    if (!front || !current() || front->bundleID != current()->bundleID)
+        return {};
+    return current()->entries;
 }
 
 void AppModel::togglePin(const std::string& bundleID, const std::string& entryID) {

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "click_watcher.h"
 #include "current_sheet.h"
 #include "data_folder.h"
 #include "delayed_save.h"
 #include "hold_watcher.h"
 #include "learned_records.h"
+#include "nudge_toast_controller.h"
 #include "overlay_controller.h"
 #include "reading_queue.h"
 #include "settings.h"
+#include "typed_watcher.h"
 
 #include <quillon/app/ports/accessibility_access.h>
 #include <quillon/app/ports/background.h>
@@ -25,11 +28,14 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace quillon {
 
-/// What of the model changed. Changes of records and annotations are told apart, by `recordChanged`.
+/// What of the model changed. Changes of records and annotations are told apart, by `recordChanged`. A nudge
+/// is told each time that one is shown, be it the same again.
 enum class ModelField {
     trigger,
     holdDelay,
@@ -71,8 +77,8 @@ struct AppServices {
 };
 
 /// The views' one door to the program: what it knows, which they observe, and what they may ask of it. Wires
-/// the parts of which each holds one thing: the settings, the readings, the sheets, the records, their saving
-/// and the overlay. Lives on the main thread for the whole run.
+/// the parts of which each holds one thing: the settings, the readings, the sheets, the records, their
+/// saving, the watchers, the overlay and the toast. Lives on the main thread for the whole run.
 class AppModel {
   public:
     explicit AppModel(AppServices services);
@@ -124,8 +130,8 @@ class AppModel {
     /// Reads the application's menus in the background.
     void read(const RunningApp& app);
 
-    /// Makes the overlay's panel ahead of its first use, in a moment in which nothing else is to be done.
-    void prepareOverlay() { m_overlay.prepare(); }
+    /// Makes the panels ahead of their first use, in a moment in which nothing else is to be done.
+    void preparePanels();
     void showOverlay(Stickiness stickiness);
     /// Closes the overlay and clears the search.
     void closeOverlay();
@@ -134,6 +140,12 @@ class AppModel {
     /// Whether holding the trigger key is noticed.
     bool isWatching() const { return m_hold.isWatching(); }
     bool overlayVisible() const { return m_overlay.isVisible(); }
+
+    /// A command with a shortcut was chosen with the pointer: counted, and answered by a nudge where that is
+    /// due. Nothing for an application without an identifier.
+    void handlePick(const RunningApp& app, const std::vector<std::string>& path, const Shortcut& shortcut);
+    /// The shortcut of a command of the current application was typed.
+    void handleTyped(const MenuEntry& entry);
 
     /// Pins or unpins a command of an application.
     void togglePin(const std::string& bundleID, const std::string& entryID);
@@ -159,6 +171,8 @@ class AppModel {
     void sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
     void tellDifferences();
     void setSticky(bool sticky);
+    void showNudge(Nudge nudge);
+    std::span<const MenuEntry> entriesInFront() const;
 
     AppServices m_services;
     CurrentSheet m_sheets;
@@ -167,7 +181,10 @@ class AppModel {
     DataFolder m_folder;
     DelayedSave m_save;
     OverlayController m_overlay;
+    NudgeToastController m_toast;
     HoldWatcher m_hold;
+    ClickWatcher m_clicks;
+    TypedWatcher m_typed;
     bool m_trusted = false;
     std::string m_query;
     bool m_overlaySticky = false;

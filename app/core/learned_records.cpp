@@ -4,6 +4,21 @@
 
 namespace quillon {
 
+void LearnedRecords::click(const std::string& bundleID, const std::string& entryID, Instant time) {
+    m_usage.click(bundleID, entryID, time);
+    changed.emit({bundleID, entryID});
+}
+
+void LearnedRecords::typed(const std::string& bundleID, const std::string& entryID) {
+    m_usage.typed(bundleID, entryID);
+    changed.emit({bundleID, entryID});
+}
+
+void LearnedRecords::nudged(const std::string& bundleID, const std::string& entryID, Instant time) {
+    m_usage.nudged(bundleID, entryID, time);
+    changed.emit({bundleID, entryID});
+}
+
 void LearnedRecords::togglePin(const std::string& bundleID, const std::string& entryID) {
     m_annotations.togglePin(bundleID, entryID);
     changed.emit({bundleID, entryID});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <quillon/kit/base/instant.h>
 #include <quillon/kit/base/subscription.h>
 #include <quillon/kit/records/annotations.h>
 #include <quillon/kit/records/usage.h>
@@ -29,6 +30,10 @@ class LearnedRecords {
     const UsageBook& usage() const { return m_usage; }
     const AnnotationBook& annotations() const { return m_annotations; }
 
+    /// A command was clicked, its shortcut was typed, a nudge was shown for it.
+    void click(const std::string& bundleID, const std::string& entryID, Instant time);
+    void typed(const std::string& bundleID, const std::string& entryID);
+    void nudged(const std::string& bundleID, const std::string& entryID, Instant time);
     void togglePin(const std::string& bundleID, const std::string& entryID);
 
     /// Takes over all records at once: those of an earlier run, or none.

@@ -67,7 +67,7 @@ void Program::start(FirstShow firstShow) {
     m_model.start();
     m_tray.show();
     // The first hold should not have to wait for what can be made while nobody waits.
-    m_preparation = m_timers.after(Seconds(0), [this] { m_model.prepareOverlay(); });
+    m_preparation = m_timers.after(Seconds(0), [this] { m_model.preparePanels(); });
     switch (firstShow) {
     case FirstShow::nothing: break;
     case FirstShow::overlay: showOverlayOnceTrusted(); break;

@@ -96,7 +96,7 @@ bool benchShow(const QString& what, const AppSheet& sheet, FrameWatch& watch) {
     ViewDesk desk;
     desk.trust();
     desk.show(sheet);
-    desk.model.prepareOverlay();
+    desk.model.preparePanels();
     const auto first = timeShow(desk, watch);
     // Once and with cold caches; told, but no median to be held against the budget.
     report(u"show "_s + what + u", first time"_s, {first});

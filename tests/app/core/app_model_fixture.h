@@ -1,8 +1,7 @@
 #pragma once
 
-#include <quillon/app/core/app_model.h>
-#include <quillon/app/platform/fake/fake_desktop.h>
 #include <quillon/app/platform/fake/fake_panel_host.h>
+#include <quillon/tests/app/core/support/model_services.h>
 
 #include <gtest/gtest.h>
 
@@ -28,7 +27,7 @@ inline RunningApp appNamed(const std::string& name, std::int64_t pid) {
 
 class AppModelTest : public testing::Test {
   protected:
-    static constexpr std::int64_t ownPid = 1;
+    static constexpr std::int64_t ownPid = ownPidOfModel;
 
     /// Trusted, started, and the first reading of `app` done.
     void startWith(const RunningApp& app) {
@@ -49,21 +48,7 @@ class AppModelTest : public testing::Test {
     Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
     FakeDesktop desktop;
     FakePanelHost panels;
-    AppModel model{{
-        .frontApplication = desktop.front,
-        .menuReader = desktop.menus,
-        .accessibility = desktop.access,
-        .keyboard = desktop.keyboard,
-        .menuUse = desktop.menuUse,
-        .typedKeys = desktop.typedKeys,
-        .clock = desktop.clock,
-        .timers = desktop.timers,
-        .background = desktop.background,
-        .panels = panels,
-        .windows = desktop.windows,
-        .settings = settings,
-        .ownPid = ownPid,
-    }};
+    AppModel model{servicesOf(desktop, panels, settings)};
 };
 
 } // namespace quillon

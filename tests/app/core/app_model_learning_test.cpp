@@ -1,60 +1,12 @@
-#include "app_model_fixture.h"
+#include "app_model_learning_fixture.h"
 
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/sample_records.h>
-
-#include <filesystem>
-#include <memory>
 
 namespace quillon {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The program's runs one after the other, over one data folder.
-class AppModelLearningTest : public testing::Test {
-  protected:
-    AppModelLearningTest() {
-        desktop.menus.answer(sketch.bundleID, {menuBarOf(3), ReadOutcome::complete});
-        desktop.access.setTrusted(true);
-        desktop.front.setCurrent(sketch);
-    }
-    std::unique_ptr<AppModel> modelOver(const fs::path& dataFolder) {
-        return std::make_unique<AppModel>(AppServices{
-            .frontApplication = desktop.front,
-            .menuReader = desktop.menus,
-            .accessibility = desktop.access,
-            .keyboard = desktop.keyboard,
-            .menuUse = desktop.menuUse,
-            .typedKeys = desktop.typedKeys,
-            .clock = desktop.clock,
-            .timers = desktop.timers,
-            .background = desktop.background,
-            .panels = panels,
-            .windows = desktop.windows,
-            .settings = settings,
-            .dataFolder = dataFolder,
-            .ownPid = 1,
-        });
-    }
-    /// Started, and the first reading done.
-    std::unique_ptr<AppModel> startedModel() {
-        auto model = modelOver(data);
-        model->start();
-        desktop.background.runAll();
-        return model;
-    }
-    bool isStored() const { return fs::exists(data); }
-
-    const RunningApp sketch = appNamed("sketch", 10);
-    const RunningApp writer = appNamed("writer", 20);
-    const std::string save = "File › Command a";
-    QTemporaryDir folder;
-    const fs::path data = fs::path(folder.path().toStdString()) / "data";
-    Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
-    FakeDesktop desktop;
-    FakePanelHost panels;
-};
 
 TEST_F(AppModelLearningTest, PinsAndSheetsAreThereInTheNextRun) {
     auto model = startedModel();

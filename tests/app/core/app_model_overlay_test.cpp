@@ -100,17 +100,20 @@ TEST_F(AppModelTest, ThePanelIsMadeOnceAndPlacedAtEachShowing) {
     EXPECT_EQ(panels.overlay->timesShown, 2);
 }
 
-TEST_F(AppModelTest, ThePanelCanBeMadeAheadOfItsFirstShowing) {
+TEST_F(AppModelTest, ThePanelsCanBeMadeAheadOfTheirFirstShowing) {
     startWith(sketch);
-    model.prepareOverlay();
+    model.preparePanels();
     EXPECT_EQ(panels.overlay->timesPrepared, 1);
     EXPECT_EQ(panels.overlay->frame, (Rect{370, 160, 1180, 760}));
     EXPECT_FALSE(panels.overlay->visible);
+    EXPECT_EQ(panels.toast->timesPrepared, 1);
+    EXPECT_FALSE(panels.toast->visible);
     model.showOverlay(Stickiness::sticky);
-    model.prepareOverlay();
+    model.preparePanels();
     EXPECT_TRUE(panels.overlay->visible);
-    EXPECT_EQ(panels.panelsMade, 1);
+    EXPECT_EQ(panels.panelsMade, 2);
     EXPECT_EQ(panels.overlay->timesPrepared, 1);
+    EXPECT_EQ(panels.toast->timesPrepared, 1);
 }
 
 TEST_F(AppModelTest, SwitchingApplicationsWhileHeldIsFollowed) {

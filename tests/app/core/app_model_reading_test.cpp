@@ -116,6 +116,15 @@ TEST_F(AppModelTest, IgnoresItself) {
     desktop.front.activate(appNamed("quillon", ownPid));
     EXPECT_EQ(model.current()->bundleID, "org.example.sketch");
     EXPECT_EQ(desktop.background.waiting(), 0U);
+    model.read(appNamed("quillon", ownPid));
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+}
+
+TEST_F(AppModelTest, ReadsNothingOnRequestWithoutPermission) {
+    model.start();
+    model.read(sketch);
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+    EXPECT_FALSE(model.reading());
 }
 
 TEST_F(AppModelTest, KeepsALateSheetWithoutShowingIt) {
@@ -172,6 +181,19 @@ TEST_F(AppModelTest, TakesAShorterSheetOfAnApplicationThatSharesMoreThanIsRead) 
     desktop.front.activate(sketch);
     desktop.background.runAll();
     EXPECT_EQ(entriesShown(), 2U);
+}
+
+TEST_F(AppModelTest, ALateEmptySheetChangesNothing) {
+    answer(sketch, 3);
+    answer(writer, 5);
+    startWith(sketch);
+    answer(sketch, 0);
+    desktop.front.activate(sketch);
+    EXPECT_TRUE(desktop.background.workNext());
+    desktop.front.activate(writer);
+    EXPECT_TRUE(desktop.background.deliverNext());
+    EXPECT_EQ(model.current()->bundleID, "org.example.writer");
+    EXPECT_EQ(model.sheets().at("org.example.sketch").entries.size(), 3U);
 }
 
 TEST_F(AppModelTest, NeverKeepsAnEmptySheet) {
@@ -286,21 +308,7 @@ TEST(AppModelLifetime, EndsWhileAReadingIsUnderWay) {
     desktop.access.setTrusted(true);
     desktop.front.setCurrent(appNamed("sketch", 10));
     {
-        AppModel model({
-            .frontApplication = desktop.front,
-            .menuReader = desktop.menus,
-            .accessibility = desktop.access,
-            .keyboard = desktop.keyboard,
-            .menuUse = desktop.menuUse,
-            .typedKeys = desktop.typedKeys,
-            .clock = desktop.clock,
-            .timers = desktop.timers,
-            .background = desktop.background,
-            .panels = panels,
-            .windows = desktop.windows,
-            .settings = settings,
-            .ownPid = 1,
-        });
+        AppModel model(servicesOf(desktop, panels, settings));
         model.start();
         EXPECT_TRUE(desktop.background.workNext());
     }

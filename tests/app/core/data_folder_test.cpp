@@ -88,6 +88,23 @@ TEST_F(DataFolderTest, ABrokenFileThatALinkLeadsToIsKeptAndTheLinkToo) {
     EXPECT_EQ(DataFolder(path).load(), learned);
 }
 
+TEST_F(DataFolderTest, WritesUsageThenNotesThenMenus) {
+    for (const auto& [first, second] :
+         {std::pair("usage.json", "notes.json"), std::pair("notes.json", "menus.json")}) {
+        fs::remove_all(path);
+        fs::create_directories(path);
+        fs::create_symlink("both.json", path / first);
+        fs::create_symlink("both.json", path / second);
+        save(data);
+        const std::string both = read("both.json");
+        fs::remove(path / first);
+        fs::remove(path / second);
+        save(data);
+        EXPECT_EQ(both, read(second)) << "what is written last stays";
+        EXPECT_NE(both, read(first));
+    }
+}
+
 TEST_F(DataFolderTest, AFailureDoesNotKeepTheOtherFilesFromBeingWritten) {
     fs::create_directories(path / "usage.json");
     data.load();

@@ -23,6 +23,16 @@ TEST_F(LearnedRecordsTest, APinTellsWhose) {
     EXPECT_FALSE(told[0].concerns("org.example.sketch"));
 }
 
+TEST_F(LearnedRecordsTest, EveryUseTellsWhoseOnce) {
+    const Instant time = distantPast;
+    records.click("a", "x", time);
+    records.typed("a", "x");
+    records.nudged("a", "y", time);
+    EXPECT_EQ(records.usage().record("a", "x"), (UsageRecord{.clicked = 1, .typed = 1, .lastClicked = time}));
+    EXPECT_EQ(records.usage().record("a", "y"), UsageRecord{.lastNudged = time});
+    EXPECT_EQ(told, (std::vector<RecordChange>{{"a", "x"}, {"a", "x"}, {"a", "y"}}));
+}
+
 TEST_F(LearnedRecordsTest, ReplacingAllConcernsEveryApplication) {
     UsageBook usage;
     usage.typed("a", "x");

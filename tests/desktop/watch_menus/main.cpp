@@ -26,7 +26,10 @@ json asJson(const menu_use::Pointed& pointed) {
 json asJson(const menu_use::Told& told) {
     const MenuItemFacts& facts = told.facts;
     json result{
-        {"what", "told"}, {"item", told.item}, {"path", facts.path}, {"enabled", facts.enabled},
+        {"what", "told"},
+        {"item", told.item},
+        {"path", facts.path},
+        {"enabled", facts.enabled},
         {"keys", facts.shortcut ? json(facts.shortcut->display()) : json()}};
     if (facts.frame)
         result["frame"] = {facts.frame->x, facts.frame->y, facts.frame->width, facts.frame->height};

@@ -16,7 +16,8 @@ constexpr std::size_t longestChain = MenuParser::defaultMaxDepth + 1;
 
 std::optional<ObjectRef> GtkOpenMenuSearch::selectedChild(const ObjectRef& object) {
     std::optional<ObjectRef> selected;
-    m_calls.selectedChild(object, [&selected](std::optional<ObjectRef> child) { selected = std::move(child); });
+    m_calls.selectedChild(
+        object, [&selected](std::optional<ObjectRef> child) { selected = std::move(child); });
     m_calls.pipeline().run();
     return selected;
 }

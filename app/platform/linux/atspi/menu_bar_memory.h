@@ -19,8 +19,8 @@ struct KnownMenuBar {
     ToolkitFamily family = ToolkitFamily::other;
 };
 
-/// Remembers where the menu bars of windows were found: looking for one costs an application more than most of
-/// what is asked afterwards. Of any thread. What it gives may be gone meanwhile.
+/// Remembers where the menu bars of windows were found: looking for one costs an application more than most
+/// of what is asked afterwards. Of any thread. What it gives may be gone meanwhile.
 class MenuBarMemory {
   public:
     /// That of the application's best window.

@@ -28,8 +28,7 @@ Rect PixelMap::onDisplay(const Extents& extents) const {
 }
 
 Point PixelMap::inToolkit(Point place) const {
-    return {
-        ofToolkit.x + (place.x - ofDisplay.x) / scale, ofToolkit.y + (place.y - ofDisplay.y) / scale};
+    return {ofToolkit.x + (place.x - ofDisplay.x) / scale, ofToolkit.y + (place.y - ofDisplay.y) / scale};
 }
 
 std::optional<PixelMap> mapBetween(const Extents& menu, const Rect& window) {
@@ -39,8 +38,7 @@ std::optional<PixelMap> mapBetween(const Extents& menu, const Rect& window) {
     const bool isSane = scale >= smallestScale && scale <= largestScale;
     if (!isSane || std::abs(menu.height * scale - window.height) > roundingOf(scale))
         return std::nullopt;
-    return PixelMap{
-        scale, {static_cast<double>(menu.x), static_cast<double>(menu.y)}, {window.x, window.y}};
+    return PixelMap{scale, {static_cast<double>(menu.x), static_cast<double>(menu.y)}, {window.x, window.y}};
 }
 
 std::optional<Rect> gtkItemFrame(const Extents& item, const Rect& window, Point at) {

@@ -6,9 +6,9 @@
 
 #include <optional>
 
-/// Where things in an open menu are in the pixels of the display. Toolkits tell places in pixels of their own:
-/// GTK's are all of one size, Qt keeps the place where each screen begins and divides what is on it. So the
-/// only thing to measure by is the menu's window, which the display knows in its pixels.
+/// Where things in an open menu are in the pixels of the display. Toolkits tell places in pixels of their
+/// own: GTK's are all of one size, Qt keeps the place where each screen begins and divides what is on it. So
+/// the only thing to measure by is the menu's window, which the display knows in its pixels.
 namespace quillon::atspi {
 
 /// How a toolkit tells places within one window.

@@ -32,7 +32,8 @@ BusConnection connect(const ReadLimits& limits, const std::stop_token& stop) {
 /// What lasts from the first question about these menus to the last.
 class OpenMenus::Session {
   public:
-    Session(const RunningApp& app, MenuBarMemory& memory, const ReadLimits& limits, const std::stop_token& stop)
+    Session(
+        const RunningApp& app, MenuBarMemory& memory, const ReadLimits& limits, const std::stop_token& stop)
         : m_pipeline(connect(limits, stop), limits, CallPipeline::Clock::now() + longestSession, stop),
           m_calls(m_pipeline, limits) {
         auto menuBar = recalledMenuBar(app, memory);

@@ -17,8 +17,8 @@ class MenuBarMemory;
 /// What openings of menus that come after each other share.
 std::shared_ptr<MenuBarMemory> makeMenuBarMemory();
 
-/// The menus that one application has open now, asked over a connection of their own. The application is asked
-/// about the items that somebody wants to know of and no others. Of one thread at a time.
+/// The menus that one application has open now, asked over a connection of their own. The application is
+/// asked about the items that somebody wants to know of and no others. Of one thread at a time.
 class OpenMenus {
   public:
     /// Asks nothing yet. `memory` is never null.

@@ -13,8 +13,11 @@
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
 #include <quillon/app/platform/linux/x11/x11_keyboard.h>
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
+#include <quillon/app/platform/linux/x11/x11_typed_keys.h>
 #include <quillon/app/platform/qt/panels/plain_panel_windows.h>
 #include <quillon/app/ports/diagnostics/log.h>
+
+#include <QGuiApplication>
 
 namespace quillon {
 
@@ -70,6 +73,12 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
     m_keyboard = std::make_unique<X11Keyboard>(m_x11, m_input);
     m_menuUse = std::make_unique<LinuxMenuUse>(
         m_x11, m_input, LinuxMenuUse::Needs{*m_front, background, lookupInOpenMenus()});
+    m_typedKeys = std::make_unique<X11TypedKeys>(
+        X11TypedKeys::Needs{
+            .keyboard = *m_keyboard,
+            .background = background,
+            .hasOwnFocus = [] { return QGuiApplication::focusWindow() != nullptr; }},
+        m_input);
     m_activations = m_front->onActivated(logActivation);
 }
 
@@ -91,6 +100,12 @@ MenuUse& LinuxDesktop::menuUse() {
     if (m_menuUse)
         return *m_menuUse;
     return m_none.menuUse;
+}
+
+TypedKeys& LinuxDesktop::typedKeys() {
+    if (m_typedKeys)
+        return *m_typedKeys;
+    return m_none.typedKeys;
 }
 
 AppIcons& LinuxDesktop::icons() {

@@ -48,8 +48,7 @@ struct LinuxMenuUse::Browsing {
     bool isPressed = false;
 };
 
-LinuxMenuUse::LinuxMenuUse(
-    std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input, Needs needs)
+LinuxMenuUse::LinuxMenuUse(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input, Needs needs)
     : m_x11(std::move(x11)), m_input(std::move(input)), m_needs(std::move(needs)),
       m_self(std::make_shared<LinuxMenuUse*>(this)) {
     m_farewell.setSingleShot(true);

@@ -9,8 +9,8 @@
 
 namespace quillon {
 
-/// The items of open menus that are known so far, by where they are. A menu keeps its items where they are for
-/// as long as it is open, unless it scrolls: then `forget` it.
+/// The items of open menus that are known so far, by where they are. A menu keeps its items where they are
+/// for as long as it is open, unless it scrolls: then `forget` it.
 class PointedItems {
   public:
     struct Item {

@@ -233,8 +233,7 @@ void MenuPopups::track() {
 
 /// Raw events number the buttons as the device does, before they are swapped for the left hand.
 void MenuPopups::lookAtMapping() {
-    const auto mapping =
-        m_x11->reply<xcb_get_pointer_mapping_reply_t>(xcb_get_pointer_mapping(m_x11->xcb()));
+    const auto mapping = m_x11->reply<xcb_get_pointer_mapping_reply_t>(xcb_get_pointer_mapping(m_x11->xcb()));
     if (!mapping)
         return;
     const auto* map = xcb_get_pointer_mapping_map(mapping.get());

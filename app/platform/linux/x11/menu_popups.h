@@ -15,8 +15,8 @@
 
 namespace quillon {
 
-/// Is told what is done with the open menus of the front application, in the order in which the server did it.
-/// Places are in the pixels of the display.
+/// Is told what is done with the open menus of the front application, in the order in which the server did
+/// it. Places are in the pixels of the display.
 class MenuPopupsObserver {
   public:
     virtual ~MenuPopupsObserver() = default;
@@ -25,8 +25,8 @@ class MenuPopupsObserver {
     virtual void menusOpened(const RunningApp& app) = 0;
     /// A button went down.
     virtual void pointerPressed(Point at) = 0;
-    /// The pointer is there; told twenty times a second, whether it moves or not, for half a minute after each
-    /// press.
+    /// The pointer is there; told twenty times a second, whether it moves or not, for half a minute after
+    /// each press.
     virtual void pointerSeen(Point at) = 0;
     /// The left button was let go.
     virtual void leftButtonReleased(Point at) = 0;
@@ -92,8 +92,8 @@ class MenuPopups {
     std::vector<xcb_window_t> m_others; ///< came to the screen and are not the front application's so far
     std::uint64_t m_openings = 0;
     std::optional<Point> m_lastPlace; ///< since menus are open
-    std::uint32_t m_leftButton = 1; ///< the number that the device gives it
-    bool m_wasOpen = false;         ///< what the observer was told last
+    std::uint32_t m_leftButton = 1;   ///< the number that the device gives it
+    bool m_wasOpen = false;           ///< what the observer was told last
     bool m_frontChanged = false;
     QTimer m_attempt;  ///< runs while a press may still open a menu
     QTimer m_interest; ///< runs while somebody may still be choosing

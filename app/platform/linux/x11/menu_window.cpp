@@ -22,9 +22,8 @@ bool mayBeMenu(const X11Connection& x11, std::span<const xcb_atom_t> types) {
     constexpr std::array others{
         X11Name::netWmWindowTypeCombo, X11Name::netWmWindowTypeDnd, X11Name::netWmWindowTypeNotification,
         X11Name::netWmWindowTypeTooltip};
-    return std::ranges::none_of(others, [&](X11Name other) {
-        return std::ranges::find(types, x11.atom(other)) != types.end();
-    });
+    return std::ranges::none_of(
+        others, [&](X11Name other) { return std::ranges::find(types, x11.atom(other)) != types.end(); });
 }
 
 std::optional<BareWindow> bareWindow(X11Connection& x11, xcb_window_t window) {

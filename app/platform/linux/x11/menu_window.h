@@ -15,8 +15,9 @@ namespace quillon {
 /// What is known of a window that no window manager handles and that has just come to the screen.
 struct BareWindow {
     xcb_window_t window = XCB_NONE;
-    bool isMenu = false; ///< by its type; toolkits differ in what they call one, so all but what surely is none
-    Rect frame;          ///< in the pixels of the display
+    bool isMenu =
+        false;  ///< by its type; toolkits differ in what they call one, so all but what surely is none
+    Rect frame; ///< in the pixels of the display
     std::optional<std::int64_t> pid; ///< whose it is; absent when the server cannot tell
 };
 

@@ -8,8 +8,8 @@
 
 namespace quillon {
 
-/// A key or button that went down, or a button that was let go, whichever window had the focus or a grab. Says
-/// neither where nor with which modifiers: ask for them.
+/// A key or button that went down, or a button that was let go, whichever window had the focus or a grab.
+/// Says neither where nor with which modifiers: ask for them.
 struct RawPress {
     std::uint32_t detail = 0; ///< the X key code or the button's number, as the device counts them
     bool isRepeat = false;    ///< a held key that repeats
@@ -34,6 +34,7 @@ class RawInput {
 
     /// An empty handle where the server has no raw events.
     Subscription onKeyPress(Callback callback);
+    Subscription onKeyRelease(Callback callback);
     Subscription onButtonPress(Callback callback);
     Subscription onButtonRelease(Callback callback);
 
@@ -44,6 +45,7 @@ class RawInput {
 
     std::shared_ptr<Selection> m_selection;
     Event<const RawPress&> m_keyPress;
+    Event<const RawPress&> m_keyRelease;
     Event<const RawPress&> m_buttonPress;
     Event<const RawPress&> m_buttonRelease;
     std::uint8_t m_opcode = 0;

@@ -16,7 +16,7 @@ class OverlayPanelTest : public testing::Test {
     /// The overlay's panel; null before it was made.
     QWidget* panel() const {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (dynamic_cast<FloatingPanel*>(widget))
+            if (dynamic_cast<FloatingPanel*>(widget) && widget->findChild<OverlayView*>())
                 return widget;
         }
         return nullptr;
@@ -43,15 +43,15 @@ TEST_F(OverlayPanelTest, TheModelsOverlayIsShownInOnePanelThatIsKept) {
 TEST_F(OverlayPanelTest, AnOverlayThatWasPreparedIsTheOneThatIsShown) {
     desk.trust();
     desk.showSample();
-    desk.model.prepareOverlay();
+    desk.model.preparePanels();
     QWidget* prepared = panel();
     ASSERT_NE(prepared, nullptr);
     EXPECT_FALSE(prepared->isVisible());
-    EXPECT_EQ(desk.panelWindows.prepared().size(), 1U);
+    EXPECT_EQ(desk.panelWindows.prepared().size(), 2U);
     desk.model.showOverlay(Stickiness::held);
     EXPECT_EQ(panel(), prepared);
     EXPECT_TRUE(prepared->isVisible());
-    EXPECT_EQ(desk.panelWindows.prepared().size(), 1U);
+    EXPECT_EQ(desk.panelWindows.prepared().size(), 2U);
 }
 
 TEST_F(OverlayPanelTest, AStickyOverlayIsTypedIntoAndClosedByEscape) {

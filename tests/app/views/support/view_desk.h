@@ -1,11 +1,10 @@
 #pragma once
 
-#include <quillon/app/core/app_model.h>
-#include <quillon/app/platform/fake/fake_desktop.h>
 #include <quillon/app/platform/qt/panels/qt_panel_maker.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/panels/view_panel_host.h>
+#include <quillon/tests/app/core/support/model_services.h>
 #include <quillon/tests/app/platform/qt/panels/support/fake_panel_windows.h>
 
 #include <QTemporaryDir>
@@ -16,7 +15,7 @@ namespace quillon {
 /// The program's model and views over a desktop that is made up. Needs a QApplication.
 class ViewDesk {
   public:
-    static constexpr std::int64_t ownPid = 1;
+    static constexpr std::int64_t ownPid = ownPidOfModel;
 
     /// This program; while it is in front the model keeps the sheet that it is shown.
     static RunningApp ownApp() { return {ownPid, "app.quillon.Quillon", "Quillon", {}}; }
@@ -45,21 +44,7 @@ class ViewDesk {
                 .traits = {.input = PanelInput::passes},
                 .prepare = {}};
         }};
-    AppModel model{{
-        .frontApplication = desktop.front,
-        .menuReader = desktop.menus,
-        .accessibility = desktop.access,
-        .keyboard = desktop.keyboard,
-        .menuUse = desktop.menuUse,
-        .typedKeys = desktop.typedKeys,
-        .clock = desktop.clock,
-        .timers = desktop.timers,
-        .background = desktop.background,
-        .panels = host,
-        .windows = desktop.windows,
-        .settings = settings,
-        .ownPid = ownPid,
-    }};
+    AppModel model{servicesOf(desktop, host, settings)};
 
   private:
     PanelContent overlayContent();

@@ -36,15 +36,12 @@ TEST(MenuFramesTest, ADifferentlyShapedMenuIsAnother) {
 }
 
 TEST(MenuFramesTest, AGtkItemSpansItsMenu) {
-    EXPECT_EQ(
-        gtkItemFrame({190, 132, 313, 25}, {190, 132, 313, 431}, {346, 144}), (Rect{190, 132, 313, 25}));
-    EXPECT_EQ(
-        gtkItemFrame({204, 150, 295, 25}, {202, 147, 299, 586}, {210, 160}), (Rect{204, 150, 295, 25}));
+    EXPECT_EQ(gtkItemFrame({190, 132, 313, 25}, {190, 132, 313, 431}, {346, 144}), (Rect{190, 132, 313, 25}));
+    EXPECT_EQ(gtkItemFrame({204, 150, 295, 25}, {202, 147, 299, 586}, {210, 160}), (Rect{204, 150, 295, 25}));
 }
 
 TEST(MenuFramesTest, AGtkItemAtTwiceTheSize) {
-    EXPECT_EQ(
-        gtkItemFrame({50, 78, 313, 25}, {100, 156, 626, 862}, {300, 170}), (Rect{100, 156, 626, 50}));
+    EXPECT_EQ(gtkItemFrame({50, 78, 313, 25}, {100, 156, 626, 862}, {300, 170}), (Rect{100, 156, 626, 50}));
 }
 
 TEST(MenuFramesTest, WhatIsNotBelowThePlaceIsNotTheItem) {

@@ -25,7 +25,8 @@ RunningApp appOf(const FakeAppProcess& process) {
     return app;
 }
 
-/// A place in a menu of the fake application, which lays out its menus side by side, each item 20 pixels high.
+/// A place in a menu of the fake application, which lays out its menus side by side, each item 20 pixels
+/// high.
 MenuPlace place(std::size_t level, int item, int items, double scale = 1) {
     const double left = 10 + 200 * static_cast<double>(level);
     return {
@@ -151,8 +152,8 @@ TEST_P(OpenMenusTest, AHungApplicationIsGivenUpForGoodAndTheNextMenuAsksAgain) {
 }
 
 TEST_P(OpenMenusTest, OfAMenuWith500ItemsOnlyTheOneIsAsked) {
-    std::vector<std::string> arguments{"--items", "500", "--flat", "--toolkit", GetParam(), "--point-at",
-                                       "Menu of Fake", "--point-at", "Item 450"};
+    std::vector<std::string> arguments{"--items",    "500",          "--flat",     "--toolkit", GetParam(),
+                                       "--point-at", "Menu of Fake", "--point-at", "Item 450"};
     const FakeAppProcess process(arguments);
     const auto facts = itemAt(process, place(0, 449, 499));
     ASSERT_TRUE(facts);

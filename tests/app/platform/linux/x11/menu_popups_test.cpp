@@ -42,7 +42,9 @@ struct MenuPopupsTest : X11Fixture {
     }
     void TearDown() override { client->setPointerMapping({1, 2, 3}); }
 
-    static RunningApp appWith(xcb_window_t activeWindow) { return {1, "editor", "Editor", {{activeWindow, ""}}}; }
+    static RunningApp appWith(xcb_window_t activeWindow) {
+        return {1, "editor", "Editor", {{activeWindow, ""}}};
+    }
     xcb_window_t makeMenu(TestClient& owner, bool mapped = false, std::int16_t at = 100) {
         return owner.makeWindow({.overrideRedirect = true, .mapped = mapped, .x = at, .y = at, .size = 50});
     }

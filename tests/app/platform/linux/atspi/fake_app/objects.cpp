@@ -27,7 +27,8 @@ std::uint32_t roleNamed(const std::string& name) {
 
 std::uint64_t Object::stateBits() const {
     const auto bit = [](int number, bool isSet) { return std::uint64_t{isSet} << number; };
-    return bit(1, active) | bit(8, enabled) | bit(12, focused) | bit(24, sensitive) | bit(25, showing) | bit(30, visible);
+    return bit(1, active) | bit(8, enabled) | bit(12, focused) | bit(24, sensitive) | bit(25, showing)
+           | bit(30, visible);
 }
 
 std::optional<Objects> Objects::make(const Options& options) {
@@ -156,7 +157,8 @@ bool Objects::open(Object& menuBar, const std::vector<std::string>& names) {
             return false;
         (*item)->focused = true;
         menu->selectedChild = *item;
-        const bool isLayered = !(*item)->children.empty() && (*item)->children.front()->role == role::popupMenu;
+        const bool isLayered =
+            !(*item)->children.empty() && (*item)->children.front()->role == role::popupMenu;
         menu = isLayered ? (*item)->children.front() : *item;
         if (!menu->children.empty())
             layOut(*menu, static_cast<int>(level));

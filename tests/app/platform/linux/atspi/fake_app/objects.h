@@ -32,7 +32,7 @@ struct Object {
     bool active = false;
     bool focused = false;
     Object* selectedChild = nullptr; ///< as toolkits other than Qt tell it
-    bool isInMenus = false; ///< the menu bar and what is below
+    bool isInMenus = false;          ///< the menu bar and what is below
     std::vector<Object*> children;
 
     std::uint64_t stateBits() const;

@@ -21,7 +21,7 @@ struct Options {
     bool hasMenuBar = true;           ///< otherwise there is only a window without one
     /// The names of the menus that are open and of the item that is pointed at; empty while none is open.
     std::vector<std::string> pointedAt;
-    std::string log;                  ///< file that gets a line for each call: member, path, interface
+    std::string log; ///< file that gets a line for each call: member, path, interface
 
     // Misbehaviour. Calls are counted from the first one that reaches a menu.
     std::optional<std::size_t> stopAfter;   ///< stops the process (SIGSTOP) before answering so many calls

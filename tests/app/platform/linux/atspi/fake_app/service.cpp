@@ -150,7 +150,8 @@ int Service::answer(sd_bus_message* call, Object& object) {
         return sd_bus_reply_method_return(call, "(iiii)", object.x, object.y, object.width, object.height);
     if (interface == "org.a11y.atspi.Component" && member == "GetAccessibleAtPoint")
         return answerPoint(call, object);
-    if (interface == "org.a11y.atspi.Selection" && member == "GetSelectedChild" && m_objects.toolkit() != "Qt")
+    if (interface == "org.a11y.atspi.Selection" && member == "GetSelectedChild"
+        && m_objects.toolkit() != "Qt")
         return replyObject(call, object.selectedChild);
     if (interface == "org.a11y.atspi.Collection" && member == "GetMatches" && m_objects.toolkit() != "Qt")
         return answerMatches(call, object);
