@@ -174,7 +174,7 @@ void MenuPopups::consider(xcb_window_t window) {
         return;
     }
     std::erase(m_others, window);
-    m_popups.push_back({window, ++m_openings, bare->frame});
+    m_popups.push_back({window, ++m_openings, bare->frame, pointer().value_or(Point{})});
     if (std::exchange(m_wasOpen, true))
         return;
     lookAtMapping();

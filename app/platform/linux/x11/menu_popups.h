@@ -44,6 +44,7 @@ class MenuPopups {
         xcb_window_t window = XCB_NONE;
         std::uint64_t opening = 0; ///< another one whenever it opens, changes its place, or may have scrolled
         Rect frame;
+        Point openedFrom; ///< where the pointer was when it came to the screen
     };
 
     /// `front` and `observer` outlive it.
