@@ -5,7 +5,6 @@
 
 #include <optional>
 #include <system_error>
-#include <tuple>
 #include <utility>
 
 namespace quillon {
@@ -47,9 +46,16 @@ LearnedData DataFolder::load() {
 void DataFolder::save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets) {
     if (m_folder.empty())
         return;
+    // What fails is made up for by the next save.
     saveFile(LearnedFiles::usage, usage);
     saveFile(LearnedFiles::notes, annotations);
-    saveFile(LearnedFiles::menus, sheets);
+    if (m_sheetsChanged || !hasSheets())
+        m_sheetsChanged = !saveFile(LearnedFiles::menus, sheets);
+}
+
+bool DataFolder::hasSheets() const {
+    std::error_code error;
+    return !m_broken.contains(LearnedFiles::menus) && fs::exists(m_folder / LearnedFiles::menus, error);
 }
 
 void DataFolder::erase() {
@@ -58,6 +64,7 @@ void DataFolder::erase() {
     std::error_code ignored;
     fs::remove_all(m_folder, ignored);
     m_broken.clear();
+    m_sheetsChanged = true;
 }
 
 template <class Value>
@@ -72,12 +79,11 @@ Value DataFolder::loadFile(const char* name) {
 }
 
 template <class Value>
-void DataFolder::saveFile(const char* name, const Value& value) {
+bool DataFolder::saveFile(const char* name, const Value& value) {
     if (m_broken.contains(name) && !setAside(name))
-        return;
+        return false;
     m_broken.erase(name);
-    // A save that fails is made up for by the next.
-    std::ignore = JSONFile<Value>(m_folder / name).save(value);
+    return !JSONFile<Value>(m_folder / name).save(value);
 }
 
 // A link stays where it is, so that saving goes on to where it leads.

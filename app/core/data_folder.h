@@ -27,9 +27,12 @@ class DataFolder {
 
     /// What the files hold; nothing in place of one that is missing or cannot be made out.
     LearnedData load();
-    /// Writes all three files: usage, annotations, sheets. One that fails stays as it was and does not keep
-    /// the others from being written. A file that `load` could not make out is kept under another name,
-    /// "usage.json.broken" or with a number behind it.
+    /// The sheets are no longer those that were loaded or saved last.
+    void sheetsChanged() { m_sheetsChanged = true; }
+    /// Writes the three files in this order: usage, annotations, sheets. The sheets, which take most of the
+    /// time and change least, only where they changed or their file is missing. One that fails stays as it
+    /// was and does not keep the others from being written. A file that `load` could not make out is kept
+    /// under another name, "usage.json.broken" or with a number behind it.
     void save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets);
     /// Removes the folder with all that is in it.
     void erase();
@@ -38,11 +41,13 @@ class DataFolder {
     template <class Value>
     Value loadFile(const char* name);
     template <class Value>
-    void saveFile(const char* name, const Value& value);
+    bool saveFile(const char* name, const Value& value);
+    bool hasSheets() const;
     bool setAside(const std::string& name) const;
 
     std::filesystem::path m_folder;
     std::set<std::string> m_broken; ///< names of files that `load` could not make out and that still stand
+    bool m_sheetsChanged = false;
 };
 
 } // namespace quillon

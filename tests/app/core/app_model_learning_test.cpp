@@ -42,6 +42,29 @@ TEST_F(AppModelLearningTest, TheEndWritesWhatIsPendingAndOnlyThat) {
     EXPECT_FALSE(isStored());
 }
 
+TEST_F(AppModelLearningTest, SheetsAreWrittenOnlyWhenTheyAreOthers) {
+    const auto model = startedModel();
+    model->savePending();
+    write("menus.json", "{}");
+    model->togglePin(sketch.bundleID, save);
+    model->savePending();
+    EXPECT_EQ(read("menus.json"), "{}") << "there was nothing to write";
+    desktop.front.activate(sketch);
+    desktop.background.runAll();
+    model->savePending();
+    EXPECT_NE(read("menus.json"), "{}");
+}
+
+TEST_F(AppModelLearningTest, SheetsAreWrittenWhereTheirFileIsMissing) {
+    const auto model = startedModel();
+    model->savePending();
+    const std::string menus = read("menus.json");
+    fs::remove(data / "menus.json");
+    model->togglePin(sketch.bundleID, save);
+    model->savePending();
+    EXPECT_EQ(read("menus.json"), menus);
+}
+
 TEST_F(AppModelLearningTest, LoadingIsNoChangeToSave) {
     startedModel()->savePending();
     fs::remove(data / "usage.json");

@@ -280,6 +280,21 @@ TEST_F(MenuClickDetectorTest, AnItemOnTopThatIsNoCommandHidesTheOneBelow) {
     EXPECT_EQ(picks, Picks{});
 }
 
+TEST_F(MenuClickDetectorTest, AnItemBelowThatIsReturnedToOnTheReleaseHidesNothing) {
+    MenuItemFacts above = factsOf(3);
+    above.path = {"File", "Recent", "Notes"};
+    openAt(3);
+    notice(Pointed{7});
+    notice(Told{7, above});
+    pass(0.5);
+    notice(Released{on(3)});
+    pass(0.01);
+    pointAt(3);
+    notice(Closed{});
+    ASSERT_EQ(picks.size(), 1U);
+    EXPECT_EQ(picks[0].path, above.path);
+}
+
 TEST_F(MenuClickDetectorTest, WhatIsNoCommandWithAShortcutCountsNothing) {
     MenuItemFacts title = factsOf(3);
     title.path = {"File"};
