@@ -1,29 +1,15 @@
 #include "key_stroke.h"
 
+#include "key_code.h"
+
 #include <quillon/kit/base/hash.h>
 #include <quillon/kit/base/unicode.h>
 
-#include <array>
 #include <string_view>
 
 namespace quillon {
 
 namespace {
-
-/// What the keys give without modifiers on an ANSI keyboard, letters in upper case, by macOS virtual key code
-/// (`kVK_ANSI_…`); "" for a code that no such key has.
-constexpr std::array<std::string_view, 51> baseCharacters{
-    "A", "S", "D", "F", "H", "G", "Z", "X", "C",  "V", "",  "B", "Q", "W", "E", "R", "Y",
-    "T", "1", "2", "3", "4", "6", "5", "=", "9",  "7", "-", "8", "0", "]", "O", "U", "[",
-    "I", "P", "",  "L", "J", "'", "K", ";", "\\", ",", "/", "N", "M", ".", "",  "",  "`",
-};
-
-bool isOnBaseKey(std::int64_t keyCode, std::string_view character) {
-    if (keyCode < 0 || keyCode >= static_cast<std::int64_t>(baseCharacters.size()))
-        return false;
-    const std::string_view base = baseCharacters[static_cast<std::size_t>(keyCode)];
-    return !base.empty() && base == character;
-}
 
 /// The rule for character shortcuts, the other modifiers agreeing.
 bool matchesCharacter(const KeyStroke& stroke, std::string_view character, bool shiftWanted) {
@@ -35,7 +21,7 @@ bool matchesCharacter(const KeyStroke& stroke, std::string_view character, bool 
         return same && shiftHeld == shiftWanted;
     if (!shiftHeld)
         return same && !shiftWanted;
-    return same || (shiftWanted && isOnBaseKey(stroke.keyCode, character));
+    return same || (shiftWanted && KeyCodes::ofCharacter(character) == stroke.keyCode);
 }
 
 } // namespace

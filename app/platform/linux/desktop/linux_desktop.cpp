@@ -11,8 +11,11 @@
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
 #include <quillon/app/platform/linux/x11/x11_keyboard.h>
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
+#include <quillon/app/platform/linux/x11/x11_typed_keys.h>
 #include <quillon/app/platform/qt/panels/plain_panel_windows.h>
 #include <quillon/app/ports/diagnostics/log.h>
+
+#include <QGuiApplication>
 
 namespace quillon {
 
@@ -57,6 +60,12 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
         m_x11, m_identifier,
         [this](const std::string& bundleID, IconPixels icon) { m_icons->note(bundleID, std::move(icon)); });
     m_keyboard = std::make_unique<X11Keyboard>(m_x11, m_input);
+    m_typedKeys = std::make_unique<X11TypedKeys>(
+        X11TypedKeys::Needs{
+            .keyboard = *m_keyboard,
+            .background = background,
+            .hasOwnFocus = [] { return QGuiApplication::focusWindow() != nullptr; }},
+        m_input);
     m_activations = m_front->onActivated(logActivation);
 }
 
@@ -72,6 +81,12 @@ Keyboard& LinuxDesktop::keyboard() {
     if (m_keyboard)
         return *m_keyboard;
     return m_none.keyboard;
+}
+
+TypedKeys& LinuxDesktop::typedKeys() {
+    if (m_typedKeys)
+        return *m_typedKeys;
+    return m_none.typedKeys;
 }
 
 AppIcons& LinuxDesktop::icons() {

@@ -19,6 +19,8 @@ namespace quillon {
 class RawInput;
 class RootEventBrake;
 class X11Connection;
+class X11Keyboard;
+class X11TypedKeys;
 class XdgAppIcons;
 
 /// The ports of a Linux desktop. Where it lacks something, that port is the one of a desktop that offers
@@ -34,7 +36,7 @@ class LinuxDesktop final : public Desktop {
     AccessibilityAccess& accessibility() override { return *m_access; }
     Keyboard& keyboard() override;
     MenuUse& menuUse() override { return m_none.menuUse; }
-    TypedKeys& typedKeys() override { return m_none.typedKeys; }
+    TypedKeys& typedKeys() override;
     AppIcons& icons() override;
     Appearance& appearance() override { return *m_appearance; }
     PanelMaker& panels() override { return m_panels; }
@@ -53,7 +55,8 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<PanelWindows> m_panelWindows;
     QtPanelMaker m_panels;
     std::unique_ptr<FrontApplication> m_front;
-    std::unique_ptr<Keyboard> m_keyboard;
+    std::unique_ptr<X11Keyboard> m_keyboard;
+    std::unique_ptr<X11TypedKeys> m_typedKeys;
     Subscription m_activations;
 };
 

@@ -49,6 +49,15 @@ Modifiers ModifierTable::modifiers(std::uint32_t mask) const {
     return result;
 }
 
+std::uint32_t ModifierTable::choosers(std::uint32_t mask) const {
+    std::uint32_t result = 0;
+    for (std::size_t modifier = 0; modifier < size; ++modifier) {
+        if (modifier != lock && Modifiers::shift.contains(m_meaning[modifier]))
+            result |= mask & (1U << modifier);
+    }
+    return result;
+}
+
 bool isModifierSymbol(std::uint32_t symbol) {
     return (symbol >= XKB_KEY_Shift_L && symbol <= XKB_KEY_Hyper_R)
            || (symbol >= XKB_KEY_ISO_Lock && symbol <= XKB_KEY_ISO_Level5_Lock)

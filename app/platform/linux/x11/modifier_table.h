@@ -24,6 +24,10 @@ class ModifierTable {
     /// The modifiers that a state mask of the server stands for.
     Modifiers modifiers(std::uint32_t mask) const;
 
+    /// Those of a state mask that choose among the characters of a key: without the ones that stand for ⌃, ⌥
+    /// or ⌘, and without Caps Lock, which makes no other shortcut of a key.
+    std::uint32_t choosers(std::uint32_t mask) const;
+
     bool operator==(const ModifierTable&) const = default;
 
   private:

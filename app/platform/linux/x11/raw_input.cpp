@@ -60,6 +60,10 @@ Subscription RawInput::onKeyPress(Callback callback) {
     return listen(m_keyPress, XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS, std::move(callback));
 }
 
+Subscription RawInput::onKeyRelease(Callback callback) {
+    return listen(m_keyRelease, XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE, std::move(callback));
+}
+
 Subscription RawInput::onButtonPress(Callback callback) {
     return listen(m_buttonPress, XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS, std::move(callback));
 }
@@ -88,6 +92,8 @@ void RawInput::handle(const xcb_generic_event_t& event) {
     };
     if (generic.event_type == XCB_INPUT_RAW_KEY_PRESS)
         m_keyPress.emit(press());
+    else if (generic.event_type == XCB_INPUT_RAW_KEY_RELEASE)
+        m_keyRelease.emit(press());
     else if (generic.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
         m_buttonPress.emit(press());
 }

@@ -34,6 +34,7 @@ class RawInput {
 
     /// An empty handle where the server has no raw events.
     Subscription onKeyPress(Callback callback);
+    Subscription onKeyRelease(Callback callback);
     Subscription onButtonPress(Callback callback);
 
   private:
@@ -43,6 +44,7 @@ class RawInput {
 
     std::shared_ptr<Selection> m_selection;
     Event<const RawPress&> m_keyPress;
+    Event<const RawPress&> m_keyRelease;
     Event<const RawPress&> m_buttonPress;
     std::uint8_t m_opcode = 0;
     Subscription m_events;

@@ -96,7 +96,8 @@ void X11Keyboard::selectXkbEvents() {
     constexpr std::uint16_t mapParts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
     xcb_xkb_select_events_details_t details{};
     details.affectState = details.stateDetails =
-        XCB_XKB_STATE_PART_MODIFIER_BASE | XCB_XKB_STATE_PART_MODIFIER_LATCH;
+        XCB_XKB_STATE_PART_MODIFIER_BASE | XCB_XKB_STATE_PART_MODIFIER_LATCH
+        | XCB_XKB_STATE_PART_MODIFIER_LOCK | XCB_XKB_STATE_PART_GROUP_STATE;
     details.affectNewKeyboard = details.newKeyboardDetails =
         XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_GEOMETRY | XCB_XKB_NKN_DETAIL_DEVICE_ID;
     xcb_xkb_select_events_aux(
@@ -121,6 +122,8 @@ void X11Keyboard::askState() {
     const auto cookie = xcb_xkb_get_state(m_x11->xcb(), coreKeyboard);
     if (const auto state = m_x11->reply<xcb_xkb_get_state_reply_t>(cookie)) {
         m_mask = state->baseMods | state->latchedMods;
+        m_locked = state->lockedMods;
+        m_group = state->group;
         m_stateIsStale = false;
     }
 }
@@ -129,18 +132,25 @@ Modifiers X11Keyboard::modifiers() const {
     return m_map.modifiers.modifiers(m_mask);
 }
 
+KeyState X11Keyboard::keyState() const {
+    return {
+        .modifiers = modifiers(), .choosers = m_map.modifiers.choosers(m_mask | m_locked), .group = m_group};
+}
+
 void X11Keyboard::handle(const xcb_generic_event_t& event) {
     if (event.response_type != m_x11->extensions().xkbFirstEvent)
         return;
     const auto& state = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
     if (state.xkbType == XCB_XKB_STATE_NOTIFY)
-        stateChanged(state.baseMods | state.latchedMods);
+        stateChanged(state);
     else
-        m_mapIsStale = true;
+        m_mapIsStale = m_mapChangeIsUntold = true;
 }
 
-void X11Keyboard::stateChanged(std::uint32_t mask) {
-    m_mask = mask;
+void X11Keyboard::stateChanged(const xcb_xkb_state_notify_event_t& state) {
+    m_mask = state.baseMods | state.latchedMods;
+    m_locked = state.lockedMods;
+    m_group = state.group;
     m_stateIsStale = false;
     // What the keys stand for now is asked for once all events are told.
     if (!m_mapIsStale)
@@ -151,6 +161,8 @@ void X11Keyboard::drained() {
     askState();
     askMap();
     tell();
+    if (std::exchange(m_mapChangeIsUntold, false))
+        m_mapChanged.emit();
 }
 
 void X11Keyboard::tell() {

@@ -3,9 +3,12 @@
 #include "keyboard_map.h"
 #include "raw_input.h"
 
+#include <quillon/app/platform/linux/keys/keymap.h>
 #include <quillon/app/ports/keyboard.h>
 
 #include <memory>
+
+struct xcb_xkb_state_notify_event_t;
 
 namespace quillon {
 
@@ -25,13 +28,20 @@ class X11Keyboard final : public Keyboard {
     Subscription onModifiersChanged(std::function<void(Modifiers)> callback) override;
     std::unique_ptr<InputAges> observeInput() override;
 
+    /// What decides, beside the key, what is pressed now. As the server's events have told it.
+    KeyState keyState() const;
+    /// Called when what the keys give may have changed: another layout, another keyboard.
+    Subscription onMapChanged(std::function<void()> callback) {
+        return m_mapChanged.subscribe(std::move(callback));
+    }
+
   private:
     class LastInputs;
     class Ages;
 
     void selectXkbEvents();
     void handle(const xcb_generic_event_t& event);
-    void stateChanged(std::uint32_t mask);
+    void stateChanged(const xcb_xkb_state_notify_event_t& state);
     void drained();
     void askState();
     void askMap();
@@ -40,10 +50,14 @@ class X11Keyboard final : public Keyboard {
     std::shared_ptr<X11Connection> m_x11;
     std::shared_ptr<RawInput> m_input;
     Event<Modifiers> m_changed;
+    Event<> m_mapChanged;
     KeyboardMap m_map;
     bool m_mapIsStale = true;
+    bool m_mapChangeIsUntold = false;
     bool m_stateIsStale = true;
-    std::uint32_t m_mask = 0;
+    std::uint32_t m_mask = 0;   ///< what is down or latched
+    std::uint32_t m_locked = 0; ///< what is locked
+    std::uint32_t m_group = 0;  ///< the layout in effect
     Modifiers m_told;
     std::weak_ptr<LastInputs> m_lastInputs;
     Subscription m_events;

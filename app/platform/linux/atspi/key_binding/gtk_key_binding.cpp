@@ -1,5 +1,6 @@
 #include "key_equivalents.h"
 
+#include <quillon/app/platform/linux/keys/symbol_keys.h>
 #include <quillon/kit/base/ascii.h>
 #include <quillon/kit/shortcut/ax_of.h>
 
@@ -50,48 +51,6 @@ std::optional<Modifiers> modifierNamed(std::string_view name) {
     return std::nullopt;
 }
 
-/// By what is printed on the key; the number pad's navigation keys are those of the same meaning.
-std::optional<SpecialKey> specialKeyOf(xkb_keysym_t keysym) {
-    if (keysym >= XKB_KEY_F1 && keysym <= XKB_KEY_F19)
-        return static_cast<SpecialKey>(static_cast<xkb_keysym_t>(SpecialKey::f1) + keysym - XKB_KEY_F1);
-    if (keysym >= XKB_KEY_KP_F1 && keysym <= XKB_KEY_KP_F4)
-        return static_cast<SpecialKey>(static_cast<xkb_keysym_t>(SpecialKey::f1) + keysym - XKB_KEY_KP_F1);
-    switch (keysym) {
-    case XKB_KEY_Return: return SpecialKey::returnKey;
-    case XKB_KEY_ISO_Enter: return SpecialKey::enter;
-    case XKB_KEY_KP_Enter: return SpecialKey::enter;
-    case XKB_KEY_Tab: return SpecialKey::tab;
-    case XKB_KEY_KP_Tab: return SpecialKey::tab;
-    case XKB_KEY_ISO_Left_Tab: return SpecialKey::backTab;
-    case XKB_KEY_space: return SpecialKey::space;
-    case XKB_KEY_KP_Space: return SpecialKey::space;
-    case XKB_KEY_BackSpace: return SpecialKey::delete_;
-    case XKB_KEY_Delete: return SpecialKey::forwardDelete;
-    case XKB_KEY_KP_Delete: return SpecialKey::forwardDelete;
-    case XKB_KEY_Escape: return SpecialKey::escape;
-    case XKB_KEY_Clear: return SpecialKey::clear;
-    case XKB_KEY_Left: return SpecialKey::left;
-    case XKB_KEY_KP_Left: return SpecialKey::left;
-    case XKB_KEY_Right: return SpecialKey::right;
-    case XKB_KEY_KP_Right: return SpecialKey::right;
-    case XKB_KEY_Up: return SpecialKey::up;
-    case XKB_KEY_KP_Up: return SpecialKey::up;
-    case XKB_KEY_Down: return SpecialKey::down;
-    case XKB_KEY_KP_Down: return SpecialKey::down;
-    case XKB_KEY_Page_Up: return SpecialKey::pageUp;
-    case XKB_KEY_KP_Page_Up: return SpecialKey::pageUp;
-    case XKB_KEY_Page_Down: return SpecialKey::pageDown;
-    case XKB_KEY_KP_Page_Down: return SpecialKey::pageDown;
-    case XKB_KEY_Home: return SpecialKey::home;
-    case XKB_KEY_KP_Home: return SpecialKey::home;
-    case XKB_KEY_End: return SpecialKey::end;
-    case XKB_KEY_KP_End: return SpecialKey::end;
-    case XKB_KEY_Help: return SpecialKey::help;
-    case XKB_KEY_XF86Eject: return SpecialKey::eject;
-    default: return std::nullopt;
-    }
-}
-
 /// GDK's names are xkbcommon's but for two spellings: "U+20AC" for "U20AC", and media keys without "XF86".
 xkb_keysym_t keysymNamed(std::string_view name) {
     std::string spelled(name);
@@ -119,7 +78,7 @@ AxKeyEquivalent gtkKeyEquivalent(std::string_view text) {
         rest.remove_prefix(end + 1);
     }
     const xkb_keysym_t keysym = keysymNamed(rest);
-    if (const auto special = specialKeyOf(keysym))
+    if (const auto special = specialKeyOfSymbol(keysym))
         return axOf(*special, modifiers);
     return axOfCharacter(xkb_keysym_to_utf32(keysym), modifiers);
 }

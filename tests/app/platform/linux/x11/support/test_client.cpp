@@ -231,8 +231,41 @@ void TestClient::tap(std::uint8_t keyCode) {
 }
 
 void TestClient::changeSymbol(std::uint8_t keyCode, std::uint32_t symbol) {
-    xcb_change_keyboard_mapping(m_xcb.get(), 1, keyCode, 1, &symbol);
+    changeSymbols(keyCode, {symbol});
+}
+
+void TestClient::changeSymbols(std::uint8_t keyCode, const std::vector<std::uint32_t>& symbols) {
+    xcb_change_keyboard_mapping(
+        m_xcb.get(), 1, keyCode, static_cast<std::uint8_t>(symbols.size()), symbols.data());
     sync();
+}
+
+void TestClient::lockGroup(std::uint8_t group) {
+    xcb_xkb_latch_lock_state(m_xcb.get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
+    sync();
+}
+
+void TestClient::setRepeat(std::uint16_t delay, std::uint16_t interval) {
+    std::array<std::uint8_t, 32> allKeys{};
+    allKeys.fill(0xff);
+    constexpr std::uint32_t repeat = XCB_XKB_BOOL_CTRL_REPEAT_KEYS;
+    xcb_xkb_set_controls(
+        m_xcb.get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, repeat, repeat,
+        repeat | XCB_XKB_CONTROL_PER_KEY_REPEAT, delay, interval, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+        allKeys.data());
+    sync();
+}
+
+void TestClient::watchKeys(xcb_window_t window) {
+    const std::uint32_t mask = XCB_EVENT_MASK_KEY_PRESS;
+    xcb_change_window_attributes(m_xcb.get(), window, XCB_CW_EVENT_MASK, &mask);
+    sync();
+}
+
+int TestClient::keysSeen() {
+    while (const X11Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_xcb.get())})
+        m_keysSeen += event->response_type == XCB_KEY_PRESS ? 1 : 0;
+    return m_keysSeen;
 }
 
 void TestClient::ownSelection(std::string_view name, xcb_window_t owner) {

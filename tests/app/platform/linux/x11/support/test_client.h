@@ -69,6 +69,16 @@ class TestClient {
     void setStickyKeys(bool on);
     void tap(std::uint8_t keyCode);
     void changeSymbol(std::uint8_t keyCode, std::uint32_t symbol);
+    /// Two symbols, without and with Shift, for each layout.
+    void changeSymbols(std::uint8_t keyCode, const std::vector<std::uint32_t>& symbols);
+    /// Puts a layout in effect, counted from 0.
+    void lockGroup(std::uint8_t group);
+    /// Has held keys repeat: the first time after `delay` milliseconds, then every `interval`.
+    void setRepeat(std::uint16_t delay, std::uint16_t interval);
+    /// Has the server tell this client of the keys that are pressed in a window that has the focus.
+    void watchKeys(xcb_window_t window);
+    /// How many presses, repeated ones too, watched windows have got.
+    int keysSeen();
     void ownSelection(std::string_view name, xcb_window_t owner);
 
     /// Waits until the server has done everything so far.
@@ -82,6 +92,7 @@ class TestClient {
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_xcb;
     const xcb_screen_t* m_screen = nullptr;
+    int m_keysSeen = 0;
 };
 
 } // namespace quillon
