@@ -80,6 +80,15 @@ TEST_F(MenuClickDetectorTest, LeavesAReleaseAloneThatComesAfterTheClosing) {
     EXPECT_EQ(picks, Picks{});
 }
 
+TEST_F(MenuClickDetectorTest, MenusCloseOnce) {
+    openAt(3);
+    notice(Closed{});
+    pass(0.2);
+    notice(Closed{});
+    notice(Released{on(3)});
+    EXPECT_EQ(picks, Picks{});
+}
+
 TEST_F(MenuClickDetectorTest, EachReleaseIsAnsweredOnce) {
     openAt(3);
     notice(Released{on(3)});
