@@ -2,6 +2,7 @@
 
 #include "overlay_content.h"
 #include "showcase.h"
+#include "toast_content.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -23,12 +24,7 @@ Program::Program(Platform& platform)
       m_panels(
           m_desktop->panels(),
           [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); },
-          [] {
-              return PanelContent{
-                  .widget = std::make_shared<QWidget>(),
-                  .traits = {.input = PanelInput::passes},
-                  .prepare = {}};
-          }),
+          [this] { return toastContent(m_model, m_themes); }),
       m_windows(m_desktop->accessibility()), m_model({
                                                  .frontApplication = m_desktop->frontApplication(),
                                                  .menuReader = m_desktop->menuReader(),

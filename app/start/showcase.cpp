@@ -1,11 +1,10 @@
 #include "showcase.h"
 
 #include "overlay_content.h"
+#include "toast_content.h"
 
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/sample_records.h>
-
-#include <QWidget>
 
 namespace quillon {
 
@@ -15,12 +14,7 @@ Showcase::Showcase(
     : m_panels(
         panels,
         [this, &themes, &icons] { return overlayContent(m_model, themes, icons, OverlayMode::showcase); },
-        [] {
-            return PanelContent{
-                .widget = std::make_shared<QWidget>(),
-                .traits = {.input = PanelInput::passes},
-                .prepare = {}};
-        }),
+        [this, &themes] { return toastContent(m_model, themes); }),
       m_model({
           .frontApplication = m_none.front,
           .menuReader = m_none.menus,

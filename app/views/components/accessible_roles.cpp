@@ -49,6 +49,13 @@ class PanelAccessible : public QAccessibleWidget {
     }
 };
 
+class NoticeAccessible : public QAccessibleWidget {
+  public:
+    explicit NoticeAccessible(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Notification) {}
+
+    int childCount() const override { return 0; }
+};
+
 QAccessibleInterface* accessibleFor(const QString&, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
     const QVariant role = widget ? widget->property(roleProperty) : QVariant();
@@ -59,6 +66,7 @@ QAccessibleInterface* accessibleFor(const QString&, QObject* object) {
     case ReadAs::decoration: return new HiddenAccessible(widget);
     case ReadAs::group: return new GroupAccessible(widget);
     case ReadAs::panel: return new PanelAccessible(widget);
+    case ReadAs::notice: return new NoticeAccessible(widget);
     }
     Q_UNREACHABLE();
 }

@@ -116,6 +116,12 @@ void KeyCaps::drawInk(QPainter& painter, const QString& cap, QSize room, double 
         ink.image);
 }
 
+double KeyCaps::baseline(double ratio) const {
+    const QRectF capital = inkOf(QStringLiteral("H"), ratio).bounds;
+    return (middled(std::round(m_height * ratio), capital.top(), capital.bottom()) + capital.bottom())
+           / ratio;
+}
+
 const QPixmap& KeyCaps::capPixmap(const QString& cap, double ratio) const {
     if (ratio != m_pixmapRatio) {
         m_pixmaps.clear();

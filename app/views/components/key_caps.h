@@ -37,6 +37,9 @@ class KeyCaps {
     double height() const { return m_height; }
     /// From the top of a cap down to the line that its text stands on.
     double baseline() const { return m_baseline; }
+    /// The same as it is drawn for a screen with `ratio` device pixels each: between whole device pixels
+    /// where letters end in these.
+    double baseline(double ratio) const;
 
     void paint(QPainter& painter, QPointF topLeft, const Shortcut& shortcut) const;
 

@@ -8,4 +8,7 @@ namespace quillon {
 /// each of them covers whole pixels.
 QPixmap keyboardPicture(int size, double ratio);
 
+/// The same with a disc in its lower right corner that shows an ellipsis.
+QPixmap keyboardWithEllipsis(int size, double ratio);
+
 } // namespace quillon

@@ -23,6 +23,9 @@ class KeysView : public ThemedWidget {
     void setSize(double size);
 
     QSize sizeHint() const override;
+    /// From the top of the caps down to the line that their text stands on, in logical pixels; no whole
+    /// number where device pixels are smaller.
+    double baseline() const { return m_caps.baseline(devicePixelRatioF()); }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

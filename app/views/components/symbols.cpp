@@ -51,6 +51,7 @@ QString symbolName(Symbol symbol) {
     case Symbol::handRaised: return u"hand.raised"_s;
     case Symbol::hourglass: return u"hourglass"_s;
     case Symbol::keyboard: return u"keyboard"_s;
+    case Symbol::keyboardBadgeEllipsis: return u"keyboard.badge.ellipsis"_s;
     case Symbol::magnifyingGlass: return u"magnifyingglass"_s;
     case Symbol::menuBarRectangle: return u"menubar.rectangle"_s;
     case Symbol::pinFill: return u"pin.fill"_s;
@@ -68,6 +69,8 @@ QPixmap symbolPixmap(Symbol symbol, int size, const QColor& colour, double ratio
     return kept(key, [&] {
         if (symbol == Symbol::keyboard)
             return tinted(keyboardPicture(size, ratio), colour);
+        if (symbol == Symbol::keyboardBadgeEllipsis)
+            return tinted(keyboardWithEllipsis(size, ratio), colour);
         return tinted(rendered(u":/quillon/symbols/"_s + name + u".svg"_s, size, ratio), colour);
     });
 }

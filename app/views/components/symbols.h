@@ -11,6 +11,7 @@ enum class Symbol {
     handRaised,
     hourglass,
     keyboard,
+    keyboardBadgeEllipsis,
     magnifyingGlass,
     menuBarRectangle,
     pinFill,

@@ -60,8 +60,9 @@ void ThemedLabel::paintEvent(QPaintEvent* event) {
     }
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    const QRect rect = contentsRect();
-    painter.drawText(rect, static_cast<int>(alignment()) | Qt::TextSingleLine, shownText());
+    const int direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    painter.drawText(
+        contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine | direction, shownText());
 }
 
 bool ThemedLabel::event(QEvent* event) {

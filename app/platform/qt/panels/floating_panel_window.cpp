@@ -18,14 +18,21 @@ namespace {
 
 constexpr auto panelFlags = Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint
                             | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint;
+constexpr double invisible = 0;
+constexpr auto untouchable = Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus;
 
 /// Long enough for a window manager to give the keyboard to the window that was pressed on.
 constexpr std::chrono::milliseconds returnDelay{100};
 
+Qt::WindowFlags flagsFor(const PanelTraits& traits) {
+    return traits.input == PanelInput::passes ? panelFlags | untouchable : panelFlags;
+}
+
 } // namespace
 
 FloatingPanelWindow::FloatingPanelWindow(PanelContent content, PanelWindows& windows)
-    : QWidget(nullptr, panelFlags), m_windows(windows), m_content(std::move(content)) {
+    : QWidget(nullptr, flagsFor(content.traits)), m_windows(windows), m_content(std::move(content)),
+      m_fade(this, "windowOpacity", this) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -38,6 +45,11 @@ FloatingPanelWindow::FloatingPanelWindow(PanelContent content, PanelWindows& win
     m_return.setSingleShot(true);
     m_return.setInterval(returnDelay);
     m_return.callOnTimeout(this, [this] { returnKeyboard(); });
+    m_fade.setEasingCurve(QEasingCurve::InOutSine);
+    connect(&m_fade, &QPropertyAnimation::finished, this, [this] {
+        if (m_fade.endValue() == invisible)
+            orderOut();
+    });
     followCompositing();
 }
 
@@ -107,6 +119,35 @@ void FloatingPanelWindow::prepareWindow() {
 }
 
 void FloatingPanelWindow::orderFront() {
+    showAtOpacity(1);
+}
+
+void FloatingPanelWindow::fadeIn(Seconds time) {
+    if (!m_windows.isComposited()) {
+        orderFront();
+        return;
+    }
+    showAtOpacity(invisible);
+    fadeTo(1, time);
+}
+
+void FloatingPanelWindow::fadeOut(Seconds time) {
+    if (isVisible())
+        fadeTo(invisible, time);
+}
+
+/// Where windows are not blended nobody sees the opacity, only that the window goes at the end.
+void FloatingPanelWindow::fadeTo(double opacity, Seconds time) {
+    m_fade.stop();
+    m_fade.setStartValue(windowOpacity());
+    m_fade.setEndValue(opacity);
+    m_fade.setDuration(static_cast<int>(std::lround(time.count() * 1000)));
+    m_fade.start();
+}
+
+void FloatingPanelWindow::showAtOpacity(double opacity) {
+    m_fade.stop();
+    setWindowOpacity(opacity);
     prepareWindow();
     if (m_return.isActive())
         returnKeyboard();
@@ -131,6 +172,7 @@ void FloatingPanelWindow::takeKeyboard() {
 }
 
 void FloatingPanelWindow::orderOut() {
+    m_fade.stop();
     const bool hasResigned = std::exchange(m_keyboard, Keyboard::elsewhere) == Keyboard::elsewhere;
     m_presses.reset();
     if (m_owesKeyboard && hasResigned)

@@ -6,6 +6,7 @@
 #include <quillon/app/ports/floating_panel.h>
 #include <quillon/app/ports/panel_content.h>
 
+#include <QPropertyAnimation>
 #include <QTimer>
 #include <QWidget>
 
@@ -29,8 +30,8 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     void orderFront() override;
     void makeKey() override;
     void orderOut() override;
-    void fadeIn(Seconds) override { orderFront(); }
-    void fadeOut(Seconds) override { orderOut(); }
+    void fadeIn(Seconds time) override;
+    void fadeOut(Seconds time) override;
     bool isVisible() const override { return QWidget::isVisible(); }
 
   protected:
@@ -50,6 +51,8 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     };
 
     void prepareWindow();
+    void showAtOpacity(double opacity);
+    void fadeTo(double opacity, Seconds time);
     void followCompositing();
     void applyShape();
     WindowShape shape() const;
@@ -66,6 +69,7 @@ class FloatingPanelWindow : public QWidget, public FloatingPanel {
     Keyboard m_keyboard = Keyboard::elsewhere;
     bool m_owesKeyboard = false; ///< took it and has not given it back, even if it has lost it since
     QTimer m_return;
+    QPropertyAnimation m_fade; ///< of the window's opacity; runs only while it changes
     PanelShadow m_shadow;
     Subscription m_compositing;
     Subscription m_presses;

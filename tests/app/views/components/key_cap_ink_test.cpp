@@ -172,6 +172,10 @@ TEST_P(KeyCapInkTest, PictogramsAreAsLargeAsCapitals) {
     }
 }
 
+TEST_P(KeyCapInkTest, TheLineThatLettersStandOnIsTold) {
+    EXPECT_NEAR(caps.baseline(ratio()) * ratio(), character('H').ink().bottom(), 0.3);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Scales, KeyCapInkTest,
     testing::Combine(testing::Values(1.0, 1.25, 1.5, 2.0), testing::Values(9.0, 10.0, 11.0, 13.0)));

@@ -7,9 +7,9 @@
 namespace quillon {
 namespace {
 
-constexpr std::array allSymbols{Symbol::handRaised,      Symbol::hourglass,        Symbol::keyboard,
-                                Symbol::magnifyingGlass, Symbol::menuBarRectangle, Symbol::pinFill,
-                                Symbol::xmarkCircleFill};
+constexpr std::array allSymbols{
+    Symbol::handRaised,      Symbol::hourglass,        Symbol::keyboard, Symbol::keyboardBadgeEllipsis,
+    Symbol::magnifyingGlass, Symbol::menuBarRectangle, Symbol::pinFill,  Symbol::xmarkCircleFill};
 
 int drawnPixels(const QImage& image) {
     int count = 0;

@@ -48,5 +48,27 @@ TEST_F(ThemedLabelTest, ShortenedTextStaysInside) {
     }
 }
 
+/// The topmost drawn line among columns of a picture.
+int highestInk(const QImage& image, int from, int to) {
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = from; x < to; ++x) {
+            if (qAlpha(image.pixel(x, y)) > 127)
+                return y;
+        }
+    }
+    return image.height();
+}
+
+TEST_F(ThemedLabelTest, ShortenedTextFromRightToLeftEndsOnTheLeft) {
+    label.setText(u"העתקת העיצוב של הטקסט המסומן אל כל הפסקאות הבאות במסמך"_s);
+    label.resize(120, 30);
+    QImage image(120, 30, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    label.render(&image, {}, {}, QWidget::RenderFlags());
+    const int letters = highestInk(image, 40, 120);
+    EXPECT_EQ(highestInk(image, 112, 120), letters) << "it begins with letters on the right";
+    EXPECT_GT(highestInk(image, 0, 6), letters + 3) << "and ends with low dots";
+}
+
 } // namespace
 } // namespace quillon

@@ -11,6 +11,10 @@
 #include <QTextStream>
 #include <QWidget>
 
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
 namespace quillon {
 
 namespace {
@@ -19,14 +23,6 @@ using namespace Qt::StringLiterals;
 
 /// How much of a made-up desktop is seen around the panel.
 constexpr int margin = 24;
-
-QWidget* shownPanel() {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && dynamic_cast<FloatingPanel*>(widget))
-            return widget;
-    }
-    return nullptr;
-}
 
 QPixmap onDesktop(QWidget& panel, ColourScheme scheme) {
     const double ratio = panel.devicePixelRatioF();
@@ -45,23 +41,19 @@ QPixmap onDesktop(QWidget& panel, ColourScheme scheme) {
 bool draw(const Scene& scene, const Look& look, const QString& path) {
     ViewDesk desk;
     desk.desktop.appearance.set(look);
-    scene.prepare(desk);
-    desk.model.showOverlay(scene.stickiness);
-    desk.model.setQuery(utf8(scene.query));
-    QWidget* panel = shownPanel();
-    if (!panel)
-        return false;
-    if (scene.stickiness == Stickiness::sticky)
-        panel->activateWindow();
+    scene.show(desk);
     QApplication::processEvents();
-    return onDesktop(*panel, look.scheme).save(path);
+    QWidget* panel = shownPanel();
+    return panel && onDesktop(*panel, look.scheme).save(path);
 }
 
 int drawAll(const QString& folder, const QString& only, Look look) {
+    std::vector<Scene> scenes = overlayScenes();
+    std::ranges::move(toastScenes(), std::back_inserter(scenes));
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
         look.scheme = scheme;
         const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;
-        for (const Scene& scene : overlayScenes()) {
+        for (const Scene& scene : scenes) {
             if (!scene.name.contains(only))
                 continue;
             const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);

@@ -1,10 +1,23 @@
 #include "scenes.h"
 
+#include <quillon/app/views/components/text.h>
 #include <quillon/tests/app/views/support/many_entries.h>
+
+#include <QApplication>
+
+#include <utility>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+QWidget* shownPanel() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && dynamic_cast<FloatingPanel*>(widget))
+            return widget;
+    }
+    return nullptr;
+}
 
 namespace {
 
@@ -55,9 +68,30 @@ void longTexts(ViewDesk& desk) {
     desk.model.showSample(std::move(sheet), std::move(usage), std::move(said));
 }
 
+using Prepare = std::function<void(ViewDesk&)>;
+
+Scene overlay(QString name, Prepare prepare, Stickiness stickiness, QString query = {}) {
+    auto show = [prepare = std::move(prepare), stickiness, query = std::move(query)](ViewDesk& desk) {
+        prepare(desk);
+        desk.model.showOverlay(stickiness);
+        desk.model.setQuery(utf8(query));
+        if (stickiness == Stickiness::sticky)
+            QApplication::setActiveWindow(shownPanel());
+    };
+    return {std::move(name), std::move(show)};
+}
+
+Scene toast(QString name, std::string title, Shortcut shortcut) {
+    auto show = [entry = MenuEntry{{"File", std::move(title)}, std::move(shortcut), true}](ViewDesk& desk) {
+        desk.clickInMenu(entry);
+    };
+    return {std::move(name), std::move(show)};
+}
+
 } // namespace
 
 std::vector<Scene> overlayScenes() {
+    const auto nothing = [](ViewDesk&) {};
     const auto trusted = [](ViewDesk& desk) { desk.trust(); };
     const auto reading = [](ViewDesk& desk) {
         desk.trust();
@@ -72,17 +106,44 @@ std::vector<Scene> overlayScenes() {
         desk.show(sheetOfMany(300));
     };
     return {
-        {u"overlay-sample"_s, sample, Stickiness::held, {}},
-        {u"overlay-sample-kept"_s, sample, Stickiness::sticky, {}},
-        {u"overlay-query"_s, sample, Stickiness::sticky, u"shift cmd g"_s},
-        {u"overlay-query-words"_s, sample, Stickiness::sticky, u"copy"_s},
-        {u"overlay-no-match"_s, sample, Stickiness::sticky, u"xyz"_s},
-        {u"overlay-300"_s, many, Stickiness::held, {}},
-        {u"overlay-long-texts"_s, longTexts, Stickiness::sticky, {}},
-        {u"overlay-needs-accessibility"_s, [](ViewDesk&) {}, Stickiness::sticky, {}},
-        {u"overlay-no-app"_s, trusted, Stickiness::held, {}},
-        {u"overlay-reading"_s, reading, Stickiness::held, {}},
-        {u"overlay-no-shortcuts"_s, none, Stickiness::held, {}},
+        overlay(u"overlay-sample"_s, sample, Stickiness::held),
+        overlay(u"overlay-sample-kept"_s, sample, Stickiness::sticky),
+        overlay(u"overlay-query"_s, sample, Stickiness::sticky, u"shift cmd g"_s),
+        overlay(u"overlay-query-words"_s, sample, Stickiness::sticky, u"copy"_s),
+        overlay(u"overlay-no-match"_s, sample, Stickiness::sticky, u"xyz"_s),
+        overlay(u"overlay-300"_s, many, Stickiness::held),
+        overlay(u"overlay-long-texts"_s, longTexts, Stickiness::sticky),
+        overlay(u"overlay-needs-accessibility"_s, nothing, Stickiness::sticky),
+        overlay(u"overlay-no-app"_s, trusted, Stickiness::held),
+        overlay(u"overlay-reading"_s, reading, Stickiness::held),
+        overlay(u"overlay-no-shortcuts"_s, none, Stickiness::held),
+    };
+}
+
+std::vector<Scene> toastScenes() {
+    const auto control = Modifiers::control;
+    const auto shift = Modifiers::shift;
+    const auto option = Modifiers::option;
+    const auto all = Modifiers{control, option, shift, Modifiers::command};
+    return {
+        toast(u"toast-1"_s, "Save", {control, Key::character("S")}),
+        toast(u"toast-2"_s, "Save As…", {{control, shift}, Key::character("S")}),
+        toast(u"toast-3"_s, "Go to Symbol", {{control, option, shift}, Key::character("O")}),
+        toast(u"toast-4"_s, "Bring to Front", {all, Key::character("]")}),
+        toast(u"toast-none"_s, "Full Screen", {{}, Key::special(SpecialKey::f11)}),
+        toast(u"toast-wide"_s, "Emoji and Symbols", {all, Key::special(SpecialKey::space)}),
+        toast(
+            u"toast-long"_s, "Neues Dokument aus Vorlage erstellen und im gleichen Fenster öffnen…",
+            {{control, shift}, Key::character("N")}),
+        toast(
+            u"toast-long-wide"_s, "Reload Without Reading the Cache", {all, Key::special(SpecialKey::space)}),
+        toast(u"toast-right-to-left"_s, "שמירה בשם…", {{control, shift}, Key::character("S")}),
+        toast(
+            u"toast-right-to-left-long"_s, "העתקת העיצוב של הטקסט המסומן אל כל הפסקאות הבאות במסמך",
+            {control, Key::character("C")}),
+        toast(
+            u"toast-emoji"_s, "👩‍👩‍👧‍👦 Familie einfügen 🇩🇪",
+            {control, Key::character("J")}),
     };
 }
 

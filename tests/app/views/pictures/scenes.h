@@ -3,6 +3,7 @@
 #include <quillon/tests/app/views/support/view_desk.h>
 
 #include <QString>
+#include <QWidget>
 
 #include <functional>
 #include <vector>
@@ -12,11 +13,13 @@ namespace quillon {
 /// One picture: how to bring a desk into the state that it shows.
 struct Scene {
     QString name;
-    std::function<void(ViewDesk&)> prepare;
-    Stickiness stickiness = Stickiness::held;
-    QString query;
+    std::function<void(ViewDesk&)> show; ///< a panel
 };
 
+/// The panel on the screen; null when there is none.
+QWidget* shownPanel();
+
 std::vector<Scene> overlayScenes();
+std::vector<Scene> toastScenes();
 
 } // namespace quillon

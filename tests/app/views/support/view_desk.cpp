@@ -1,6 +1,7 @@
 #include "view_desk.h"
 
 #include <quillon/app/views/overlay/overlay_view.h>
+#include <quillon/app/views/toast/nudge_toast_view.h>
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/kit/records/sample_records.h>
 
@@ -28,6 +29,10 @@ void ViewDesk::beginReading(const std::string& appName) {
     model.frontAppChanged(app);
 }
 
+void ViewDesk::clickInMenu(const MenuEntry& entry) {
+    model.handlePick({2, "org.example.Sketchpad", "Sketchpad", {}}, entry.path, entry.shortcut);
+}
+
 PanelContent ViewDesk::overlayContent() {
     auto view = std::make_shared<OverlayView>(model, themes, icons, OverlayMode::live);
     auto prepare = [view = view.get()] { view->prepare(); };
@@ -35,6 +40,13 @@ PanelContent ViewDesk::overlayContent() {
         .widget = std::move(view),
         .traits = {.cornerRadius = OverlayView::cornerRadius},
         .prepare = std::move(prepare)};
+}
+
+PanelContent ViewDesk::toastContent() {
+    return {
+        .widget = std::make_shared<NudgeToastView>(model, themes),
+        .traits = {.cornerRadius = NudgeToastView::cornerRadius, .input = PanelInput::passes},
+        .prepare = {}};
 }
 
 } // namespace quillon

@@ -8,7 +8,6 @@
 #include <quillon/tests/app/platform/qt/panels/support/fake_panel_windows.h>
 
 #include <QTemporaryDir>
-#include <QWidget>
 
 namespace quillon {
 
@@ -29,6 +28,9 @@ class ViewDesk {
     /// Brings another application to the front whose menus are still being read.
     void beginReading(const std::string& appName);
 
+    /// The user clicks a command of the made-up application Sketchpad in its menu.
+    void clickInMenu(const MenuEntry& entry);
+
     FakeDesktop desktop;
     QTemporaryDir folder;
     Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
@@ -36,18 +38,12 @@ class ViewDesk {
     AppIconCache icons{desktop.icons};
     FakePanelWindows panelWindows;
     QtPanelMaker panels{panelWindows};
-    ViewPanelHost host{
-        panels, [this] { return overlayContent(); },
-        [] {
-            return PanelContent{
-                .widget = std::make_shared<QWidget>(),
-                .traits = {.input = PanelInput::passes},
-                .prepare = {}};
-        }};
+    ViewPanelHost host{panels, [this] { return overlayContent(); }, [this] { return toastContent(); }};
     AppModel model{servicesOf(desktop, host, settings)};
 
   private:
     PanelContent overlayContent();
+    PanelContent toastContent();
 };
 
 } // namespace quillon

@@ -8,14 +8,18 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPropertyAnimation>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <chrono>
 #include <memory>
 
 namespace quillon {
 namespace {
+
+using namespace std::chrono_literals;
 
 class FloatingPanelWindowTest : public testing::Test {
   protected:
@@ -75,6 +79,9 @@ TEST_F(FloatingPanelWindowTest, OneThatPassesInputIsNotThereForThePointer) {
     toast.setFrame({100, 80, 360, 92});
     toast.orderFront();
     EXPECT_EQ(desktop.shape(), WindowShape());
+    EXPECT_TRUE(toast.windowFlags() & Qt::WindowTransparentForInput);
+    EXPECT_TRUE(toast.windowFlags() & Qt::WindowDoesNotAcceptFocus);
+    EXPECT_FALSE(panel.windowFlags() & (Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus));
 }
 
 TEST_F(FloatingPanelWindowTest, OneWithoutAShadowIsNoLargerThanItsContent) {
@@ -265,6 +272,102 @@ TEST_F(FloatingPanelWindowTest, CanBeShownWithTheKeyboardAgain) {
     EXPECT_EQ(desktop.keyboardOwner(), window());
     desktop.pressElsewhere();
     EXPECT_EQ(resigns, 1);
+}
+
+struct FadingPanelTest : FloatingPanelWindowTest {
+    bool isFading() const { return fade().state() == QAbstractAnimation::Running; }
+    QPropertyAnimation& fade() const { return *panel.findChild<QPropertyAnimation*>(); }
+    /// So long after the fade began.
+    void at(std::chrono::milliseconds time) { fade().setCurrentTime(static_cast<int>(time.count())); }
+};
+
+TEST_F(FadingPanelTest, FadesInFromNothing) {
+    panel.fadeIn(Seconds(0.15));
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), 0);
+    at(75ms);
+    EXPECT_NEAR(panel.windowOpacity(), 0.5, 0.01);
+    EXPECT_TRUE(isFading());
+    at(150ms);
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), 1);
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_FALSE(isFading());
+}
+
+TEST_F(FadingPanelTest, FadesOutAndIsTakenAwayAtTheEnd) {
+    panel.orderFront();
+    panel.fadeOut(Seconds(0.4));
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), 1);
+    at(200ms);
+    EXPECT_NEAR(panel.windowOpacity(), 0.5, 0.01);
+    at(399ms);
+    EXPECT_TRUE(panel.isVisible());
+    at(400ms);
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(desktop.takenAway(), std::vector{window()});
+    EXPECT_FALSE(isFading());
+}
+
+TEST_F(FadingPanelTest, NothingFadesOutThatIsNotShown) {
+    panel.fadeOut(Seconds(0.4));
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_FALSE(isFading());
+}
+
+TEST_F(FadingPanelTest, ShownAgainWhileItFadesOutItBeginsFromNothing) {
+    panel.orderFront();
+    panel.fadeOut(Seconds(0.4));
+    at(100ms);
+    panel.fadeIn(Seconds(0.15));
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), 0);
+    at(150ms);
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), 1);
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_TRUE(desktop.takenAway().empty());
+}
+
+TEST_F(FadingPanelTest, FadesOutFromWhereItsFadingInHasCome) {
+    panel.fadeIn(Seconds(0.15));
+    at(75ms);
+    const double come = panel.windowOpacity();
+    panel.fadeOut(Seconds(0.4));
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), come);
+    at(400ms);
+    EXPECT_FALSE(panel.isVisible());
+}
+
+TEST_F(FadingPanelTest, IsOpaqueWhenItIsShownWithoutFading) {
+    panel.orderFront();
+    panel.fadeOut(Seconds(0.4));
+    at(200ms);
+    panel.orderFront();
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), 1);
+    EXPECT_FALSE(isFading());
+}
+
+TEST_F(FadingPanelTest, BeingTakenAwayEndsEveryFade) {
+    panel.fadeIn(Seconds(0.15));
+    panel.orderOut();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_FALSE(isFading());
+    panel.orderFront();
+    panel.fadeOut(Seconds(0.4));
+    panel.orderOut();
+    EXPECT_FALSE(isFading());
+    EXPECT_EQ(desktop.takenAway().size(), 2U);
+}
+
+TEST_F(FadingPanelTest, WithoutBlendingItIsOpaqueAtOnceAndGoesAtTheEnd) {
+    desktop.setComposited(false);
+    panel.fadeIn(Seconds(0.15));
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_DOUBLE_EQ(panel.windowOpacity(), 1);
+    EXPECT_FALSE(isFading());
+    panel.fadeOut(Seconds(0.4));
+    at(399ms);
+    EXPECT_TRUE(panel.isVisible());
+    at(400ms);
+    EXPECT_FALSE(panel.isVisible());
 }
 
 } // namespace
