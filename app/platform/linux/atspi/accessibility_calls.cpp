@@ -8,7 +8,11 @@ namespace {
 constexpr const char* actionInterface = "org.a11y.atspi.Action";
 constexpr const char* componentInterface = "org.a11y.atspi.Component";
 constexpr const char* applicationInterface = "org.a11y.atspi.Application";
+constexpr const char* selectionInterface = "org.a11y.atspi.Selection";
 constexpr const char* propertiesInterface = "org.freedesktop.DBus.Properties";
+
+/// Places are those of the screen, not of a window.
+constexpr std::uint32_t onScreen = 0;
 
 /// Hands over what `read` makes of an answer; absent without one.
 template <class T, class Read>
@@ -74,9 +78,27 @@ void AccessibilityCalls::states(const ObjectRef& object, Then<StateSet> then) {
 }
 
 void AccessibilityCalls::size(const ObjectRef& object, Then<Size> then) {
-    constexpr std::uint32_t onScreen = 0;
+    extents(object, [then = std::move(then)](std::optional<Extents> extents) {
+        then(extents ? std::optional(Size{extents->width, extents->height}) : std::nullopt);
+    });
+}
+
+void AccessibilityCalls::extents(const ObjectRef& object, Then<Extents> then) {
     m_pipeline.ask(
-        {object, componentInterface, "GetExtents", {onScreen}}, answerWith(std::move(then), readSize));
+        {object, componentInterface, "GetExtents", {onScreen}}, answerWith(std::move(then), readExtents));
+}
+
+void AccessibilityCalls::objectAt(
+    const ObjectRef& object, std::int32_t x, std::int32_t y, Then<ObjectRef> then) {
+    m_pipeline.ask(
+        {object, componentInterface, "GetAccessibleAtPoint", {x, y, onScreen}},
+        answerWith(std::move(then), readRealObject));
+}
+
+void AccessibilityCalls::selectedChild(const ObjectRef& object, Then<ObjectRef> then) {
+    m_pipeline.ask(
+        {object, selectionInterface, "GetSelectedChild", {std::int32_t{0}}},
+        answerWith(std::move(then), readRealObject));
 }
 
 void AccessibilityCalls::children(const ObjectRef& object, Then<std::vector<ObjectRef>> then) {

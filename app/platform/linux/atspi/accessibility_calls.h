@@ -40,6 +40,11 @@ class AccessibilityCalls {
     void role(const ObjectRef& object, Then<Role> then);
     void states(const ObjectRef& object, Then<StateSet> then);
     void size(const ObjectRef& object, Then<Size> then);
+    void extents(const ObjectRef& object, Then<Extents> then);
+    /// The object directly below `object` that is at a place on the screen, in the pixels of its toolkit.
+    void objectAt(const ObjectRef& object, std::int32_t x, std::int32_t y, Then<ObjectRef> then);
+    /// The first of those children that are selected. Many objects cannot tell.
+    void selectedChild(const ObjectRef& object, Then<ObjectRef> then);
     /// The children in order, without those that are no objects; at most one more than `itemsAtMost`.
     void children(const ObjectRef& object, Then<std::vector<ObjectRef>> then);
     /// The objects at any depth below an object that fulfil a condition, in no order to be relied on; at most

@@ -1,13 +1,12 @@
 #include "atspi_menu_reader.h"
 
 #include "accessibility_bus.h"
+#include "app_windows.h"
 #include "application_search.h"
 #include "menu_bar_search.h"
 #include "menu_outline.h"
 #include "menu_walk.h"
-#include "window_search.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -27,7 +26,7 @@ class Reading {
         const auto applications = applicationsOnBus(m_calls);
         if (!applications)
             return {{}, ReadOutcome::unavailable};
-        const auto windows = windowsOfApp(*applications, app);
+        const auto windows = windowsOfApp(m_calls, *applications, app);
         if (!windows)
             return {{}, ended(ReadOutcome::noSuchApp)};
         for (const BusWindow& window : *windows)
@@ -40,35 +39,6 @@ class Reading {
     /// `outcome`, unless not everything was answered.
     ReadOutcome ended(ReadOutcome outcome) const {
         return m_pipeline.missedAnswers() ? ReadOutcome::partial : outcome;
-    }
-
-    /// The application's windows, best first; absent when it is not on the bus.
-    std::optional<std::vector<BusWindow>>
-    windowsOfApp(const std::vector<BusApplication>& applications, const RunningApp& app) {
-        const auto isMeant = [&app](const BusApplication& one) { return app.pid > 0 && one.pid == app.pid; };
-        const auto isProxied = [](const BusApplication& one) { return isSandboxProxy(one.pid); };
-        std::vector<BusWindow> windows;
-        if (std::ranges::any_of(applications, isMeant)) {
-            windows = windowsOf(m_calls, rootsOf(applications, isMeant));
-        } else {
-            windows = windowsOf(m_calls, rootsOf(applications, isProxied));
-            std::erase_if(
-                windows, [&app](const BusWindow& window) { return !isWanted(window, app.windows); });
-            if (windows.empty())
-                return std::nullopt;
-        }
-        sortBestFirst(windows, app.windows);
-        return windows;
-    }
-
-    template <class Condition>
-    static std::vector<ObjectRef>
-    rootsOf(const std::vector<BusApplication>& applications, Condition condition) {
-        std::vector<ObjectRef> roots;
-        for (const BusApplication& application : applications)
-            if (condition(application))
-                roots.push_back(application.root);
-        return roots;
     }
 
     MenuReading readItems(const ObjectRef& menuBar, ToolkitFamily family) {

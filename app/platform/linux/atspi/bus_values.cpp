@@ -51,13 +51,11 @@ std::optional<bool> readVariantFlag(sd_bus_message* message) {
     return flag != 0;
 }
 
-std::optional<Size> readSize(sd_bus_message* message) {
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    Size size;
-    if (sd_bus_message_read(message, "(iiii)", &x, &y, &size.width, &size.height) <= 0)
+std::optional<Extents> readExtents(sd_bus_message* message) {
+    Extents extents;
+    if (sd_bus_message_read(message, "(iiii)", &extents.x, &extents.y, &extents.width, &extents.height) <= 0)
         return std::nullopt;
-    return size;
+    return extents;
 }
 
 std::optional<ObjectRef> readObject(sd_bus_message* message) {
@@ -66,6 +64,11 @@ std::optional<ObjectRef> readObject(sd_bus_message* message) {
     if (sd_bus_message_read(message, "(so)", &busName, &path) <= 0)
         return std::nullopt;
     return ObjectRef{busName, path};
+}
+
+std::optional<ObjectRef> readRealObject(sd_bus_message* message) {
+    auto object = readObject(message);
+    return object && !standsForNone(*object) ? std::move(object) : std::nullopt;
 }
 
 std::optional<std::vector<ObjectRef>> readObjects(sd_bus_message* message, std::size_t limit) {

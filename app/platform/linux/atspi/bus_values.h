@@ -20,10 +20,12 @@ std::optional<std::string> readText(sd_bus_message* message, std::size_t limit);
 std::optional<std::string> readVariantText(sd_bus_message* message, std::size_t limit);
 std::optional<std::uint32_t> readNumber(sd_bus_message* message);
 std::optional<bool> readVariantFlag(sd_bus_message* message);
-/// Width and height of a rectangle, "(iiii)".
-std::optional<Size> readSize(sd_bus_message* message);
-/// An object, "(so)".
+/// A rectangle, "(iiii)".
+std::optional<Extents> readExtents(sd_bus_message* message);
+/// An object, "(so)". May be one that stands for none.
 std::optional<ObjectRef> readObject(sd_bus_message* message);
+/// An object; absent also for one that stands for none.
+std::optional<ObjectRef> readRealObject(sd_bus_message* message);
 /// An array of objects, "a(so)", without those that stand for none; at most `limit` of them.
 std::optional<std::vector<ObjectRef>> readObjects(sd_bus_message* message, std::size_t limit);
 /// The words of a state set, "au".

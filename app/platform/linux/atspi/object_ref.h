@@ -36,7 +36,14 @@ enum class Role : std::uint32_t {
 };
 
 /// The states that matter here (`AtspiStateType`), by bit.
-enum class State : unsigned { active = 1, enabled = 8, sensitive = 24, showing = 25, visible = 30 };
+enum class State : unsigned {
+    active = 1,
+    enabled = 8,
+    focused = 12,
+    sensitive = 24,
+    showing = 25,
+    visible = 30,
+};
 
 /// The states of an object, as the two words of `GetState` joined.
 struct StateSet {
@@ -55,6 +62,15 @@ struct Size {
 
     /// Whether it takes no room on the screen.
     bool isEmpty() const { return width <= 0 || height <= 0; }
+};
+
+/// Where an object is on the screen, in the pixels of its toolkit. One that is not there tells numbers that
+/// mean nothing.
+struct Extents {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
 };
 
 } // namespace quillon::atspi

@@ -1,9 +1,11 @@
 #include "linux_desktop.h"
 
+#include "linux_menu_use.h"
 #include "logged_app.h"
 
 #include <quillon/app/platform/linux/access/accessibility_bus_access.h>
 #include <quillon/app/platform/linux/applications/xdg_app_icons.h>
+#include <quillon/app/platform/linux/atspi/open_menus.h>
 #include <quillon/app/platform/linux/look/xdg_appearance.h>
 #include <quillon/app/platform/linux/x11/raw_input.h>
 #include <quillon/app/platform/linux/x11/root_event_brake.h>
@@ -42,6 +44,15 @@ panelWindows(const std::shared_ptr<X11Connection>& x11, const std::shared_ptr<Ra
     return std::make_unique<X11PanelWindows>(x11, input);
 }
 
+LinuxMenuUse::MakeLookup lookupInOpenMenus() {
+    return [memory = atspi::makeMenuBarMemory()](const RunningApp& app) {
+        auto menus = std::make_shared<atspi::OpenMenus>(app, memory);
+        return [menus = std::move(menus)](const atspi::MenuPlace& place, const std::stop_token& stop) {
+            return menus->itemAt(place, stop);
+        };
+    };
+}
+
 } // namespace
 
 LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock)
@@ -60,6 +71,8 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
         m_x11, m_identifier,
         [this](const std::string& bundleID, IconPixels icon) { m_icons->note(bundleID, std::move(icon)); });
     m_keyboard = std::make_unique<X11Keyboard>(m_x11, m_input);
+    m_menuUse = std::make_unique<LinuxMenuUse>(
+        m_x11, m_input, LinuxMenuUse::Needs{*m_front, background, lookupInOpenMenus()});
     m_typedKeys = std::make_unique<X11TypedKeys>(
         X11TypedKeys::Needs{
             .keyboard = *m_keyboard,
@@ -81,6 +94,12 @@ Keyboard& LinuxDesktop::keyboard() {
     if (m_keyboard)
         return *m_keyboard;
     return m_none.keyboard;
+}
+
+MenuUse& LinuxDesktop::menuUse() {
+    if (m_menuUse)
+        return *m_menuUse;
+    return m_none.menuUse;
 }
 
 TypedKeys& LinuxDesktop::typedKeys() {

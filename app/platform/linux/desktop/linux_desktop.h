@@ -35,7 +35,7 @@ class LinuxDesktop final : public Desktop {
     MenuReader& menuReader() override { return m_menuReader; }
     AccessibilityAccess& accessibility() override { return *m_access; }
     Keyboard& keyboard() override;
-    MenuUse& menuUse() override { return m_none.menuUse; }
+    MenuUse& menuUse() override;
     TypedKeys& typedKeys() override;
     AppIcons& icons() override;
     Appearance& appearance() override { return *m_appearance; }
@@ -57,6 +57,7 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<FrontApplication> m_front;
     std::unique_ptr<X11Keyboard> m_keyboard;
     std::unique_ptr<X11TypedKeys> m_typedKeys;
+    std::unique_ptr<MenuUse> m_menuUse;
     Subscription m_activations;
 };
 

@@ -68,6 +68,10 @@ Subscription RawInput::onButtonPress(Callback callback) {
     return listen(m_buttonPress, XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS, std::move(callback));
 }
 
+Subscription RawInput::onButtonRelease(Callback callback) {
+    return listen(m_buttonRelease, XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE, std::move(callback));
+}
+
 Subscription RawInput::listen(Event<const RawPress&>& event, std::uint32_t mask, Callback callback) {
     if (!m_events)
         return {};
@@ -96,6 +100,8 @@ void RawInput::handle(const xcb_generic_event_t& event) {
         m_keyRelease.emit(press());
     else if (generic.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
         m_buttonPress.emit(press());
+    else if (generic.event_type == XCB_INPUT_RAW_BUTTON_RELEASE)
+        m_buttonRelease.emit(press());
 }
 
 } // namespace quillon

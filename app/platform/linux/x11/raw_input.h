@@ -8,10 +8,10 @@
 
 namespace quillon {
 
-/// A key or button that went down, whichever window had the focus or a grab. Says neither where nor with
-/// which modifiers: ask for them.
+/// A key or button that went down, or a button that was let go, whichever window had the focus or a grab.
+/// Says neither where nor with which modifiers: ask for them.
 struct RawPress {
-    std::uint32_t detail = 0; ///< the X key code or the button's number
+    std::uint32_t detail = 0; ///< the X key code or the button's number, as the device counts them
     bool isRepeat = false;    ///< a held key that repeats
     xcb_timestamp_t time = 0; ///< of the server
 };
@@ -36,6 +36,7 @@ class RawInput {
     Subscription onKeyPress(Callback callback);
     Subscription onKeyRelease(Callback callback);
     Subscription onButtonPress(Callback callback);
+    Subscription onButtonRelease(Callback callback);
 
   private:
     class Selection;
@@ -46,6 +47,7 @@ class RawInput {
     Event<const RawPress&> m_keyPress;
     Event<const RawPress&> m_keyRelease;
     Event<const RawPress&> m_buttonPress;
+    Event<const RawPress&> m_buttonRelease;
     std::uint8_t m_opcode = 0;
     Subscription m_events;
 };

@@ -28,12 +28,15 @@ enum class X11Name {
     netWmStrutPartial,
     netWmUserTime,
     netWmWindowType,
+    netWmWindowTypeCombo,
+    netWmWindowTypeDnd,
     netWmWindowTypeNotification,
+    netWmWindowTypeTooltip,
     netWorkArea,
     utf8String,
 };
 
-inline constexpr std::array<std::string_view, 23> x11Names{
+inline constexpr std::array<std::string_view, 26> x11Names{
     "_GTK_APPLICATION_ID",
     "_GTK_WORKAREAS_D0",
     "_NET_ACTIVE_WINDOW",
@@ -54,7 +57,10 @@ inline constexpr std::array<std::string_view, 23> x11Names{
     "_NET_WM_STRUT_PARTIAL",
     "_NET_WM_USER_TIME",
     "_NET_WM_WINDOW_TYPE",
+    "_NET_WM_WINDOW_TYPE_COMBO",
+    "_NET_WM_WINDOW_TYPE_DND",
     "_NET_WM_WINDOW_TYPE_NOTIFICATION",
+    "_NET_WM_WINDOW_TYPE_TOOLTIP",
     "_NET_WORKAREA",
     "UTF8_STRING",
 };

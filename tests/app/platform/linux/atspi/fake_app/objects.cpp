@@ -27,7 +27,8 @@ std::uint32_t roleNamed(const std::string& name) {
 
 std::uint64_t Object::stateBits() const {
     const auto bit = [](int number, bool isSet) { return std::uint64_t{isSet} << number; };
-    return bit(1, active) | bit(8, enabled) | bit(24, sensitive) | bit(25, showing) | bit(30, visible);
+    return bit(1, active) | bit(8, enabled) | bit(12, focused) | bit(24, sensitive) | bit(25, showing)
+           | bit(30, visible);
 }
 
 std::optional<Objects> Objects::make(const Options& options) {
@@ -50,6 +51,8 @@ std::optional<Objects> Objects::make(const Options& options) {
         else if (!objects.addRecording(menuBar, options.recording))
             return std::nullopt;
         objects.spoil(menuBar, options);
+        if (!options.pointedAt.empty() && !objects.open(menuBar, options.pointedAt))
+            return std::nullopt;
     }
     objects.root().children.back()->active = true;
     return objects;
@@ -115,16 +118,21 @@ bool Objects::addRecording(Object& menuBar, const std::string& file) {
 void Objects::addMadeUp(Object& menuBar, const std::string& window, const Options& options) {
     constexpr std::size_t itemsOfMenu = 200;
     constexpr std::size_t itemsOfSubmenu = 10;
+    // Qt puts a layer between an item and its submenu; readers of whole menus need it less than who points.
+    const bool isLayered = options.toolkit == "Qt" && !options.pointedAt.empty();
+    const auto holder = [this, isLayered](Object& titled) {
+        return isLayered ? &add(&titled, role::popupMenu, "") : &titled;
+    };
     Object* menu = nullptr;
     Object* submenu = nullptr;
     for (std::size_t made = 0; made < options.items; ++made) {
         const std::size_t place = options.isFlat ? made : made % itemsOfMenu;
         if (place == 0) {
-            menu =
-                &add(&menuBar, role::menu, made == 0 ? "Menu of " + window : "Menu " + std::to_string(made));
+            menu = holder(
+                add(&menuBar, role::menu, made == 0 ? "Menu of " + window : "Menu " + std::to_string(made)));
             submenu = nullptr;
         } else if (!options.isFlat && place % itemsOfSubmenu == 0) {
-            submenu = &add(menu, role::menu, "Submenu " + std::to_string(made));
+            submenu = holder(add(menu, role::menu, "Submenu " + std::to_string(made)));
         } else {
             addItem(submenu ? *submenu : *menu, made);
         }
@@ -138,6 +146,43 @@ void Objects::addItem(Object& menu, std::size_t number) {
     item.keyBinding = "i;<Alt>m:i;";
     if (number % 2 == 1)
         item.keyBinding += "<Primary><Shift>" + std::string(1, static_cast<char>('a' + number % 26));
+}
+
+/// Opens the menus that these names lead through and points at the last one's item.
+bool Objects::open(Object& menuBar, const std::vector<std::string>& names) {
+    Object* menu = &menuBar;
+    for (std::size_t level = 0; level < names.size(); ++level) {
+        const auto item = std::ranges::find(menu->children, names[level], &Object::name);
+        if (item == menu->children.end())
+            return false;
+        (*item)->focused = true;
+        menu->selectedChild = *item;
+        const bool isLayered =
+            !(*item)->children.empty() && (*item)->children.front()->role == role::popupMenu;
+        menu = isLayered ? (*item)->children.front() : *item;
+        if (!menu->children.empty())
+            layOut(*menu, static_cast<int>(level));
+    }
+    return true;
+}
+
+/// Puts an open menu's items on the screen, one below the other, and its layer around them.
+void Objects::layOut(Object& menu, int level) {
+    int top = 20;
+    for (Object* item : menu.children) {
+        item->x = 10 + 200 * level;
+        item->y = top;
+        item->width = 200;
+        item->height = 20;
+        item->showing = true;
+        top += 20;
+    }
+    if (menu.role != role::popupMenu)
+        return;
+    menu.x = 10 + 200 * level;
+    menu.y = 20;
+    menu.width = 200;
+    menu.height = top - 20;
 }
 
 void Objects::spoil(Object& menuBar, const Options& options) {

@@ -25,10 +25,14 @@ struct Object {
     bool sensitive = true;
     bool showing = false;
     bool visible = true;
-    std::int32_t width = 1; ///< on the screen
+    std::int32_t x = 0; ///< on the screen
+    std::int32_t y = 0;
+    std::int32_t width = 1;
     std::int32_t height = 1;
     bool active = false;
-    bool isInMenus = false; ///< the menu bar and what is below
+    bool focused = false;
+    Object* selectedChild = nullptr; ///< as toolkits other than Qt tell it
+    bool isInMenus = false;          ///< the menu bar and what is below
     std::vector<Object*> children;
 
     std::uint64_t stateBits() const;
@@ -53,6 +57,8 @@ class Objects {
     bool addRecording(Object& menuBar, const std::string& file);
     void addMadeUp(Object& menuBar, const std::string& window, const Options& options);
     void addItem(Object& menu, std::size_t number);
+    bool open(Object& menuBar, const std::vector<std::string>& names);
+    void layOut(Object& menu, int level);
     void spoil(Object& menuBar, const Options& options);
 
     std::deque<Object> m_all;

@@ -22,6 +22,7 @@ const std::map<std::string_view, Setter> valued{
     {"--name", [](Options& o, const char* v) { o.name = v; }},
     {"--window", [](Options& o, const char* v) { o.windows.emplace_back(v); }},
     {"--dialog", [](Options& o, const char* v) { o.dialogs.emplace_back(v); }},
+    {"--point-at", [](Options& o, const char* v) { o.pointedAt.emplace_back(v); }},
     {"--log", [](Options& o, const char* v) { o.log = v; }},
     {"--stop-after", [](Options& o, const char* v) { o.stopAfter = number(v); }},
     {"--exit-after", [](Options& o, const char* v) { o.exitAfter = number(v); }},

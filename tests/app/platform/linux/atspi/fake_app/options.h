@@ -19,7 +19,9 @@ struct Options {
     std::vector<std::string> dialogs; ///< titles of windows without a menu bar, which come first
     bool hasImaginedBar = false;      ///< a window has a second menu bar, without room on the screen
     bool hasMenuBar = true;           ///< otherwise there is only a window without one
-    std::string log;                  ///< file that gets a line for each call: member, path, interface
+    /// The names of the menus that are open and of the item that is pointed at; empty while none is open.
+    std::vector<std::string> pointedAt;
+    std::string log; ///< file that gets a line for each call: member, path, interface
 
     // Misbehaviour. Calls are counted from the first one that reaches a menu.
     std::optional<std::size_t> stopAfter;   ///< stops the process (SIGSTOP) before answering so many calls

@@ -147,7 +147,12 @@ int Service::answer(sd_bus_message* call, Object& object) {
     if (interface == "org.a11y.atspi.Action" && member == "GetKeyBinding" && object.isInMenus)
         return replyText(call, object.keyBinding);
     if (interface == "org.a11y.atspi.Component" && member == "GetExtents")
-        return sd_bus_reply_method_return(call, "(iiii)", 0, 0, object.width, object.height);
+        return sd_bus_reply_method_return(call, "(iiii)", object.x, object.y, object.width, object.height);
+    if (interface == "org.a11y.atspi.Component" && member == "GetAccessibleAtPoint")
+        return answerPoint(call, object);
+    if (interface == "org.a11y.atspi.Selection" && member == "GetSelectedChild"
+        && m_objects.toolkit() != "Qt")
+        return replyObject(call, object.selectedChild);
     if (interface == "org.a11y.atspi.Collection" && member == "GetMatches" && m_objects.toolkit() != "Qt")
         return answerMatches(call, object);
     return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_UNKNOWN_METHOD, "no such method here");
@@ -203,6 +208,22 @@ int Service::answerProperty(sd_bus_message* call, const Object& object) {
         return sd_bus_reply_method_return(call, "v", "(so)", object.parent ? m_name.c_str() : "", path);
     }
     return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_UNKNOWN_PROPERTY, "no such property here");
+}
+
+int Service::answerPoint(sd_bus_message* call, const Object& object) {
+    int x = 0;
+    int y = 0;
+    sd_bus_message_read(call, "ii", &x, &y);
+    for (const Object* child : object.children)
+        if (x >= child->x && x < child->x + child->width && y >= child->y && y < child->y + child->height)
+            return replyObject(call, child);
+    return replyObject(call, nullptr);
+}
+
+/// None when there is no object.
+int Service::replyObject(sd_bus_message* call, const Object* object) {
+    const char* path = object ? object->path.c_str() : "/org/a11y/atspi/null";
+    return sd_bus_reply_method_return(call, "(so)", m_name.c_str(), path);
 }
 
 /// Looks through everything below the object, depth first, entering no object twice.

@@ -31,6 +31,8 @@ class Service {
     int answerAccessible(sd_bus_message* call, const std::string& member, Object& object);
     int answerProperty(sd_bus_message* call, const Object& object);
     int answerMatches(sd_bus_message* call, const Object& object);
+    int answerPoint(sd_bus_message* call, const Object& object);
+    int replyObject(sd_bus_message* call, const Object* object);
     int replyObjects(sd_bus_message* call, const std::vector<const Object*>& objects);
     int replyText(sd_bus_message* call, const std::string& text);
     int replyTextProperty(sd_bus_message* call, const std::string& text);

@@ -1,5 +1,7 @@
 #include "test_client.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <quillon/app/platform/linux/x11/x11_reply.h>
 #include <quillon/app/platform/linux/x11/xkb_header.h>
 
@@ -158,6 +160,34 @@ void TestClient::keyDown(std::uint8_t keyCode) {
 
 void TestClient::keyUp(std::uint8_t keyCode) {
     fake(XCB_KEY_RELEASE, keyCode);
+}
+
+void TestClient::buttonDown(std::uint8_t button) {
+    fake(XCB_BUTTON_PRESS, button);
+}
+
+void TestClient::buttonUp(std::uint8_t button) {
+    fake(XCB_BUTTON_RELEASE, button);
+}
+
+void TestClient::setPointerMapping(const std::vector<std::uint8_t>& buttons) {
+    // A mapping tells of every button that the pointer has.
+    const auto current =
+        xcb_get_pointer_mapping_reply(m_xcb.get(), xcb_get_pointer_mapping(m_xcb.get()), nullptr);
+    std::vector<std::uint8_t> map(
+        xcb_get_pointer_mapping_map(current),
+        xcb_get_pointer_mapping_map(current) + xcb_get_pointer_mapping_map_length(current));
+    std::free(current);
+    std::ranges::copy(buttons, map.begin());
+    std::free(xcb_set_pointer_mapping_reply(
+        m_xcb.get(), xcb_set_pointer_mapping(m_xcb.get(), static_cast<std::uint8_t>(map.size()), map.data()),
+        nullptr));
+}
+
+void TestClient::moveWindow(xcb_window_t window, std::uint32_t x, std::uint32_t y) {
+    const std::array values{x, y};
+    xcb_configure_window(m_xcb.get(), window, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, values.data());
+    sync();
 }
 
 void TestClient::click(std::uint8_t button) {

@@ -30,6 +30,7 @@ class TestClient {
     void destroy(xcb_window_t window);
     void map(xcb_window_t window);
     void unmap(xcb_window_t window);
+    void moveWindow(xcb_window_t window, std::uint32_t x, std::uint32_t y);
 
     xcb_atom_t atom(std::string_view name);
     void
@@ -54,7 +55,11 @@ class TestClient {
 
     void keyDown(std::uint8_t keyCode);
     void keyUp(std::uint8_t keyCode);
+    void buttonDown(std::uint8_t button);
+    void buttonUp(std::uint8_t button);
     void click(std::uint8_t button);
+    /// What the device's buttons count as, its first button's number first.
+    void setPointerMapping(const std::vector<std::uint8_t>& buttons);
     /// Has the server tell this client when the pointer comes to or leaves a window.
     void watchPointer(xcb_window_t window);
     /// How the pointer came to watched windows since the last time: XCB_NOTIFY_MODE_… of each coming.
