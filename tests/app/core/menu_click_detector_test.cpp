@@ -263,6 +263,18 @@ TEST_F(MenuClickDetectorTest, AnItemThatABusyApplicationPointsAtAfterTheReleaseC
     EXPECT_EQ(picks, Picks{pickOf(sketch, 3)});
 }
 
+TEST_F(MenuClickDetectorTest, AnItemThatWasLeftLongAgoIsNotWaitedFor) {
+    notice(Opened{sketch});
+    notice(Pointed{2}); // the application never tells of it
+    notice(Pointed{0});
+    pass(1);
+    notice(Released{on(3)});
+    pass(0.01);
+    pointAt(3);
+    notice(Closed{});
+    EXPECT_EQ(picks, Picks{pickOf(sketch, 3)});
+}
+
 TEST_F(MenuClickDetectorTest, TheItemOnTopCountsWhereMenusLieOnEachOther) {
     MenuItemFacts above = factsOf(3);
     above.path = {"File", "Recent", "Notes"};
