@@ -36,11 +36,13 @@ DataFolder::DataFolder(fs::path folder) : m_folder(std::move(folder)) {}
 LearnedData DataFolder::load() {
     if (m_folder.empty())
         return {};
-    return {
+    LearnedData learned{
         .usage = loadFile<UsageBook>(LearnedFiles::usage),
         .annotations = loadFile<AnnotationBook>(LearnedFiles::notes),
         .sheets = loadFile<SheetMap>(LearnedFiles::menus),
     };
+    m_savedAnnotations = learned.annotations;
+    return learned;
 }
 
 void DataFolder::save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets) {
@@ -48,14 +50,18 @@ void DataFolder::save(const UsageBook& usage, const AnnotationBook& annotations,
         return;
     // What fails is made up for by the next save.
     saveFile(LearnedFiles::usage, usage);
-    saveFile(LearnedFiles::notes, annotations);
-    if (m_sheetsChanged || !hasSheets())
+    if (m_savedAnnotations != annotations || !stands(LearnedFiles::notes)) {
+        const bool isSaved = saveFile(LearnedFiles::notes, annotations);
+        m_savedAnnotations = isSaved ? std::optional(annotations) : std::nullopt;
+    }
+    if (m_sheetsChanged || !stands(LearnedFiles::menus))
         m_sheetsChanged = !saveFile(LearnedFiles::menus, sheets);
 }
 
-bool DataFolder::hasSheets() const {
+/// Whether the file is there and is one of this program's.
+bool DataFolder::stands(const char* name) const {
     std::error_code error;
-    return !m_broken.contains(LearnedFiles::menus) && fs::exists(m_folder / LearnedFiles::menus, error);
+    return !m_broken.contains(name) && fs::exists(m_folder / name, error);
 }
 
 void DataFolder::erase() {
@@ -64,6 +70,7 @@ void DataFolder::erase() {
     std::error_code ignored;
     fs::remove_all(m_folder, ignored);
     m_broken.clear();
+    m_savedAnnotations.reset();
     m_sheetsChanged = true;
 }
 

@@ -5,6 +5,7 @@
 #include <quillon/kit/records/usage.h>
 
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -29,10 +30,10 @@ class DataFolder {
     LearnedData load();
     /// The sheets are no longer those that were loaded or saved last.
     void sheetsChanged() { m_sheetsChanged = true; }
-    /// Writes the three files in this order: usage, annotations, sheets. The sheets, which take most of the
-    /// time and change least, only where they changed or their file is missing. One that fails stays as it
-    /// was and does not keep the others from being written. A file that `load` could not make out is kept
-    /// under another name, "usage.json.broken" or with a number behind it.
+    /// Writes the three files in this order: usage, annotations, sheets. Annotations and sheets, which change
+    /// seldom, only where they changed or their file is missing: each file costs its time. One that fails
+    /// stays as it was and does not keep the others from being written. A file that `load` could not make out
+    /// is kept under another name, "usage.json.broken" or with a number behind it.
     void save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets);
     /// Removes the folder with all that is in it.
     void erase();
@@ -42,11 +43,12 @@ class DataFolder {
     Value loadFile(const char* name);
     template <class Value>
     bool saveFile(const char* name, const Value& value);
-    bool hasSheets() const;
+    bool stands(const char* name) const;
     bool setAside(const std::string& name) const;
 
     std::filesystem::path m_folder;
     std::set<std::string> m_broken; ///< names of files that `load` could not make out and that still stand
+    std::optional<AnnotationBook> m_savedAnnotations; ///< absent when what the file holds is not known
     bool m_sheetsChanged = false;
 };
 

@@ -111,6 +111,21 @@ TEST_F(AppModelBadDaysTest, AFullDiskKeepsTheFilesAndTheNextChangeSavesAll) {
     EXPECT_EQ(clickedInNextRun("Save"), 2);
 }
 
+TEST_F(AppModelBadDaysTest, APinThatAFullDiskDidNotTakeIsSavedWithTheNextChange) {
+    const auto model = startedModel();
+    model->savePending();
+    model->togglePin(sketch.bundleID, save);
+    {
+        const FullDisk full(16);
+        model->savePending();
+    }
+    click("Save");
+    desktop.timers.advance(Seconds(1));
+    const auto next = modelOver(data);
+    next->start();
+    EXPECT_TRUE(next->annotations().get(sketch.bundleID, save).pinned);
+}
+
 TEST_F(AppModelBadDaysTest, SheetsThatAFullDiskDidNotTakeAreSavedWithTheNextChange) {
     const auto model = startedModel();
     model->savePending();

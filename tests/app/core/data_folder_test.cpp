@@ -125,10 +125,12 @@ TEST_F(DataFolderTest, IsGoneWhenItIsErasedUntilTheNextSave) {
     EXPECT_EQ(DataFolder(path).load(), learned);
 }
 
-TEST_F(DataFolderTest, SheetsThatCameBackAfterTheErasingAreWrittenOver) {
+TEST_F(DataFolderTest, WhatCameBackAfterTheErasingIsWrittenOver) {
     save(data);
+    const std::string notes = read("notes.json");
     const std::string menus = read("menus.json");
     data.erase();
+    write("notes.json", notes);
     write("menus.json", menus);
     data.save({}, {}, {});
     EXPECT_EQ(DataFolder(path).load(), LearnedData());
