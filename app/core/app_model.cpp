@@ -137,8 +137,10 @@ void AppModel::read(const RunningApp& app) {
 
 void AppModel::sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
     const auto front = m_services.frontApplication.current();
-    if (m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app)))
+    if (m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app))) {
+        m_folder.sheetsChanged();
         m_save.schedule();
+    }
     tellDifferences();
 }
 
@@ -225,8 +227,10 @@ void AppModel::handleTyped(const MenuEntry& entry) {
 /// Of the current sheet, where it is that of the application in front: what is typed into no application or
 /// into this program belongs to none.
 std::span<const MenuEntry> AppModel::entriesInFront() const {
+    if (!current() || current()->entries.empty())
+        return {};
     const auto front = m_services.frontApplication.current();
-    if (!front || !current() || front->bundleID != current()->bundleID)
+    if (!front || front->bundleID != current()->bundleID)
         return {};
     return current()->entries;
 }

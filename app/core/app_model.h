@@ -22,6 +22,7 @@
 #include <quillon/app/ports/panel_host.h>
 #include <quillon/app/ports/timers.h>
 #include <quillon/app/ports/typed_keys.h>
+#include <quillon/app/ports/watching.h>
 #include <quillon/app/ports/windows.h>
 #include <quillon/kit/menu/app_sheet.h>
 
@@ -139,6 +140,12 @@ class AppModel {
     void keepOverlayOpen();
     /// Whether holding the trigger key is noticed.
     bool isWatching() const { return m_hold.isWatching(); }
+    /// What of the user's doings is noticed. Clicks and typing are only where menus may be read, and where
+    /// the settings want it.
+    Watching watching() const {
+        return {
+            .holds = m_hold.isWatching(), .clicks = m_clicks.isWatching(), .typing = m_typed.isWatching()};
+    }
     bool overlayVisible() const { return m_overlay.isVisible(); }
 
     /// A command with a shortcut was chosen with the pointer: counted, and answered by a nudge where that is

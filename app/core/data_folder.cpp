@@ -5,7 +5,6 @@
 
 #include <optional>
 #include <system_error>
-#include <tuple>
 #include <utility>
 
 namespace quillon {
@@ -37,19 +36,32 @@ DataFolder::DataFolder(fs::path folder) : m_folder(std::move(folder)) {}
 LearnedData DataFolder::load() {
     if (m_folder.empty())
         return {};
-    return {
+    LearnedData learned{
         .usage = loadFile<UsageBook>(LearnedFiles::usage),
         .annotations = loadFile<AnnotationBook>(LearnedFiles::notes),
         .sheets = loadFile<SheetMap>(LearnedFiles::menus),
     };
+    m_savedAnnotations = learned.annotations;
+    return learned;
 }
 
 void DataFolder::save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets) {
     if (m_folder.empty())
         return;
+    // What fails is made up for by the next save.
     saveFile(LearnedFiles::usage, usage);
-    saveFile(LearnedFiles::notes, annotations);
-    saveFile(LearnedFiles::menus, sheets);
+    if (m_savedAnnotations != annotations || !stands(LearnedFiles::notes)) {
+        const bool isSaved = saveFile(LearnedFiles::notes, annotations);
+        m_savedAnnotations = isSaved ? std::optional(annotations) : std::nullopt;
+    }
+    if (m_sheetsChanged || !stands(LearnedFiles::menus))
+        m_sheetsChanged = !saveFile(LearnedFiles::menus, sheets);
+}
+
+/// Whether the file is there and is one of this program's.
+bool DataFolder::stands(const char* name) const {
+    std::error_code error;
+    return !m_broken.contains(name) && fs::exists(m_folder / name, error);
 }
 
 void DataFolder::erase() {
@@ -58,6 +70,8 @@ void DataFolder::erase() {
     std::error_code ignored;
     fs::remove_all(m_folder, ignored);
     m_broken.clear();
+    m_savedAnnotations.reset();
+    m_sheetsChanged = true;
 }
 
 template <class Value>
@@ -72,12 +86,11 @@ Value DataFolder::loadFile(const char* name) {
 }
 
 template <class Value>
-void DataFolder::saveFile(const char* name, const Value& value) {
+bool DataFolder::saveFile(const char* name, const Value& value) {
     if (m_broken.contains(name) && !setAside(name))
-        return;
+        return false;
     m_broken.erase(name);
-    // A save that fails is made up for by the next.
-    std::ignore = JSONFile<Value>(m_folder / name).save(value);
+    return !JSONFile<Value>(m_folder / name).save(value);
 }
 
 // A link stays where it is, so that saving goes on to where it leads.

@@ -7,7 +7,8 @@
 
 namespace quillon {
 
-/// Saves once after a burst of changes.
+/// Saves once after a burst of changes. Changes that never pause for so long are saved when they do, or with
+/// the end of the program.
 class DelayedSave {
   public:
     /// How long after the last change.

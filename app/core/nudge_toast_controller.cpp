@@ -26,7 +26,6 @@ void NudgeToastController::place() {
 }
 
 void NudgeToastController::hide() {
-    m_hideTask.reset();
     m_panel->fadeOut(fadeOutTime);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "watching.h"
+
 #include <quillon/kit/base/subscription.h>
 
 #include <functional>
@@ -12,7 +14,7 @@ struct InstanceRequests {
     std::function<void()> showOverlay;
     std::function<void()> showSample;
     std::function<void()> quit;
-    std::function<bool()> isWatching; ///< holding the trigger key is noticed
+    std::function<Watching()> watching;
 };
 
 /// Keeps this program the only one of its kind in the session, and passes on what others ask of it.

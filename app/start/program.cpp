@@ -55,7 +55,7 @@ InstanceRequests Program::requests() {
         .showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
         .showSample = [this] { showSample(); },
         .quit = [] { QApplication::quit(); },
-        .isWatching = [this] { return m_model.isWatching(); },
+        .watching = [this] { return m_model.watching(); },
     };
 }
 

@@ -111,6 +111,38 @@ TEST_F(AppModelBadDaysTest, AFullDiskKeepsTheFilesAndTheNextChangeSavesAll) {
     EXPECT_EQ(clickedInNextRun("Save"), 2);
 }
 
+TEST_F(AppModelBadDaysTest, APinThatAFullDiskDidNotTakeIsSavedWithTheNextChange) {
+    const auto model = startedModel();
+    model->savePending();
+    model->togglePin(sketch.bundleID, save);
+    {
+        const FullDisk full(16);
+        model->savePending();
+    }
+    click("Save");
+    desktop.timers.advance(Seconds(1));
+    const auto next = modelOver(data);
+    next->start();
+    EXPECT_TRUE(next->annotations().get(sketch.bundleID, save).pinned);
+}
+
+TEST_F(AppModelBadDaysTest, SheetsThatAFullDiskDidNotTakeAreSavedWithTheNextChange) {
+    const auto model = startedModel();
+    model->savePending();
+    desktop.menus.answer(sketch.bundleID, {menuBarOf(9), ReadOutcome::complete});
+    desktop.front.activate(sketch);
+    desktop.background.runAll();
+    {
+        const FullDisk full(16);
+        model->savePending();
+    }
+    click("Save");
+    desktop.timers.advance(Seconds(1));
+    const auto next = modelOver(data);
+    next->start();
+    EXPECT_EQ(next->sheets().at(sketch.bundleID).entries.size(), 9U);
+}
+
 TEST_F(AppModelBadDaysTest, AFullDiskAtABrokenStartLosesNeitherFileNorMemory) {
     write("usage.json", "broken");
     const auto model = startedModel();

@@ -42,6 +42,45 @@ TEST_F(AppModelLearningTest, TheEndWritesWhatIsPendingAndOnlyThat) {
     EXPECT_FALSE(isStored());
 }
 
+TEST_F(AppModelLearningTest, SheetsAreWrittenOnlyWhenTheyAreOthers) {
+    const auto model = startedModel();
+    model->savePending();
+    write("menus.json", "{}");
+    model->togglePin(sketch.bundleID, save);
+    model->savePending();
+    EXPECT_EQ(read("menus.json"), "{}") << "there was nothing to write";
+    desktop.front.activate(sketch);
+    desktop.background.runAll();
+    model->savePending();
+    EXPECT_NE(read("menus.json"), "{}");
+}
+
+TEST_F(AppModelLearningTest, AnnotationsAreWrittenOnlyWhenTheyAreOthers) {
+    startedModel()->savePending();
+    const auto model = startedModel();
+    write("notes.json", "{}");
+    model->handleTyped(model->current()->entries.at(0));
+    model->savePending();
+    EXPECT_EQ(read("notes.json"), "{}") << "there was nothing to write";
+    model->togglePin(sketch.bundleID, save);
+    model->savePending();
+    EXPECT_NE(read("notes.json"), "{}");
+}
+
+TEST_F(AppModelLearningTest, AFileThatIsMissingIsWritten) {
+    const auto model = startedModel();
+    model->togglePin(sketch.bundleID, save);
+    model->savePending();
+    for (const char* name : {"usage.json", "notes.json", "menus.json"}) {
+        const std::string before = read(name);
+        fs::remove(data / name);
+        desktop.front.activate(sketch);
+        desktop.background.runAll();
+        model->savePending();
+        EXPECT_EQ(read(name), before) << name;
+    }
+}
+
 TEST_F(AppModelLearningTest, LoadingIsNoChangeToSave) {
     startedModel()->savePending();
     fs::remove(data / "usage.json");

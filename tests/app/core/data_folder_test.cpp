@@ -31,7 +31,10 @@ class DataFolderTest : public testing::Test {
         std::ifstream file(path / name);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    void save(DataFolder& to) const { to.save(learned.usage, learned.annotations, learned.sheets); }
+    void save(DataFolder& to) const {
+        to.sheetsChanged();
+        to.save(learned.usage, learned.annotations, learned.sheets);
+    }
 
     QTemporaryDir folder;
     const fs::path path = fs::path(folder.path().toStdString()) / "app.quillon.Quillon";
@@ -120,6 +123,17 @@ TEST_F(DataFolderTest, IsGoneWhenItIsErasedUntilTheNextSave) {
     EXPECT_FALSE(fs::exists(path));
     save(data);
     EXPECT_EQ(DataFolder(path).load(), learned);
+}
+
+TEST_F(DataFolderTest, WhatCameBackAfterTheErasingIsWrittenOver) {
+    save(data);
+    const std::string notes = read("notes.json");
+    const std::string menus = read("menus.json");
+    data.erase();
+    write("notes.json", notes);
+    write("menus.json", menus);
+    data.save({}, {}, {});
+    EXPECT_EQ(DataFolder(path).load(), LearnedData());
 }
 
 TEST_F(DataFolderTest, WithoutAPathNothingIsReadOrWritten) {

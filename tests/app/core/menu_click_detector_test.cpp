@@ -80,6 +80,15 @@ TEST_F(MenuClickDetectorTest, LeavesAReleaseAloneThatComesAfterTheClosing) {
     EXPECT_EQ(picks, Picks{});
 }
 
+TEST_F(MenuClickDetectorTest, MenusCloseOnce) {
+    openAt(3);
+    notice(Closed{});
+    pass(0.2);
+    notice(Closed{});
+    notice(Released{on(3)});
+    EXPECT_EQ(picks, Picks{});
+}
+
 TEST_F(MenuClickDetectorTest, EachReleaseIsAnsweredOnce) {
     openAt(3);
     notice(Released{on(3)});
@@ -254,6 +263,18 @@ TEST_F(MenuClickDetectorTest, AnItemThatABusyApplicationPointsAtAfterTheReleaseC
     EXPECT_EQ(picks, Picks{pickOf(sketch, 3)});
 }
 
+TEST_F(MenuClickDetectorTest, AnItemThatWasLeftLongAgoIsNotWaitedFor) {
+    notice(Opened{sketch});
+    notice(Pointed{2}); // the application never tells of it
+    notice(Pointed{0});
+    pass(1);
+    notice(Released{on(3)});
+    pass(0.01);
+    pointAt(3);
+    notice(Closed{});
+    EXPECT_EQ(picks, Picks{pickOf(sketch, 3)});
+}
+
 TEST_F(MenuClickDetectorTest, TheItemOnTopCountsWhereMenusLieOnEachOther) {
     MenuItemFacts above = factsOf(3);
     above.path = {"File", "Recent", "Notes"};
@@ -278,6 +299,21 @@ TEST_F(MenuClickDetectorTest, AnItemOnTopThatIsNoCommandHidesTheOneBelow) {
     notice(Released{on(3)});
     notice(Closed{});
     EXPECT_EQ(picks, Picks{});
+}
+
+TEST_F(MenuClickDetectorTest, AnItemBelowThatIsReturnedToOnTheReleaseHidesNothing) {
+    MenuItemFacts above = factsOf(3);
+    above.path = {"File", "Recent", "Notes"};
+    openAt(3);
+    notice(Pointed{7});
+    notice(Told{7, above});
+    pass(0.5);
+    notice(Released{on(3)});
+    pass(0.01);
+    pointAt(3);
+    notice(Closed{});
+    ASSERT_EQ(picks.size(), 1U);
+    EXPECT_EQ(picks[0].path, above.path);
 }
 
 TEST_F(MenuClickDetectorTest, WhatIsNoCommandWithAShortcutCountsNothing) {

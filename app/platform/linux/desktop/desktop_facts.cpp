@@ -123,6 +123,77 @@ Check frontApplication(const DesktopFacts& facts) {
         app.name + " (" + app.bundleID + ", process " + std::to_string(app.pid) + ")", ""};
 }
 
+/// What is noticed of one kind of use.
+struct Watcher {
+    std::string subject;
+    std::string object;  ///< what it notices
+    std::string lacking; ///< what of the desktop it would need; "" when all is there
+    std::string remedy;  ///< against that
+    bool Watching::*isOn;
+    std::string switchedOnBy; ///< where it is not on although it could be
+};
+
+Check watcherCheck(const Watcher& watcher, const DesktopFacts& facts) {
+    if (!watcher.lacking.empty())
+        return {
+            watcher.subject, Result::limited, watcher.object + " are not noticed: " + watcher.lacking,
+            watcher.remedy};
+    if (!facts.watching)
+        return {watcher.subject, Result::good, "can notice " + watcher.object, ""};
+    if ((*facts.watching).*watcher.isOn)
+        return {watcher.subject, Result::good, "notices " + watcher.object, ""};
+    return {
+        watcher.subject, Result::limited, "does not notice " + watcher.object + " now", watcher.switchedOnBy};
+}
+
+Check holdWatcher(const DesktopFacts& facts) {
+    const bool can = facts.display && facts.keyboardExtension;
+    return watcherCheck(
+        {.subject = "Hold watcher",
+         .object = "held keys",
+         .lacking = can ? "" : "there is no X server that tells them",
+         .remedy = "Use `quillon show`, or log in to an X11 session.",
+         .isOn = &Watching::holds,
+         .switchedOnBy = "Start Quillon again."},
+        facts);
+}
+
+bool menusAreReadable(const DesktopFacts& facts) {
+    return facts.accessibilityBus && facts.accessibilityOn.value_or(true);
+}
+
+Check clickWatcher(const DesktopFacts& facts) {
+    const bool input = facts.display && facts.inputExtension;
+    return watcherCheck(
+        {.subject = "Click watcher",
+         .object = "clicks on menu commands",
+         .lacking = !input                     ? "there is no X server with XInput 2.2"
+                    : !menusAreReadable(facts) ? "menus cannot be read"
+                                               : "",
+         .remedy = input ? "See Accessibility above." : "Log in to an X11 session.",
+         .isOn = &Watching::clicks,
+         .switchedOnBy = "Allow accessibility in Quillon’s menu, and have nudgesOn be true in its settings."},
+        facts);
+}
+
+Check typedWatcher(const DesktopFacts& facts) {
+    const bool input = facts.display && facts.inputExtension && facts.keyboardExtension;
+    return watcherCheck(
+        {.subject = "Typed watcher",
+         .object = "typed shortcuts",
+         .lacking = !input                     ? "there is no X server with XInput 2.2 and XKB"
+                    : !facts.keymap            ? "the keyboard’s map cannot be read"
+                    : !menusAreReadable(facts) ? "menus cannot be read"
+                                               : "",
+         .remedy = !input          ? "Log in to an X11 session."
+                   : !facts.keymap ? "Choose a keyboard layout, such as with `setxkbmap us`."
+                                   : "See Accessibility above.",
+         .isOn = &Watching::typing,
+         .switchedOnBy =
+             "Allow accessibility in Quillon’s menu, and have countTyped be true in its settings."},
+        facts);
+}
+
 Check instance(const DesktopFacts& facts) {
     if (facts.instanceRunning)
         return {"Quillon", Result::good, "runs", ""};
@@ -145,6 +216,8 @@ std::vector<Check> diagnose(const DesktopFacts& facts) {
     if (facts.display)
         checks.push_back(frontApplication(facts));
     checks.push_back(instance(facts));
+    for (const auto& check : {holdWatcher, clickWatcher, typedWatcher})
+        checks.push_back(check(facts));
     return checks;
 }
 

@@ -3,6 +3,7 @@
 #include <quillon/app/platform/linux/session/session_bus.h>
 #include <quillon/app/ports/diagnosis.h>
 #include <quillon/app/ports/running_app.h>
+#include <quillon/app/ports/watching.h>
 
 #include <optional>
 #include <string>
@@ -19,6 +20,7 @@ struct DesktopFacts {
     bool display = false;                      ///< an X server can be reached
     std::optional<std::string> inputExtension; ///< XInput's version, "2.2" or later; absent below that
     bool keyboardExtension = false;            ///< XKB
+    bool keymap = false;                       ///< what the keys give can be read
     bool shapeExtension = false;
     std::optional<std::string> windowManager; ///< its name; absent when none tells the active window
     bool compositor = false;
@@ -27,6 +29,7 @@ struct DesktopFacts {
     std::vector<std::string> silentGtk2Programs = {};
     std::optional<RunningApp> front;
     bool instanceRunning = false;
+    std::optional<Watching> watching = {}; ///< of the running instance; absent when it does not tell
 };
 
 /// What these facts mean for the program, with a remedy for whatever is not well.

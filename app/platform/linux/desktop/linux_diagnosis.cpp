@@ -6,6 +6,7 @@
 #include <quillon/app/platform/linux/applications/process_facts.h>
 #include <quillon/app/platform/linux/atspi/accessibility_bus.h>
 #include <quillon/app/platform/linux/atspi/running_apps.h>
+#include <quillon/app/platform/linux/session/bus_running_program.h>
 #include <quillon/app/platform/linux/session/session_kind.h>
 #include <quillon/app/platform/linux/session/tray_host.h>
 #include <quillon/app/platform/linux/x11/open_windows.h>
@@ -67,6 +68,7 @@ std::vector<Check> LinuxDiagnosis::checks() {
         .display = x11.display,
         .inputExtension = inputVersion(x11),
         .keyboardExtension = x11.xkb,
+        .keymap = x11.keymap,
         .shapeExtension = x11.shape,
         .windowManager = x11.windowManager,
         .compositor = x11.compositor,
@@ -74,6 +76,7 @@ std::vector<Check> LinuxDiagnosis::checks() {
         .silentGtk2Programs = silentGtk2Programs(bus),
         .front = m_applications.front(),
         .instanceRunning = m_session.found().isOwned,
+        .watching = BusRunningProgram(m_session).watching(),
     });
 }
 

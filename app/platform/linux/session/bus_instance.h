@@ -39,7 +39,9 @@ class BusInstance final : public QObject, public Instance {
     Q_SCRIPTABLE void ShowOverlay() { call(m_requests.showOverlay); }
     Q_SCRIPTABLE void ShowSample() { call(m_requests.showSample); }
     Q_SCRIPTABLE void Quit() { call(m_requests.quit); }
-    Q_SCRIPTABLE bool IsWatching() { return m_requests.isWatching && m_requests.isWatching(); }
+    Q_SCRIPTABLE bool IsWatching() { return watching().holds; }
+    Q_SCRIPTABLE bool IsWatchingClicks() { return watching().clicks; }
+    Q_SCRIPTABLE bool IsWatchingTyping() { return watching().typing; }
 
   private Q_SLOTS:
     void lookForBus();
@@ -49,6 +51,7 @@ class BusInstance final : public QObject, public Instance {
         if (request)
             request();
     }
+    Watching watching() const { return m_requests.watching ? m_requests.watching() : Watching{}; }
     Claim claimOnBus();
 
     const SessionBus& m_bus;

@@ -4,6 +4,9 @@
 
 #include <QDBusMessage>
 
+#include <array>
+#include <utility>
+
 namespace quillon {
 
 namespace {
@@ -27,17 +30,39 @@ bool isNobodyThere(const QString& error) {
 
 } // namespace
 
+QDBusMessage BusRunningProgram::call(const QString& operation) const {
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QLatin1StringView(instanceName), QLatin1StringView(instancePath),
+        QLatin1StringView(instanceInterface), operation);
+    message.setAutoStartService(false);
+    return m_bus.connection().call(message, QDBus::Block, answerMilliseconds);
+}
+
 RunningProgram::Answer BusRunningProgram::ask(ProgramRequest request) {
     if (!m_bus.answers())
         return Answer::unreachable;
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QLatin1StringView(instanceName), QLatin1StringView(instancePath),
-        QLatin1StringView(instanceInterface), operationOf(request));
-    call.setAutoStartService(false);
-    const QDBusMessage answer = m_bus.connection().call(call, QDBus::Block, answerMilliseconds);
+    const QDBusMessage answer = call(operationOf(request));
     if (answer.type() == QDBusMessage::ReplyMessage)
         return Answer::done;
     return isNobodyThere(answer.errorName()) ? Answer::notRunning : Answer::silent;
+}
+
+std::optional<Watching> BusRunningProgram::watching() const {
+    if (!m_bus.answers())
+        return std::nullopt;
+    Watching watching;
+    const std::array<std::pair<const char*, bool*>, 3> questions{{
+        {"IsWatching", &watching.holds},
+        {"IsWatchingClicks", &watching.clicks},
+        {"IsWatchingTyping", &watching.typing},
+    }};
+    for (const auto& [question, result] : questions) {
+        const QDBusMessage answer = call(QLatin1StringView(question));
+        if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty())
+            return std::nullopt;
+        *result = answer.arguments().constFirst().toBool();
+    }
+    return watching;
 }
 
 } // namespace quillon

@@ -3,6 +3,11 @@
 #include "session_bus.h"
 
 #include <quillon/app/ports/running_program.h>
+#include <quillon/app/ports/watching.h>
+
+#include <QDBusMessage>
+
+#include <optional>
 
 namespace quillon {
 
@@ -14,7 +19,12 @@ class BusRunningProgram final : public RunningProgram {
 
     Answer ask(ProgramRequest request) override;
 
+    /// What it notices at this moment; absent when it does not run or does not answer. Waits within bounds.
+    std::optional<Watching> watching() const;
+
   private:
+    QDBusMessage call(const QString& operation) const;
+
     const SessionBus& m_bus;
 };
 

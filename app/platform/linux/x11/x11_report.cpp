@@ -1,5 +1,6 @@
 #include "x11_report.h"
 
+#include "keymap_request.h"
 #include "window_manager.h"
 
 #include <chrono>
@@ -34,6 +35,7 @@ X11Report x11Report(const std::string& display) {
     report.xinput = extensions.xinputVersion;
     report.rawInput = extensions.xinputOpcode.has_value();
     report.xkb = extensions.xkbFirstEvent.has_value();
+    report.keymap = requestKeymap(display) != nullptr;
     report.shape = extensions.shape;
     report.clientPids = extensions.clientPids;
     report.compositor = isOwned(*x11, "_NET_WM_CM_S");

@@ -13,6 +13,7 @@ struct X11Report {
     std::optional<X11Version> xinput; ///< whatever version the server has
     bool rawInput = false;            ///< XInput is new enough for input that other clients have grabbed
     bool xkb = false;
+    bool keymap = false; ///< the keyboard's map can be read
     bool shape = false;
     bool clientPids = false;                  ///< XRes tells the processes of windows
     bool compositor = false;                  ///< translucent windows are blended

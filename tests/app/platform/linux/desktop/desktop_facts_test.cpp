@@ -15,12 +15,14 @@ DesktopFacts wellDesktop() {
         .display = true,
         .inputExtension = "2.3",
         .keyboardExtension = true,
+        .keymap = true,
         .shapeExtension = true,
         .windowManager = "Openbox",
         .compositor = true,
         .trayHost = true,
         .front = RunningApp{10, "geany", "Geany", {}},
         .instanceRunning = true,
+        .watching = Watching{.holds = true, .clicks = true, .typing = true},
     };
 }
 
@@ -101,6 +103,61 @@ TEST(Diagnosis, WaylandIsLimited) {
     EXPECT_EQ(checkOf(facts, "Display").result, Check::Result::limited);
     facts.display = false;
     EXPECT_EQ(checkOf(facts, "Display").result, Check::Result::limited);
+}
+
+constexpr const char* watchers[] = {"Hold watcher", "Click watcher", "Typed watcher"};
+
+TEST(Diagnosis, TellsWhatTheRunningProgramNotices) {
+    EXPECT_EQ(checkOf(wellDesktop(), "Hold watcher").finding, "notices held keys");
+    EXPECT_EQ(checkOf(wellDesktop(), "Click watcher").finding, "notices clicks on menu commands");
+    EXPECT_EQ(checkOf(wellDesktop(), "Typed watcher").finding, "notices typed shortcuts");
+}
+
+TEST(Diagnosis, WhatIsSwitchedOffSaysWhatSwitchesItOn) {
+    DesktopFacts facts = wellDesktop();
+    facts.watching = Watching{.holds = true, .clicks = false, .typing = true};
+    EXPECT_EQ(checkOf(facts, "Click watcher").result, Check::Result::limited);
+    EXPECT_NE(checkOf(facts, "Click watcher").remedy.find("nudgesOn"), std::string::npos);
+    EXPECT_EQ(checkOf(facts, "Typed watcher").result, Check::Result::good);
+    facts.watching->typing = false;
+    EXPECT_NE(checkOf(facts, "Typed watcher").remedy.find("countTyped"), std::string::npos);
+}
+
+TEST(Diagnosis, TellsWhatCouldBeNoticedWhileTheProgramDoesNotRun) {
+    DesktopFacts facts = wellDesktop();
+    facts.watching.reset();
+    EXPECT_EQ(checkOf(facts, "Typed watcher").finding, "can notice typed shortcuts");
+    EXPECT_EQ(checkOf(facts, "Typed watcher").result, Check::Result::good);
+}
+
+/// What a desktop lacks, and whether clicks and typing are noticed all the same.
+struct Lack {
+    const char* what;
+    void (*takeAway)(DesktopFacts& facts);
+    bool holds;
+    bool clicks;
+    bool typing;
+};
+
+TEST(Diagnosis, SaysWhatTheDesktopLacksForEachWatcher) {
+    const Lack lacks[] = {
+        {"a display", [](DesktopFacts& facts) { facts.display = false; }, false, false, false},
+        {"raw input", [](DesktopFacts& facts) { facts.inputExtension.reset(); }, true, false, false},
+        {"XKB", [](DesktopFacts& facts) { facts.keyboardExtension = false; }, false, true, false},
+        {"a keymap", [](DesktopFacts& facts) { facts.keymap = false; }, true, true, false},
+        {"accessibility", [](DesktopFacts& facts) { facts.accessibilityOn = false; }, true, false, false},
+        {"its bus", [](DesktopFacts& facts) { facts.accessibilityBus = false; }, true, false, false},
+    };
+    for (const Lack& lack : lacks) {
+        DesktopFacts facts = wellDesktop();
+        lack.takeAway(facts);
+        const bool works[] = {lack.holds, lack.clicks, lack.typing};
+        for (std::size_t i = 0; i < std::size(watchers); ++i) {
+            const Check check = checkOf(facts, watchers[i]);
+            EXPECT_EQ(check.result == Check::Result::good, works[i]) << watchers[i] << ", " << lack.what;
+            EXPECT_EQ(check.remedy.empty(), works[i]) << watchers[i] << ", " << lack.what;
+        }
+    }
 }
 
 } // namespace

@@ -16,6 +16,7 @@ TEST_F(X11ReportTest, ABareServerHasExtensionsAndNobodyAround) {
     EXPECT_GE(*report.xinput, (X11Version{2, 2}));
     EXPECT_TRUE(report.rawInput);
     EXPECT_TRUE(report.xkb);
+    EXPECT_TRUE(report.keymap);
     EXPECT_TRUE(report.shape);
     EXPECT_TRUE(report.clientPids);
     EXPECT_FALSE(report.compositor);
