@@ -61,7 +61,6 @@ struct LinuxMenuUse::Browsing {
     bool isBusy = false; ///< the job runs
     std::optional<Point> lastSeen{};
     int glances = 0; ///< since the pointer rests
-    bool isPressed = false;
 
     bool isPrepared(const atspi::MenuPlace& place) const {
         return std::ranges::any_of(prepared, [&place](const Prepared& one) {
@@ -130,7 +129,6 @@ void LinuxMenuUse::menusClosed() {
 void LinuxMenuUse::pointerPressed(Point at) {
     if (!m_browsing)
         return;
-    m_browsing->isPressed = true;
     const auto place = placeOf(at);
     if (!place)
         return tellPointed(0);
@@ -139,17 +137,17 @@ void LinuxMenuUse::pointerPressed(Point at) {
     ask({++m_lastNumber, *place, known ? std::optional(known->facts) : std::nullopt});
 }
 
-void LinuxMenuUse::pointerSeen(Point at) {
+void LinuxMenuUse::pointerSeen(Point at, bool isHeld) {
     if (!m_browsing)
         return;
     Browsing& browsing = *m_browsing;
     const auto last = std::exchange(browsing.lastSeen, at);
-    const double steady = browsing.isPressed ? slowing : resting;
+    const double steady = isHeld ? slowing : resting;
     browsing.glances = last && areWithin(*last, at, steady) ? browsing.glances + 1 : 0;
     const auto place = placeOf(at);
     if (!place)
         return tellPointed(0);
-    const bool mayClick = browsing.glances >= (browsing.isPressed ? 1 : glancesAtRest);
+    const bool mayClick = browsing.glances >= (isHeld ? 1 : glancesAtRest);
     if (mayClick && !browsing.isPrepared(*place) && !browsing.isHopeless(*place))
         prepare(*place);
 }
@@ -157,7 +155,6 @@ void LinuxMenuUse::pointerSeen(Point at) {
 void LinuxMenuUse::leftButtonReleased(Point at) {
     if (!m_browsing)
         return;
-    m_browsing->isPressed = false;
     tellReleasedOver(at);
     m_evidence.emit(menu_use::Released{at});
 }

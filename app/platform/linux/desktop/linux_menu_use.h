@@ -46,7 +46,7 @@ class LinuxMenuUse final : public MenuUse, private MenuPopupsObserver {
 
     void menusOpened(const RunningApp& app) override;
     void pointerPressed(Point at) override;
-    void pointerSeen(Point at) override;
+    void pointerSeen(Point at, bool isHeld) override;
     void leftButtonReleased(Point at) override;
     void menusClosed() override;
 
