@@ -8,6 +8,7 @@ from desktop import wait_until
 
 PAUSE = 0.1  # seconds: a hand that has come to an item rests there before it presses
 HELD_DOWN = 0.06  # seconds that a finger keeps a button down
+DRAGGED = 0.6  # seconds: GTK takes a button let go sooner for a click that opened the menu
 
 
 def below(item):
@@ -103,7 +104,7 @@ class Menus:
         desktop.xdotool("mousedown", 1)
         item = self.item(self.wait_for_items(title), path[1])
         self.move_to(item)
-        time.sleep(PAUSE)
+        time.sleep(DRAGGED)
         desktop.xdotool("mouseup", 1)
 
     def close(self):

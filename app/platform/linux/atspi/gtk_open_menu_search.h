@@ -36,7 +36,7 @@ class GtkOpenMenuSearch final : public OpenMenuSearch {
     AccessibilityCalls& m_calls;
     ObjectRef m_menuBar;
     std::unordered_map<std::uint64_t, std::vector<ObjectRef>> m_known; ///< by opening: the way to its menu
-    std::deque<Hovered> m_hovered; ///< the newest first
+    std::deque<Hovered> m_hovered;                                     ///< the newest first
 };
 
 } // namespace quillon::atspi

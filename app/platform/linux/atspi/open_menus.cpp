@@ -168,6 +168,11 @@ OpenMenus::Session& OpenMenus::session() {
     return *m_session;
 }
 
+void OpenMenus::begin(const std::stop_token& stop) {
+    const std::stop_callback giveUp(stop, [this] { m_stop.request_stop(); });
+    session();
+}
+
 std::optional<Rect> OpenMenus::prepare(const MenuPlace& place, const std::stop_token& stop) {
     const std::stop_callback giveUp(stop, [this] { m_stop.request_stop(); });
     return session().prepare(place);

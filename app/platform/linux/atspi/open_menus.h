@@ -26,6 +26,7 @@ class OpenMenus final : public MenuLookup {
     OpenMenus(const OpenMenus&) = delete;
     OpenMenus& operator=(const OpenMenus&) = delete;
 
+    void begin(const std::stop_token& stop) override;
     /// Within the limits; once the application has not answered, it is not asked again.
     std::optional<Rect> prepare(const MenuPlace& place, const std::stop_token& stop) override;
     /// The menu bar's items alone. Path and shortcut are those of the whole sheet.

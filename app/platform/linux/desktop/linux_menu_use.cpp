@@ -19,10 +19,8 @@ using namespace std::chrono_literals;
 
 /// Moving along a menu bar closes a menu and opens the next.
 constexpr auto farewell = 2s;
-/// How far the pointer may move from one glance at it to the next and still rest; and while a button is held
-/// down, which may be let go as soon as it has slowed down.
+/// How far the pointer may move from one glance at it to the next and still rest.
 constexpr double resting = 3;
-constexpr double slowing = 8;
 /// How many glances at a resting pointer make it likely that a click follows, and not another item.
 constexpr int glancesAtRest = 3;
 /// How far from each other two places are surely on one item.
@@ -113,10 +111,23 @@ void LinuxMenuUse::menusOpened(const RunningApp& app) {
     qCDebug(logMenus).noquote() << "a menu opened of" << logged(app);
     m_farewell.stop();
     if (!m_browsing || !isSameApp(m_browsing->app, app) || m_browsing->app.windows != app.windows)
-        m_browsing = std::make_unique<Browsing>(Browsing{app, m_needs.makeLookup(app)});
+        beginBrowsing(app);
     m_browsing->pointed = 0;
     m_browsing->lastSeen.reset();
     m_evidence.emit(menu_use::Opened{app});
+}
+
+void LinuxMenuUse::beginBrowsing(const RunningApp& app) {
+    m_browsing = std::make_unique<Browsing>(Browsing{app, m_needs.makeLookup(app)});
+    m_browsing->isBusy = true;
+    m_browsing->job =
+        m_needs.background.run([this, lookup = m_browsing->lookup](const std::stop_token& stop) {
+            lookup->begin(stop);
+            return [this] {
+                m_browsing->isBusy = false;
+                workOn();
+            };
+        });
 }
 
 void LinuxMenuUse::menusClosed() {
@@ -142,13 +153,13 @@ void LinuxMenuUse::pointerSeen(Point at, bool isHeld) {
         return;
     Browsing& browsing = *m_browsing;
     const auto last = std::exchange(browsing.lastSeen, at);
-    const double steady = isHeld ? slowing : resting;
-    browsing.glances = last && areWithin(*last, at, steady) ? browsing.glances + 1 : 0;
+    browsing.glances = last && areWithin(*last, at, resting) ? browsing.glances + 1 : 0;
     const auto place = placeOf(at);
     if (!place)
         return tellPointed(0);
-    const bool mayClick = browsing.glances >= (isHeld ? 1 : glancesAtRest);
-    if (mayClick && !browsing.isPrepared(*place) && !browsing.isHopeless(*place))
+    // A button that is held down may be let go at once.
+    const bool mayChoose = isHeld || browsing.glances >= glancesAtRest;
+    if (mayChoose && !browsing.isPrepared(*place) && !browsing.isHopeless(*place))
         prepare(*place);
 }
 
@@ -178,7 +189,8 @@ std::optional<atspi::MenuPlace> LinuxMenuUse::placeOf(Point at) const {
     const auto& popups = m_popups->popups();
     for (std::size_t level = popups.size(); level-- > 0;)
         if (popups[level].frame.contains(at))
-            return atspi::MenuPlace{popups[level].opening, level, popups[level].frame, at, popups[level].openedFrom};
+            return atspi::MenuPlace{
+                popups[level].opening, level, popups[level].frame, at, popups[level].openedFrom};
     return std::nullopt;
 }
 
@@ -215,8 +227,8 @@ void LinuxMenuUse::workOn() {
             });
     } else if (const auto place = std::exchange(browsing.toBePrepared, std::nullopt)) {
         browsing.isBusy = true;
-        browsing.job =
-            m_needs.background.run([this, lookup = browsing.lookup, place = *place](const std::stop_token& stop) {
+        browsing.job = m_needs.background.run(
+            [this, lookup = browsing.lookup, place = *place](const std::stop_token& stop) {
                 const auto area = lookup->prepare(place, stop);
                 return [this, place, area] { prepared(place, area); };
             });

@@ -51,6 +51,7 @@ class LinuxMenuUse final : public MenuUse, private MenuPopupsObserver {
     void menusClosed() override;
 
     void begin();
+    void beginBrowsing(const RunningApp& app);
     void end();
     std::optional<atspi::MenuPlace> placeOf(Point at) const;
     void prepare(const atspi::MenuPlace& place);

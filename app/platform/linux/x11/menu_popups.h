@@ -25,8 +25,8 @@ class MenuPopupsObserver {
     virtual void menusOpened(const RunningApp& app) = 0;
     /// A button went down.
     virtual void pointerPressed(Point at) = 0;
-    /// The pointer is there, and a button is held down or not; told twenty times a second, whether it moves or
-    /// not, for half a minute after each press.
+    /// The pointer is there, and a button is held down or not; told twenty times a second, whether it moves
+    /// or not, for half a minute after each press.
     virtual void pointerSeen(Point at, bool isHeld) = 0;
     /// The left button was let go.
     virtual void leftButtonReleased(Point at) = 0;

@@ -19,9 +19,7 @@ using testing::IsEmpty;
 struct Diary final : MenuPopupsObserver {
     void menusOpened(const RunningApp& app) override { lines.push_back("opened " + app.bundleID); }
     void pointerPressed(Point at) override { lines.push_back("pressed " + text(at)); }
-    void pointerSeen(Point at, bool isHeld) override {
-        seen.push_back(text(at) + (isHeld ? " held" : ""));
-    }
+    void pointerSeen(Point at, bool isHeld) override { seen.push_back(text(at) + (isHeld ? " held" : "")); }
     void leftButtonReleased(Point at) override { lines.push_back("released " + text(at)); }
     void menusClosed() override { lines.emplace_back("closed"); }
 

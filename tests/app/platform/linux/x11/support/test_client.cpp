@@ -179,8 +179,8 @@ bool TestClient::setPointerMapping(const std::vector<std::uint8_t>& buttons) {
         xcb_get_pointer_mapping_map(current.get()) + xcb_get_pointer_mapping_map_length(current.get()));
     std::ranges::copy(buttons, map.begin());
     const X11Reply<xcb_set_pointer_mapping_reply_t> reply(xcb_set_pointer_mapping_reply(
-        m_xcb.get(),
-        xcb_set_pointer_mapping(m_xcb.get(), static_cast<std::uint8_t>(map.size()), map.data()), nullptr));
+        m_xcb.get(), xcb_set_pointer_mapping(m_xcb.get(), static_cast<std::uint8_t>(map.size()), map.data()),
+        nullptr));
     return reply && reply->status == XCB_MAPPING_STATUS_SUCCESS;
 }
 
