@@ -32,6 +32,11 @@ def resident(pid):
     return mebibytes(pid, "Rss")
 
 
+def written(pid):
+    """What it has written itself, in MiB: what can grow. Pages of its file come and go with other processes."""
+    return mebibytes(pid, "Private_Dirty")
+
+
 def own(pid):
     """What it shares with no other program, in MiB."""
     return mebibytes(pid, "Private_Clean") + mebibytes(pid, "Private_Dirty")
