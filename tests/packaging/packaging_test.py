@@ -95,11 +95,12 @@ class PackagingTest(unittest.TestCase):
     def test_completion_offers_every_command_and_option(self):
         self.assertEqual(set(complete("quillon", "")), {*commands_of_help(), "--help", "--verbose", "--version"})
         self.assertEqual({*complete("quillon", "sheet", "--"), *complete("quillon", "show", "--"),
-                          "--help", "--verbose", "--version"}, options_of_help())
+                          *complete("quillon", "stats", "--"), "--help", "--verbose", "--version"}, options_of_help())
 
     def test_completion_knows_values(self):
         self.assertEqual(complete("quillon", "sheet", "--format", "j"), ["json"])
         self.assertEqual(set(complete("quillon", "sheet", "--format", "")), formats_of_help())
+        self.assertEqual(complete("quillon", "stats", "--format", ""), ["text", "json"])
         self.assertEqual(complete("quillon", "sheet", "--app", ""), ["geany", "org.gimp.GIMP"])
         self.assertEqual(complete("quillon", "sheet", "--pid", ""), ["71", "72"])
         self.assertEqual(complete("quillon", "sheet", "--query", ""), [])
