@@ -66,6 +66,7 @@ std::vector<AppStats> statsOf(const UsageBook& usage, const SheetMap& sheets, Co
 
 std::vector<AppStats> statsOfApp(const std::vector<AppStats>& all, std::string_view name) {
     std::vector<ListedApp> apps;
+    apps.reserve(all.size());
     for (const AppStats& stats : all)
         apps.push_back({{0, stats.bundleID, stats.appName, {}}, "", {}});
     const auto chosen = appCalled(name, apps);
