@@ -28,6 +28,8 @@ constexpr double oneItem = 3;
 constexpr std::size_t mostPrepared = 256;
 /// How often a place is tried at which nothing was found.
 constexpr int mostAttempts = 2;
+/// How often a menu is tried, wherever the pointer is in it, in which nothing was found yet.
+constexpr int mostEntries = 4;
 
 bool areWithin(Point a, Point b, double distance) {
     return std::abs(a.x - b.x) <= distance && std::abs(a.y - b.y) <= distance;
@@ -55,6 +57,8 @@ struct LinuxMenuUse::Browsing {
     std::optional<atspi::MenuPlace> toBePrepared{}; ///< when nothing is to be asked
     std::optional<atspi::MenuPlace> fruitless{};    ///< where there was nothing to prepare
     int attempts = 0;                               ///< how often there was nothing
+    std::uint64_t entered = 0;                      ///< the opening that nothing was found in last
+    int entries = 0;                                ///< how often there was nothing in it
     Subscription job{};
     bool isBusy = false; ///< the job runs
     std::optional<Point> lastSeen{};
@@ -67,6 +71,17 @@ struct LinuxMenuUse::Browsing {
     }
     bool isHopeless(const atspi::MenuPlace& place) const {
         return attempts >= mostAttempts && fruitless && isSamePlace(*fruitless, place);
+    }
+    /// Whether it is worth while to learn which menu it is before the pointer rests on an item.
+    bool isNew(std::uint64_t opening) const {
+        return std::ranges::find(prepared, opening, &Prepared::opening) == prepared.end()
+               && (entered != opening || entries < mostEntries);
+    }
+    void foundNothing(const atspi::MenuPlace& place) {
+        attempts = fruitless && isSamePlace(*fruitless, place) ? attempts + 1 : 1;
+        fruitless = place;
+        entries = entered == place.opening ? entries + 1 : 1;
+        entered = place.opening;
     }
 };
 
@@ -157,9 +172,9 @@ void LinuxMenuUse::pointerSeen(Point at, bool isHeld) {
     const auto place = placeOf(at);
     if (!place)
         return tellPointed(0);
-    // A button that is held down may be let go at once.
-    const bool mayChoose = isHeld || browsing.glances >= glancesAtRest;
-    if (mayChoose && !browsing.isPrepared(*place) && !browsing.isHopeless(*place))
+    // A button that is held down may be let go at once, and what menu it is takes the longest to learn.
+    const bool isUrgent = isHeld || browsing.glances >= glancesAtRest || browsing.isNew(place->opening);
+    if (isUrgent && !browsing.isPrepared(*place) && !browsing.isHopeless(*place))
         prepare(*place);
 }
 
@@ -242,9 +257,7 @@ void LinuxMenuUse::prepared(const atspi::MenuPlace& place, const std::optional<R
         browsing.prepared.push_back({place.opening, *area});
         browsing.attempts = 0;
     } else {
-        const bool isAgain = browsing.fruitless && isSamePlace(*browsing.fruitless, place);
-        browsing.attempts = isAgain ? browsing.attempts + 1 : 1;
-        browsing.fruitless = place;
+        browsing.foundNothing(place);
     }
     if (browsing.prepared.size() > mostPrepared)
         browsing.prepared.erase(browsing.prepared.begin());

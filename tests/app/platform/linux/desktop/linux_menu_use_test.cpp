@@ -178,6 +178,19 @@ TEST_F(LinuxMenuUseTest, APointerThatRestsIsPreparedForOnce) {
     EXPECT_THAT(lines, IsEmpty());
 }
 
+TEST_F(LinuxMenuUseTest, AMenuIsPreparedForAsSoonAsThePointerIsInIt) {
+    openMenu();
+    std::int16_t x = 100;
+    EXPECT_TRUE(waitFor([&] {
+        x = static_cast<std::int16_t>(x < 190 ? x + 7 : 100);
+        client->movePointer(x, 105); // never rests
+        return background.waiting() > 0;
+    }));
+    background.runAll();
+    EXPECT_THAT(lookup->asked, ElementsAre("prepare 0"));
+    EXPECT_THAT(lines, IsEmpty());
+}
+
 TEST_F(LinuxMenuUseTest, WithoutAnAnswerWhatWasKnownOfThePlaceStands) {
     openMenu();
     press(120, 105);
