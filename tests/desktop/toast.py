@@ -13,10 +13,15 @@ SHADOW = 36  # what it reaches beyond the toast, where windows are blended
 SHOWN_FOR = 2.8 + 0.4  # seconds, fading out included
 
 
+TITLE = "menu", "menu item"  # GTK's roles of what opens a menu, and Qt's
+
+
 class ToastTestCase(QuillonTestCase):
+    application = "mousepad"
+
     def setUp(self):
         super().setUp()
-        self.editor = self.start_application("mousepad")
+        self.editor = self.start_application(self.application)
         self.start_quillon()
         wait_until("the editor's menus to be known", (LEARNED / "menus.json").exists)
 
@@ -34,12 +39,12 @@ class ToastTestCase(QuillonTestCase):
         """Makes the editor's window small and moves it there."""
         desktop.xdotool("getactivewindow", "windowsize", 320, 200, "windowmove", left, top)
         wait_until("the editor's window to be moved", lambda: (
-            left <= self.element(("menu",), "File").extents()[0] < left + 40
-            and top <= self.element(("menu",), "File").extents()[1] < top + 60))
+            left <= self.element(TITLE, "File").extents()[0] < left + 40
+            and top <= self.element(TITLE, "File").extents()[1] < top + 60))
 
     def click_command(self, menu, command, at=0.5):
         """Opens the menu and clicks the command: in the middle of its line, or nearer to its begin (0) or end (1)."""
-        desktop.click(*self.element(("menu",), menu).centre())
+        desktop.click(*self.element(TITLE, menu).centre())
         x, y, width, height = self.element(("menu item", "check menu item"), command).extents()
         desktop.xdotool("mousemove", x + int(at * width), y + height // 2)
         time.sleep(REST)
