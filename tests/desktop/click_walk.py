@@ -1,12 +1,12 @@
 #!/usr/bin/python3
 """Clicks every command of an application's menu bar and compares what was counted with what was clicked.
 
-    QUILLON_BIN=build/release/bin scripts/private-desktop -- tests/desktop/click_walk.py [geany] [designer]
+    QUILLON_BIN=build/release/bin scripts/private-desktop -- tests/desktop/click_walk.py [geany] [designer] [gimp]
 
-For every command of the application's sheet: opens its menus with the mouse, clicks it, closes what it opened; an
-application that ended is started anew. Prints three numbers: hits (counted as clicked), misses (not counted), and
-wrong ones (something else was counted). Commands that cannot be clicked now, because they are disabled or not
-shown, are told apart.
+For every command of the application's sheet: opens its menus with the mouse, clicks it, closes what it opened. The
+application is started anew when it ended, and wherever a command cannot be clicked, in one of its other states
+after the other. Prints three numbers: hits (counted as clicked), misses (not counted), and wrong ones (something
+else was counted). Commands that can be clicked in none of the states are told apart.
 """
 
 import argparse
@@ -18,13 +18,9 @@ import time
 
 import desktop
 import quillon
+from click_walk_applications import APPLICATIONS
 from desktop import wait_until
 from menus import Menus, below, is_on_screen, press_and_let_go
-
-COMMANDS = {
-    "geany": ["geany", "--new-instance", "--no-session"],
-    "designer": ["/usr/lib/qt6/bin/designer"],
-}
 
 
 def total_counts(bundle):
@@ -40,28 +36,25 @@ def total_counts(bundle):
 class Walk:
     def __init__(self, name):
         self.name = name
+        self.kind = APPLICATIONS[name]
         self.application = None
         self.start()
         facts = quillon.sheet("--pid", self.application.pid)
         self.bundle = facts["bundleID"]
-        self.paths = [tuple(entry["path"]) for entry in facts["entries"]]
+        self.paths = [path for path in (tuple(entry["path"]) for entry in facts["entries"])
+                      if self.kind.only is None or path in self.kind.only]
         self.results = collections.defaultdict(list)
 
-    def start(self):
+    def start(self, state=None):
+        """Anew, in this state, or else in the first."""
         if self.application:
             self.application.end()
-        self.application = desktop.Program(COMMANDS[self.name])
+        self.application = desktop.Program(self.kind.command(), self.kind.environment)
         wait_until("its window", lambda: desktop.xdotool("getactivewindow", "getwindowpid", check=False)
-                   == str(self.application.pid))
-        wait_until("it on the bus", lambda: desktop.showing_windows(self.application.pid))
-        if self.name == "designer":
-            wait_until("its first dialog", lambda: "New Form" in desktop.active_title())
-            desktop.press("Return")  # with a form open, its commands can be used
-            wait_until("a form", lambda: "New Form" not in desktop.active_title())
-        else:
-            desktop.type_text("some words")
-        time.sleep(0.7)  # its menus are read when it comes to the front
+                   == str(self.application.pid), within=60)
+        wait_until("it on the bus", lambda: desktop.showing_windows(self.application.pid), within=60)
         self.menus = Menus(self.application.pid)
+        self.kind.prepare(self.application.pid, state or self.kind.states[0])
         self.main_windows = self.windows()
 
     def windows(self):
@@ -83,6 +76,17 @@ class Walk:
         if not self.is_as_before():
             self.start()
 
+    def click_in_some_state(self, path):
+        """Whether the command could be clicked, as the application is, or started anew in one of its states."""
+        if self.click(path):
+            return True
+        for state in self.kind.states:
+            self.menus.close()
+            self.start(state)
+            if self.click(path):
+                return True
+        return False
+
     def click(self, path):
         """Whether the command could be clicked."""
         try:
@@ -100,7 +104,7 @@ class Walk:
     def run(self):
         before = total_counts(self.bundle)
         for path in self.paths:
-            clicked = self.click(path)
+            clicked = self.click_in_some_state(path)
             if not clicked:
                 self.menus.close()
                 self.results["not clickable"].append(path)
@@ -132,7 +136,7 @@ class Walk:
 
     def report(self):
         numbers = {kind: len(self.results[kind]) for kind in ("hits", "misses", "wrong", "not clickable")}
-        print(f"{self.name}: {len(self.paths)} commands on the sheet: " +
+        print(f"{self.name}: {len(self.paths)} commands walked: " +
               ", ".join(f"{number} {kind}" for kind, number in numbers.items()))
         for kind in ("misses", "wrong", "not clickable"):
             for result in self.results[kind]:
@@ -142,7 +146,7 @@ class Walk:
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("applications", nargs="*", default=list(COMMANDS), choices=list(COMMANDS))
+    parser.add_argument("applications", nargs="*", default=list(APPLICATIONS), choices=list(APPLICATIONS))
     options = parser.parse_args()
     if not quillon.is_private(quillon.LEARNED):
         parser.error("run it by scripts/private-desktop: it deletes what was learned")
