@@ -48,11 +48,10 @@ class ToastTest(ToastTestCase):
         for left, top, menu, command, at, expected in (at_the_right, at_the_left):
             self.place(left, top)
             self.click_command(menu, command, at)
-            x, y, _, height = self.wait_toast()
-            self.assertEqual(x, expected)
+            wait_until(f"the toast at {expected}", lambda left=expected: self.wait_toast()[0] == left)
+            _, y, _, height = self.wait_toast()
             self.assertGreaterEqual(y, MARGIN)
             self.assertLessEqual(y + height, SCREEN[1] - MARGIN)
-            wait_until("the toast to go", self.is_gone)
 
 
 if __name__ == "__main__":
