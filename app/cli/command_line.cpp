@@ -30,6 +30,12 @@ Commands:
                                   order in which they are asked
                 --seed S          the same round every time
   apps        list the running applications that share their menus
+  stats       print what was counted: clicks and typed uses of each command,
+              the most clicked first. "learned" are those typed 5 times more
+              than clicked; "clicks replaced" are the typed uses of commands
+              that were clicked as well
+                --app NAME        of the application with this id or name only
+                --format FORMAT   text (default) or json
   doctor      say what works on this desktop and how to mend what does not
   quit        end the running program
 
@@ -157,6 +163,22 @@ Command parseShow(const QStringList& arguments) {
     return ShowCommand{parser.isSet(sample)};
 }
 
+Command parseStats(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const QCommandLineOption app = withValue(u"app"_s);
+    const QCommandLineOption format = withValue(u"format"_s);
+    if (auto error = readOptions(parser, arguments, {app, format}))
+        return *error;
+    StatsCommand command;
+    if (parser.isSet(app))
+        command.appName = parser.value(app).toStdString();
+    const QString chosen = parser.isSet(format) ? parser.value(format) : u"text"_s;
+    if (chosen != "text"_L1 && chosen != "json"_L1)
+        return unexpected(u"--format is text or json, not '%1'"_s.arg(chosen));
+    command.format = chosen == "json"_L1 ? StatsFormat::json : StatsFormat::text;
+    return command;
+}
+
 template <class T>
 Command parsePlain(const QStringList& arguments) {
     if (auto error = readNoOptions(arguments))
@@ -173,6 +195,7 @@ constexpr std::array subcommands{
     Subcommand{"apps", parsePlain<AppsCommand>},
     Subcommand{"sheet", parseSheet},
     Subcommand{"show", parseShow},
+    Subcommand{"stats", parseStats},
     Subcommand{"doctor", parsePlain<DoctorCommand>},
     Subcommand{"quit", parsePlain<QuitCommand>},
 };

@@ -52,6 +52,15 @@ struct ShowCommand {
 
     bool operator==(const ShowCommand&) const = default;
 };
+enum class StatsFormat { text, json };
+
+/// `quillon stats`: of the application called `appName`, or of all.
+struct StatsCommand {
+    std::optional<std::string> appName;
+    StatsFormat format = StatsFormat::text;
+
+    bool operator==(const StatsCommand&) const = default;
+};
 /// `quillon doctor`
 struct DoctorCommand {
     bool operator==(const DoctorCommand&) const = default;
@@ -74,7 +83,8 @@ struct UsageError {
 };
 
 using Command = std::variant<
-    RunCommand, AppsCommand, SheetCommand, ShowCommand, DoctorCommand, QuitCommand, PrintCommand, UsageError>;
+    RunCommand, AppsCommand, SheetCommand, ShowCommand, StatsCommand, DoctorCommand, QuitCommand,
+    PrintCommand, UsageError>;
 
 /// Takes a leading --verbose away from the arguments after the program's name; whether there was one.
 bool takeVerbose(QStringList& arguments);

@@ -21,6 +21,8 @@ ExitCode runSheet(
     const SheetCommand& command, ApplicationList& applications, MenuReader& menuReader,
     const std::filesystem::path& dataFolder, const Clock& clock, Output& output);
 
+ExitCode runStats(const StatsCommand& command, const std::filesystem::path& dataFolder, Output& output);
+
 ExitCode runDoctor(Diagnosis& diagnosis, const std::filesystem::path& dataFolder, Output& output);
 
 ExitCode runQuit(RunningProgram& program, Output& output);

@@ -43,6 +43,10 @@ class Execution {
                 m_output);
         });
     }
+    ExitCode operator()(const StatsCommand& stats) {
+        return withPlatform(
+            [&](Platform& platform) { return runStats(stats, platform.dataFolder(), m_output); });
+    }
     ExitCode operator()(const DoctorCommand&) {
         return withPlatform([&](Platform& platform) {
             return runDoctor(platform.diagnosis(), platform.dataFolder(), m_output);

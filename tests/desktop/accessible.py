@@ -17,7 +17,7 @@ ROLES = {
     7: "check box", 8: "check menu item", 16: "dialog", 23: "frame", 29: "label", 31: "list", 32: "list item",
     33: "menu", 34: "menu bar", 35: "menu item", 39: "panel", 41: "popup menu", 43: "push button",
     45: "radio menu item", 46: "root pane", 50: "separator", 59: "tear off menu item", 61: "text", 69: "window", 75: "application",
-    79: "entry", 83: "heading",
+    79: "entry", 83: "heading", 101: "notification",
 }
 STATES = {
     1: "active", 4: "checked", 7: "editable", 8: "enabled", 11: "focusable", 12: "focused", 23: "selected",

@@ -116,6 +116,13 @@ def visible_windows(pid):
     return windows
 
 
+def window_types(window):
+    """What a window says it is, such as _NET_WM_WINDOW_TYPE_TOOLTIP."""
+    result = subprocess.run(["xprop", "-id", str(window), "_NET_WM_WINDOW_TYPE"], text=True, capture_output=True,
+                            stdin=subprocess.DEVNULL, check=False, timeout=10)
+    return result.stdout.partition("=")[2].replace(",", " ").split()
+
+
 def active_window():
     return xdotool("getactivewindow", check=False)
 

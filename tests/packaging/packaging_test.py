@@ -46,7 +46,12 @@ def formats_of_help():
 def complete(*words):
     """What bash offers for the last of `words`."""
     line = f'''source "{COMPLETION}"
-        quillon() {{ [[ $1 == apps ]] && printf '%s\\n' '71 geany Geany gtk' '72 org.gimp.GIMP GIMP gtk'; }}
+        quillon() {{
+            case $* in
+                apps) printf '%s\\n' '71 geany Geany gtk' '72 org.gimp.GIMP GIMP gtk' ;;
+                'stats --format json') printf '%s\\n' '[{{"bundleID":"geany"}},{{"bundleID":"org.kde.kate"}}]' ;;
+            esac
+        }}
         COMP_WORDS=({" ".join(f"'{word}'" for word in words)})
         COMP_CWORD={len(words) - 1}
         _quillon && printf '%s\\n' "${{COMPREPLY[@]}}"'''
@@ -95,12 +100,14 @@ class PackagingTest(unittest.TestCase):
     def test_completion_offers_every_command_and_option(self):
         self.assertEqual(set(complete("quillon", "")), {*commands_of_help(), "--help", "--verbose", "--version"})
         self.assertEqual({*complete("quillon", "sheet", "--"), *complete("quillon", "show", "--"),
-                          "--help", "--verbose", "--version"}, options_of_help())
+                          *complete("quillon", "stats", "--"), "--help", "--verbose", "--version"}, options_of_help())
 
     def test_completion_knows_values(self):
         self.assertEqual(complete("quillon", "sheet", "--format", "j"), ["json"])
         self.assertEqual(set(complete("quillon", "sheet", "--format", "")), formats_of_help())
+        self.assertEqual(complete("quillon", "stats", "--format", ""), ["text", "json"])
         self.assertEqual(complete("quillon", "sheet", "--app", ""), ["geany", "org.gimp.GIMP"])
+        self.assertEqual(complete("quillon", "stats", "--app", ""), ["geany", "org.kde.kate"])
         self.assertEqual(complete("quillon", "sheet", "--pid", ""), ["71", "72"])
         self.assertEqual(complete("quillon", "sheet", "--query", ""), [])
 

@@ -22,7 +22,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int rounds = 41;
-constexpr double budget = 16.0;
+constexpr double budget = 8.0;
 constexpr const char* area = "quillon::ShortcutArea";
 
 QTextStream& out() {

@@ -23,6 +23,17 @@ TEST(CommandLine, AloneRunsTheProgram) {
     EXPECT_EQ(parse({}), Command(RunCommand{}));
 }
 
+TEST(CommandLine, StatsAreOfOneApplicationOrOfAll) {
+    EXPECT_EQ(parse({"stats"}), Command(StatsCommand{}));
+    EXPECT_EQ(
+        parse({"stats", "--app", "geany", "--format", "json"}),
+        Command(StatsCommand{.appName = "geany", .format = StatsFormat::json}));
+    EXPECT_EQ(
+        errorOf(parse({"stats", "--format", "markdown"})),
+        "--format is text or json, not 'markdown'; see quillon --help");
+    EXPECT_NE(errorOf(parse({"stats", "--pid", "1"})), "no error");
+}
+
 TEST(CommandLine, KnowsItsPlainCommands) {
     EXPECT_EQ(parse({"apps"}), Command(AppsCommand{}));
     EXPECT_EQ(parse({"doctor"}), Command(DoctorCommand{}));

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <fstream>
 
 #include <fcntl.h>
 
@@ -87,6 +88,68 @@ TEST_F(CommandsTest, AnObstacleIsTheSameForAllThatReadMenus) {
     EXPECT_EQ(sheet(), ExitCode::noAccessibility);
     EXPECT_EQ(results.text(), "");
     EXPECT_EQ(messages.text(), "quillon: accessibility is off\nquillon: accessibility is off\n");
+}
+
+struct StatsCommandTest : CommandsTest {
+    ExitCode stats(const StatsCommand& command = {}) { return runStats(command, folder.path(), output); }
+    void have(const char* file, std::string_view text) { std::ofstream(folder.path() / file) << text; }
+
+    static constexpr std::string_view counted =
+        R"({"apps":{"org.example.sketch":{"File › Save":{"clicked":2,"practiceRight":0,"practiceWrong":0,"typed":8},)"
+        R"("File › Gone\u001b":{"clicked":1,"practiceRight":0,"practiceWrong":0,"typed":0}},)"
+        R"("other":{"A":{"clicked":0,"practiceRight":0,"practiceWrong":0,"typed":1}}}})";
+    static constexpr std::string_view menus =
+        R"({"org.example.sketch":{"appName":"Sketch","bundleID":"org.example.sketch","entries":[{"enabled":true,)"
+        R"("path":["File","Save"],"shortcut":{"key":{"char":{"_0":"S"}},"modifiers":1}}],"readAt":"2024-05-01T09:30:00Z"}})";
+};
+
+TEST_F(StatsCommandTest, PrintsWhatWasCounted) {
+    have("usage.json", counted);
+    have("menus.json", menus);
+    EXPECT_EQ(stats(), ExitCode::success);
+    EXPECT_EQ(
+        results.text(), "Sketch (org.example.sketch): clicked 3, typed 8, clicks replaced by typing 8\n"
+                        "  File › Gone<U+001B>  -   clicked 1  typed 0\n"
+                        "  File › Save          ⌃S  clicked 2  typed 8  learned\n"
+                        "\n"
+                        "other: clicked 0, typed 1, clicks replaced by typing 0\n"
+                        "  A  -  clicked 0  typed 1\n");
+    EXPECT_EQ(messages.text(), "");
+}
+
+TEST_F(StatsCommandTest, OfOneApplicationForPrograms) {
+    have("usage.json", counted);
+    have("menus.json", menus);
+    EXPECT_EQ(stats({.appName = "sketch", .format = StatsFormat::json}), ExitCode::success);
+    EXPECT_EQ(
+        results.text(),
+        R"([{"appName":"Sketch","bundleID":"org.example.sketch","clicked":3,"commands":[)"
+        "{\"clicked\":1,\"graduated\":false,\"id\":\"File › Gone\\u001b\",\"typed\":0},"
+        R"({"clicked":2,"graduated":true,"id":"File › Save","shortcut":{"key":{"char":{"_0":"S"}},"modifiers":1},"typed":8}],)"
+        "\"replaced\":8,\"typed\":8}]\n");
+}
+
+TEST_F(StatsCommandTest, SaysWhenThereIsNothing) {
+    EXPECT_EQ(stats(), ExitCode::success);
+    EXPECT_EQ(stats({.appName = {}, .format = StatsFormat::json}), ExitCode::success);
+    EXPECT_EQ(stats({.appName = "sk\x1b", .format = StatsFormat::text}), ExitCode::noSuchApp);
+    EXPECT_EQ(results.text(), "[]\n");
+    EXPECT_EQ(
+        messages.text(), "quillon: nothing was counted yet\nquillon: nothing was counted yet\n"
+                         "quillon: nothing was counted of an application called 'sk<U+001B>'\n");
+    EXPECT_EQ(runStats({}, {}, output), ExitCode::failure);
+}
+
+TEST_F(StatsCommandTest, NamesTheFileThatCannotBeMadeOut) {
+    have("usage.json", "[]");
+    EXPECT_EQ(stats(), ExitCode::failure);
+    EXPECT_EQ(results.text(), "");
+    EXPECT_NE(messages.text().find((folder.path() / "usage.json").string()), std::string::npos);
+    have("usage.json", counted);
+    have("menus.json", "[]");
+    EXPECT_EQ(stats(), ExitCode::failure);
+    EXPECT_NE(results.text().find("File › Save          -"), std::string::npos) << "what can be said";
+    EXPECT_NE(messages.text().find((folder.path() / "menus.json").string()), std::string::npos);
 }
 
 TEST_F(CommandsTest, SheetIsOfTheFrontApplication) {

@@ -22,7 +22,27 @@ std::optional<ObjectRef> GtkOpenMenuSearch::selectedChild(const ObjectRef& objec
     return selected;
 }
 
+std::optional<Rect> GtkOpenMenuSearch::prepare(const MenuPlace& place) {
+    auto found = findOpen(place);
+    if (!found)
+        return std::nullopt;
+    const Rect frame = found->frame;
+    m_hovered.push_front({place.opening, *std::move(found)});
+    if (m_hovered.size() > mostHovered)
+        m_hovered.pop_back();
+    return frame;
+}
+
 std::optional<FoundItem> GtkOpenMenuSearch::find(const MenuPlace& place) {
+    if (auto found = findOpen(place))
+        return found;
+    for (const Hovered& hovered : m_hovered)
+        if (hovered.opening == place.opening && hovered.item.frame.contains(place.at))
+            return hovered.item;
+    return std::nullopt;
+}
+
+std::optional<FoundItem> GtkOpenMenuSearch::findOpen(const MenuPlace& place) {
     const auto known = m_known.find(place.opening);
     if (known != m_known.end())
         return findInKnown(known->second, place);

@@ -13,6 +13,7 @@ struct MenuPlace {
     std::size_t level = 0;     ///< how many menus were open before it
     Rect window;
     Point at;
+    Point openedFrom{}; ///< where the pointer was when the window came to the screen: mostly on its title
 };
 
 } // namespace quillon::atspi

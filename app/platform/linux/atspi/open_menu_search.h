@@ -25,6 +25,8 @@ class OpenMenuSearch {
   public:
     virtual ~OpenMenuSearch() = default;
 
+    /// See `MenuLookup::prepare`. Waits.
+    virtual std::optional<Rect> prepare(const MenuPlace& place) = 0;
     /// Waits; absent when nothing of the menu bar's menus is there, or nothing that is an item.
     virtual std::optional<FoundItem> find(const MenuPlace& place) = 0;
 };

@@ -45,6 +45,10 @@ class OpenMenus::Session {
         m_search = makeOpenMenuSearch(m_calls, menuBar->object, m_family);
     }
 
+    std::optional<Rect> prepare(const MenuPlace& place) {
+        return m_search ? m_search->prepare(place) : std::nullopt;
+    }
+
     std::optional<MenuItemFacts> itemAt(const MenuPlace& place) {
         const auto found = m_search ? m_search->find(place) : std::nullopt;
         return found ? describe(*found) : std::nullopt;
@@ -158,11 +162,25 @@ OpenMenus::OpenMenus(RunningApp app, std::shared_ptr<MenuBarMemory> memory, cons
 
 OpenMenus::~OpenMenus() = default;
 
-std::optional<MenuItemFacts> OpenMenus::itemAt(const MenuPlace& place, const std::stop_token& stop) {
-    const std::stop_callback giveUp(stop, [this] { m_stop.request_stop(); });
+OpenMenus::Session& OpenMenus::session() {
     if (!m_session)
         m_session = std::make_unique<Session>(m_app, *m_memory, m_limits, m_stop.get_token());
-    return m_session->itemAt(place);
+    return *m_session;
+}
+
+void OpenMenus::begin(const std::stop_token& stop) {
+    const std::stop_callback giveUp(stop, [this] { m_stop.request_stop(); });
+    session();
+}
+
+std::optional<Rect> OpenMenus::prepare(const MenuPlace& place, const std::stop_token& stop) {
+    const std::stop_callback giveUp(stop, [this] { m_stop.request_stop(); });
+    return session().prepare(place);
+}
+
+std::optional<MenuItemFacts> OpenMenus::itemAt(const MenuPlace& place, const std::stop_token& stop) {
+    const std::stop_callback giveUp(stop, [this] { m_stop.request_stop(); });
+    return session().itemAt(place);
 }
 
 ReadLimits OpenMenus::patience() {

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "menu_place.h"
+#include "menu_lookup.h"
 #include "read_limits.h"
 
-#include <quillon/app/ports/menu_use.h>
 #include <quillon/app/ports/running_app.h>
 
 #include <memory>
@@ -19,24 +18,27 @@ std::shared_ptr<MenuBarMemory> makeMenuBarMemory();
 
 /// The menus that one application has open now, asked over a connection of their own. The application is
 /// asked about the items that somebody wants to know of and no others. Of one thread at a time.
-class OpenMenus {
+class OpenMenus final : public MenuLookup {
   public:
     /// Asks nothing yet. `memory` is never null.
     OpenMenus(RunningApp app, std::shared_ptr<MenuBarMemory> memory, const ReadLimits& limits = patience());
-    ~OpenMenus();
+    ~OpenMenus() override;
     OpenMenus(const OpenMenus&) = delete;
     OpenMenus& operator=(const OpenMenus&) = delete;
 
-    /// The command, title or submenu at a place; path and shortcut are those of the whole sheet. Waits within
-    /// the limits, so never to be called on the main thread. Absent when there is none, it is not the menu
-    /// bar's, or the application does not answer: once it has not, for good.
-    std::optional<MenuItemFacts> itemAt(const MenuPlace& place, const std::stop_token& stop);
+    void begin(const std::stop_token& stop) override;
+    /// Within the limits; once the application has not answered, it is not asked again.
+    std::optional<Rect> prepare(const MenuPlace& place, const std::stop_token& stop) override;
+    /// The menu bar's items alone. Path and shortcut are those of the whole sheet.
+    std::optional<MenuItemFacts> itemAt(const MenuPlace& place, const std::stop_token& stop) override;
 
     /// How long an application may take with a single answer: nobody remembers a click for longer.
     static ReadLimits patience();
 
   private:
     class Session;
+
+    Session& session();
 
     RunningApp m_app;
     std::shared_ptr<MenuBarMemory> m_memory;

@@ -17,51 +17,83 @@ std::int32_t pixel(double value) {
 
 } // namespace
 
+std::optional<Rect> QtOpenMenuSearch::prepare(const MenuPlace& place) {
+    return knownMenuIn(place) ? std::optional(place.window) : std::nullopt;
+}
+
 std::optional<FoundItem> QtOpenMenuSearch::find(const MenuPlace& place) {
-    auto known = m_known.find(place.opening);
-    if (known == m_known.end()) {
-        auto menu = menuIn(place);
-        if (!menu)
-            return std::nullopt;
-        known = m_known.emplace(place.opening, *std::move(menu)).first;
-    }
-    const OpenMenu& menu = known->second;
-    const Point at = menu.map.inToolkit(place.at);
-    std::optional<ObjectRef> item;
-    m_calls.objectAt(menu.popup, pixel(at.x), pixel(at.y), [&item](std::optional<ObjectRef> object) {
-        item = std::move(object);
-    });
-    m_calls.pipeline().run();
+    const OpenMenu* menu = knownMenuIn(place);
+    if (!menu)
+        return std::nullopt;
+    auto item = objectAt(menu->popup, menu->map.inToolkit(place.at));
     const auto itemExtents = item ? extents(*item) : std::nullopt;
     if (!itemExtents)
         return std::nullopt;
-    const Rect frame = menu.map.onDisplay(*itemExtents);
+    const Rect frame = menu->map.onDisplay(*itemExtents);
     if (!frame.contains(place.at))
         return std::nullopt;
-    return FoundItem{*std::move(item), menu.titles, frame};
+    return FoundItem{*std::move(item), menu->titles, frame};
+}
+
+const QtOpenMenuSearch::OpenMenu* QtOpenMenuSearch::knownMenuIn(const MenuPlace& place) {
+    const auto known = m_known.find(place.opening);
+    if (known != m_known.end())
+        return &known->second;
+    auto menu = menuIn(place);
+    return menu ? &m_known.emplace(place.opening, *std::move(menu)).first->second : nullptr;
 }
 
 /// Goes down through the menus that are open to the one that the window can be. Where two are of one size, it
 /// is the one that as many menus were open before.
 std::optional<QtOpenMenuSearch::OpenMenu> QtOpenMenuSearch::menuIn(const MenuPlace& place) {
     std::optional<OpenMenu> fitting;
-    std::vector<ObjectRef> titles;
-    ObjectRef menu = m_menuBar;
+    OpenMenu menu{m_menuBar, {}, {}};
     for (std::size_t level = 0; level < MenuParser::defaultMaxDepth; ++level) {
-        const auto title = focusedChild(menu);
-        const auto popup = title ? popupOf(*title) : std::nullopt;
-        const auto popupExtents = popup ? extents(*popup) : std::nullopt;
-        if (!popupExtents)
+        auto next = menuBelow(menu, place);
+        if (!next)
             break;
-        titles.push_back(*title);
-        menu = *popup;
-        if (const auto map = mapBetween(*popupExtents, place.window)) {
-            fitting = OpenMenu{menu, titles, *map};
-            if (level == place.level)
-                break;
-        }
+        menu = *std::move(next);
+        const auto map = mapBetween(menu.place, place.window);
+        if (!map)
+            continue;
+        menu.map = *map;
+        fitting = menu;
+        if (level == place.level)
+            break;
     }
     return fitting;
+}
+
+/// The menu that is open below another: mostly that of the title that the pointer was on.
+std::optional<QtOpenMenuSearch::OpenMenu>
+QtOpenMenuSearch::menuBelow(const OpenMenu& parent, const MenuPlace& place) {
+    if (const auto title = objectAt(parent.popup, parent.map.inToolkit(place.openedFrom))) {
+        auto menu = opened(parent, *title);
+        if (menu && mapBetween(menu->place, place.window))
+            return menu;
+    }
+    const auto title = focusedChild(parent.popup);
+    return title ? opened(parent, *title) : std::nullopt;
+}
+
+std::optional<QtOpenMenuSearch::OpenMenu>
+QtOpenMenuSearch::opened(const OpenMenu& parent, const ObjectRef& title) {
+    const auto popup = popupOf(title);
+    const auto place = popup ? extents(*popup) : std::nullopt;
+    if (!place)
+        return std::nullopt;
+    OpenMenu menu{*popup, parent.titles, parent.map, *place};
+    menu.titles.push_back(title);
+    return menu;
+}
+
+std::optional<ObjectRef> QtOpenMenuSearch::objectAt(const ObjectRef& object, Point place) {
+    std::optional<ObjectRef> found;
+    m_calls.objectAt(object, pixel(place.x), pixel(place.y), [&found](std::optional<ObjectRef> child) {
+        found = std::move(child);
+    });
+    m_calls.pipeline().run();
+    return found;
 }
 
 std::optional<ObjectRef> QtOpenMenuSearch::focusedChild(const ObjectRef& menu) {

@@ -46,10 +46,7 @@ panelWindows(const std::shared_ptr<X11Connection>& x11, const std::shared_ptr<Ra
 
 LinuxMenuUse::MakeLookup lookupInOpenMenus() {
     return [memory = atspi::makeMenuBarMemory()](const RunningApp& app) {
-        auto menus = std::make_shared<atspi::OpenMenus>(app, memory);
-        return [menus = std::move(menus)](const atspi::MenuPlace& place, const std::stop_token& stop) {
-            return menus->itemAt(place, stop);
-        };
+        return std::make_shared<atspi::OpenMenus>(app, memory);
     };
 }
 

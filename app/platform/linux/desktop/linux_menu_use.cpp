@@ -4,9 +4,12 @@
 
 #include <quillon/app/ports/diagnostics/log.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstdint>
 #include <utility>
+#include <vector>
 
 namespace quillon {
 
@@ -16,12 +19,14 @@ using namespace std::chrono_literals;
 
 /// Moving along a menu bar closes a menu and opens the next.
 constexpr auto farewell = 2s;
-/// How far the pointer moves between two looks at it while it lingers.
-constexpr double lingering = 8;
+/// How far the pointer may move from one glance at it to the next and still rest.
+constexpr double resting = 3;
+/// How many glances at a resting pointer make it likely that a click follows, and not another item.
+constexpr int glancesAtRest = 3;
 /// How far from each other two places are surely on one item.
 constexpr double oneItem = 3;
-
-/// How often a place is asked about while the pointer rests there.
+constexpr std::size_t mostPrepared = 256;
+/// How often a place is tried at which nothing was found.
 constexpr int mostAttempts = 2;
 
 bool areWithin(Point a, Point b, double distance) {
@@ -35,17 +40,34 @@ bool isSamePlace(const atspi::MenuPlace& a, const atspi::MenuPlace& b) {
 } // namespace
 
 struct LinuxMenuUse::Browsing {
+    struct Prepared {
+        std::uint64_t opening;
+        Rect area;
+    };
+
     RunningApp app;
-    Lookup lookup;
+    std::shared_ptr<atspi::MenuLookup> lookup;
     PointedItems items{};
-    MenuItemNumber pointed = 0;    ///< what was told last
-    std::optional<Look> running{}; ///< what is being asked
-    std::optional<Look> wanted{};  ///< what is asked next
+    std::vector<Prepared> prepared{};
+    MenuItemNumber pointed = 0;                     ///< what was told last
+    std::optional<Look> running{};                  ///< what is being asked
+    std::optional<Look> wanted{};                   ///< what is asked next
+    std::optional<atspi::MenuPlace> toBePrepared{}; ///< when nothing is to be asked
+    std::optional<atspi::MenuPlace> fruitless{};    ///< where there was nothing to prepare
+    int attempts = 0;                               ///< how often there was nothing
     Subscription job{};
-    std::optional<Look> fruitless{}; ///< the last one that found nothing
-    int attempts = 0;                ///< how many at its place
+    bool isBusy = false; ///< the job runs
     std::optional<Point> lastSeen{};
-    bool isPressed = false;
+    int glances = 0; ///< since the pointer rests
+
+    bool isPrepared(const atspi::MenuPlace& place) const {
+        return std::ranges::any_of(prepared, [&place](const Prepared& one) {
+            return one.opening == place.opening && one.area.contains(place.at);
+        });
+    }
+    bool isHopeless(const atspi::MenuPlace& place) const {
+        return attempts >= mostAttempts && fruitless && isSamePlace(*fruitless, place);
+    }
 };
 
 LinuxMenuUse::LinuxMenuUse(std::shared_ptr<X11Connection> x11, std::shared_ptr<RawInput> input, Needs needs)
@@ -89,10 +111,23 @@ void LinuxMenuUse::menusOpened(const RunningApp& app) {
     qCDebug(logMenus).noquote() << "a menu opened of" << logged(app);
     m_farewell.stop();
     if (!m_browsing || !isSameApp(m_browsing->app, app) || m_browsing->app.windows != app.windows)
-        m_browsing = std::make_unique<Browsing>(Browsing{app, m_needs.makeLookup(app)});
+        beginBrowsing(app);
     m_browsing->pointed = 0;
     m_browsing->lastSeen.reset();
     m_evidence.emit(menu_use::Opened{app});
+}
+
+void LinuxMenuUse::beginBrowsing(const RunningApp& app) {
+    m_browsing = std::make_unique<Browsing>(Browsing{app, m_needs.makeLookup(app)});
+    m_browsing->isBusy = true;
+    m_browsing->job =
+        m_needs.background.run([this, lookup = m_browsing->lookup](const std::stop_token& stop) {
+            lookup->begin(stop);
+            return [this] {
+                m_browsing->isBusy = false;
+                workOn();
+            };
+        });
 }
 
 void LinuxMenuUse::menusClosed() {
@@ -105,7 +140,6 @@ void LinuxMenuUse::menusClosed() {
 void LinuxMenuUse::pointerPressed(Point at) {
     if (!m_browsing)
         return;
-    m_browsing->isPressed = true;
     const auto place = placeOf(at);
     if (!place)
         return tellPointed(0);
@@ -114,33 +148,31 @@ void LinuxMenuUse::pointerPressed(Point at) {
     ask({++m_lastNumber, *place, known ? std::optional(known->facts) : std::nullopt});
 }
 
-void LinuxMenuUse::pointerSeen(Point at) {
+void LinuxMenuUse::pointerSeen(Point at, bool isHeld) {
     if (!m_browsing)
         return;
-    const bool lingers = m_browsing->lastSeen && areWithin(*m_browsing->lastSeen, at, lingering);
-    m_browsing->lastSeen = at;
-    point(at, lingers || m_browsing->isPressed);
+    Browsing& browsing = *m_browsing;
+    const auto last = std::exchange(browsing.lastSeen, at);
+    browsing.glances = last && areWithin(*last, at, resting) ? browsing.glances + 1 : 0;
+    const auto place = placeOf(at);
+    if (!place)
+        return tellPointed(0);
+    // A button that is held down may be let go at once.
+    const bool mayChoose = isHeld || browsing.glances >= glancesAtRest;
+    if (mayChoose && !browsing.isPrepared(*place) && !browsing.isHopeless(*place))
+        prepare(*place);
 }
 
 void LinuxMenuUse::leftButtonReleased(Point at) {
     if (!m_browsing)
         return;
-    m_browsing->isPressed = false;
-    point(at, true); // where the menu was slow to open, nothing was asked before
+    tellReleasedOver(at);
     m_evidence.emit(menu_use::Released{at});
 }
 
-/// The topmost menu that is there.
-std::optional<atspi::MenuPlace> LinuxMenuUse::placeOf(Point at) const {
-    const auto& popups = m_popups->popups();
-    for (std::size_t level = popups.size(); level-- > 0;)
-        if (popups[level].frame.contains(at))
-            return atspi::MenuPlace{popups[level].opening, level, popups[level].frame, at};
-    return std::nullopt;
-}
-
-/// Tells what is pointed at, as far as it is known or `isToBeAsked`.
-void LinuxMenuUse::point(Point at, bool isToBeAsked) {
+/// What was pressed is known or is being asked about; where a button that was held down came from elsewhere,
+/// neither.
+void LinuxMenuUse::tellReleasedOver(Point at) {
     const auto place = placeOf(at);
     if (!place)
         return tellPointed(0);
@@ -149,9 +181,17 @@ void LinuxMenuUse::point(Point at, bool isToBeAsked) {
             return tellPointed((*look)->number);
     if (const auto* known = m_browsing->items.at(place->opening, at))
         return tellPointed(known->number);
-    if (!isToBeAsked || isFruitless(*place))
-        return tellPointed(0);
     ask({++m_lastNumber, *place, std::nullopt});
+}
+
+/// The topmost menu that is there.
+std::optional<atspi::MenuPlace> LinuxMenuUse::placeOf(Point at) const {
+    const auto& popups = m_popups->popups();
+    for (std::size_t level = popups.size(); level-- > 0;)
+        if (popups[level].frame.contains(at))
+            return atspi::MenuPlace{
+                popups[level].opening, level, popups[level].frame, at, popups[level].openedFrom};
+    return std::nullopt;
 }
 
 void LinuxMenuUse::tellPointed(MenuItemNumber number) {
@@ -164,43 +204,61 @@ void LinuxMenuUse::ask(Look look) {
     if (!m_browsing)
         return;
     m_browsing->wanted = std::move(look);
-    askNext();
+    workOn();
 }
 
-void LinuxMenuUse::askNext() {
-    if (!m_browsing || m_browsing->running || !m_browsing->wanted)
+void LinuxMenuUse::prepare(const atspi::MenuPlace& place) {
+    m_browsing->toBePrepared = place;
+    workOn();
+}
+
+/// One question after the other: of the item that is pressed, or else of a place that may be.
+void LinuxMenuUse::workOn() {
+    if (!m_browsing || m_browsing->isBusy)
         return;
     Browsing& browsing = *m_browsing;
-    browsing.running = std::exchange(browsing.wanted, std::nullopt);
-    browsing.job = m_needs.background.run(
-        [this, lookup = browsing.lookup, look = *browsing.running](const std::stop_token& stop) {
-            auto facts = lookup(look.place, stop);
-            return [this, look, facts = std::move(facts)] { answered(look, facts); };
-        });
+    if (auto look = std::exchange(browsing.wanted, std::nullopt)) {
+        browsing.isBusy = true;
+        browsing.running = look;
+        browsing.job = m_needs.background.run(
+            [this, lookup = browsing.lookup, look = *std::move(look)](const std::stop_token& stop) {
+                auto facts = lookup->itemAt(look.place, stop);
+                return [this, look, facts = std::move(facts)] { answered(look, facts); };
+            });
+    } else if (const auto place = std::exchange(browsing.toBePrepared, std::nullopt)) {
+        browsing.isBusy = true;
+        browsing.job = m_needs.background.run(
+            [this, lookup = browsing.lookup, place = *place](const std::stop_token& stop) {
+                const auto area = lookup->prepare(place, stop);
+                return [this, place, area] { prepared(place, area); };
+            });
+    }
+}
+
+void LinuxMenuUse::prepared(const atspi::MenuPlace& place, const std::optional<Rect>& area) {
+    Browsing& browsing = *m_browsing;
+    browsing.isBusy = false;
+    if (area) {
+        browsing.prepared.push_back({place.opening, *area});
+        browsing.attempts = 0;
+    } else {
+        const bool isAgain = browsing.fruitless && isSamePlace(*browsing.fruitless, place);
+        browsing.attempts = isAgain ? browsing.attempts + 1 : 1;
+        browsing.fruitless = place;
+    }
+    if (browsing.prepared.size() > mostPrepared)
+        browsing.prepared.erase(browsing.prepared.begin());
+    workOn();
 }
 
 void LinuxMenuUse::answered(const Look& look, const std::optional<MenuItemFacts>& facts) {
+    m_browsing->isBusy = false;
     m_browsing->running.reset();
     if (!facts)
-        noteFruitless(look);
+        m_browsing->items.forget(look.place.opening); // where no item is, it may have scrolled
     if (const auto& known = facts ? facts : look.otherwise)
         tellAll(look, *known);
-    askNext();
-}
-
-/// Nothing is there, and what tells nothing may be an arrow that scrolls the menu; or the application has not
-/// followed the pointer yet.
-void LinuxMenuUse::noteFruitless(const Look& look) {
-    Browsing& browsing = *m_browsing;
-    browsing.items.forget(look.place.opening);
-    const bool isAgain = browsing.fruitless && isSamePlace(browsing.fruitless->place, look.place);
-    browsing.attempts = isAgain ? browsing.attempts + 1 : 1;
-    browsing.fruitless = look;
-}
-
-bool LinuxMenuUse::isFruitless(const atspi::MenuPlace& place) const {
-    return m_browsing->fruitless && isSamePlace(m_browsing->fruitless->place, place)
-           && m_browsing->attempts >= mostAttempts;
+    workOn();
 }
 
 /// Of this look, and of the next one where that is at the same item.

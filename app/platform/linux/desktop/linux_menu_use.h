@@ -2,7 +2,7 @@
 
 #include "pointed_items.h"
 
-#include <quillon/app/platform/linux/atspi/menu_place.h>
+#include <quillon/app/platform/linux/atspi/menu_lookup.h>
 #include <quillon/app/platform/linux/x11/menu_popups.h>
 #include <quillon/app/ports/background.h>
 #include <quillon/app/ports/menu_use.h>
@@ -12,21 +12,17 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <stop_token>
 
 namespace quillon {
 
 /// How menus are used on an X server. The server tells when menus are open and where the pointer is; the
-/// application is asked, off the main thread, about the items that the pointer lingers on or presses, each of
-/// them once. It is asked and never listened to: an application that has listeners tells of every change, and
-/// of every key.
+/// application is asked, off the main thread, about the item that a button goes down on or is let go over.
+/// While menus are only browsed it is asked next to nothing, and it is never listened to: an application that
+/// has listeners tells of every change, and of every key.
 class LinuxMenuUse final : public MenuUse, private MenuPopupsObserver {
   public:
-    /// Tells the item at a place. Waits; called off the main thread, one call after the other.
-    using Lookup =
-        std::function<std::optional<MenuItemFacts>(const atspi::MenuPlace&, const std::stop_token&)>;
-    /// A look-up in the menus that an application has open now.
-    using MakeLookup = std::function<Lookup(const RunningApp&)>;
+    /// A look-up in the menus that an application has open now. Never null.
+    using MakeLookup = std::function<std::shared_ptr<atspi::MenuLookup>(const RunningApp&)>;
 
     struct Needs {
         FrontApplication& front;
@@ -50,20 +46,21 @@ class LinuxMenuUse final : public MenuUse, private MenuPopupsObserver {
 
     void menusOpened(const RunningApp& app) override;
     void pointerPressed(Point at) override;
-    void pointerSeen(Point at) override;
+    void pointerSeen(Point at, bool isHeld) override;
     void leftButtonReleased(Point at) override;
     void menusClosed() override;
 
     void begin();
+    void beginBrowsing(const RunningApp& app);
     void end();
     std::optional<atspi::MenuPlace> placeOf(Point at) const;
-    void point(Point at, bool isToBeAsked);
+    void prepare(const atspi::MenuPlace& place);
+    void prepared(const atspi::MenuPlace& place, const std::optional<Rect>& area);
+    void tellReleasedOver(Point at);
     void tellPointed(MenuItemNumber number);
     void ask(Look look);
-    void askNext();
+    void workOn();
     void answered(const Look& look, const std::optional<MenuItemFacts>& facts);
-    void noteFruitless(const Look& look);
-    bool isFruitless(const atspi::MenuPlace& place) const;
     void tellAll(const Look& look, const MenuItemFacts& facts);
     void tellOf(const Look& look, const MenuItemFacts& facts);
 

@@ -23,6 +23,7 @@ constexpr auto glanceInterval = 50ms;
 /// Windows that are not the front application's; more of them do not come by being clicked.
 constexpr std::size_t mostOthers = 32;
 constexpr std::uint32_t lastPlainButton = 3;
+constexpr unsigned anyPlainButton = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
 constexpr std::uint8_t sentByClient = 0x80;
 
 } // namespace
@@ -174,11 +175,11 @@ void MenuPopups::consider(xcb_window_t window) {
         return;
     }
     std::erase(m_others, window);
-    m_popups.push_back({window, ++m_openings, bare->frame});
+    m_popups.push_back({window, ++m_openings, bare->frame, pointer().value_or(Point{})});
     if (std::exchange(m_wasOpen, true))
         return;
-    lookAtMapping();
     follow();
+    lookAtMapping(); // answered once the server tells of buttons that are let go
     if (m_observer)
         m_observer->menusOpened(*front);
 }
@@ -218,7 +219,7 @@ void MenuPopups::follow() {
 void MenuPopups::tellPlace() {
     const auto at = pointer();
     if (at && m_observer)
-        m_observer->pointerSeen(*at);
+        m_observer->pointerSeen(*at, m_isHeld);
 }
 
 /// Has the server tell which windows come and go, for as long as that matters.
@@ -247,8 +248,10 @@ void MenuPopups::lookAtMapping() {
 std::optional<Point> MenuPopups::pointer() {
     const auto reply =
         m_x11->reply<xcb_query_pointer_reply_t>(xcb_query_pointer(m_x11->xcb(), m_x11->root()));
-    if (reply)
+    if (reply) {
         m_lastPlace = Point{static_cast<double>(reply->root_x), static_cast<double>(reply->root_y)};
+        m_isHeld = (reply->mask & anyPlainButton) != 0;
+    }
     return m_lastPlace;
 }
 

@@ -25,9 +25,9 @@ class MenuPopupsObserver {
     virtual void menusOpened(const RunningApp& app) = 0;
     /// A button went down.
     virtual void pointerPressed(Point at) = 0;
-    /// The pointer is there; told twenty times a second, whether it moves or not, for half a minute after
-    /// each press.
-    virtual void pointerSeen(Point at) = 0;
+    /// The pointer is there, and a button is held down or not; told twenty times a second, whether it moves
+    /// or not, for half a minute after each press.
+    virtual void pointerSeen(Point at, bool isHeld) = 0;
     /// The left button was let go.
     virtual void leftButtonReleased(Point at) = 0;
     /// No menu is open any more.
@@ -44,6 +44,7 @@ class MenuPopups {
         xcb_window_t window = XCB_NONE;
         std::uint64_t opening = 0; ///< another one whenever it opens, changes its place, or may have scrolled
         Rect frame;
+        Point openedFrom; ///< where the pointer was when it came to the screen
     };
 
     /// `front` and `observer` outlive it.
@@ -92,6 +93,7 @@ class MenuPopups {
     std::vector<xcb_window_t> m_others; ///< came to the screen and are not the front application's so far
     std::uint64_t m_openings = 0;
     std::optional<Point> m_lastPlace; ///< since menus are open
+    bool m_isHeld = false;            ///< a button was down then
     std::uint32_t m_leftButton = 1;   ///< the number that the device gives it
     bool m_wasOpen = false;           ///< what the observer was told last
     bool m_frontChanged = false;

@@ -1,5 +1,7 @@
 #include "fake_app_process.h"
+#include "kill_accessibility_bus.h"
 
+#include <quillon/app/platform/linux/atspi/accessibility_bus.h>
 #include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/app/platform/linux/atspi/menu_bar_memory.h>
 #include <quillon/app/platform/linux/atspi/open_menus.h>
@@ -10,6 +12,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <thread>
 
 namespace quillon {
 namespace {
@@ -149,6 +152,23 @@ TEST_P(OpenMenusTest, AHungApplicationIsGivenUpForGoodAndTheNextMenuAsksAgain) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, 150ms) << "given up before";
     process.resume();
     EXPECT_TRUE(itemAt(process, place(0, 0, itemsOfMenu)));
+}
+
+TEST_P(OpenMenusTest, WithABusThatWasStartedAnewTheNextMenuIsTold) {
+    {
+        const FakeAppProcess process = start({"Menu of Fake", "Item 1"});
+        OpenMenus menus(appOf(process), m_memory);
+        ASSERT_TRUE(menus.itemAt(place(0, 0, itemsOfMenu), {}));
+        killAccessibilityBus();
+        EXPECT_FALSE(menus.itemAt(place(0, 0, itemsOfMenu), {}));
+    }
+    const auto isBack = [] { return atspi::probeAccessibilityBus().hasAccessibilityBus; };
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!isBack() && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::yield();
+    const FakeAppProcess next = start({"Menu of Fake", "Item 1"});
+    ASSERT_TRUE(next.isReady());
+    EXPECT_TRUE(itemAt(next, place(0, 0, itemsOfMenu)));
 }
 
 TEST_P(OpenMenusTest, OfAMenuWith500ItemsOnlyTheOneIsAsked) {

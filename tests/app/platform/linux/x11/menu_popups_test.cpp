@@ -1,4 +1,4 @@
-#include "support/x11_fixture.h"
+#include <quillon/tests/app/platform/linux/x11/support/x11_fixture.h>
 
 #include <quillon/app/platform/fake/fake_front_application.h>
 #include <quillon/app/platform/linux/x11/menu_popups.h>
@@ -19,7 +19,7 @@ using testing::IsEmpty;
 struct Diary final : MenuPopupsObserver {
     void menusOpened(const RunningApp& app) override { lines.push_back("opened " + app.bundleID); }
     void pointerPressed(Point at) override { lines.push_back("pressed " + text(at)); }
-    void pointerSeen(Point at) override { seen.push_back(text(at)); }
+    void pointerSeen(Point at, bool isHeld) override { seen.push_back(text(at) + (isHeld ? " held" : "")); }
     void leftButtonReleased(Point at) override { lines.push_back("released " + text(at)); }
     void menusClosed() override { lines.emplace_back("closed"); }
 
@@ -176,7 +176,7 @@ TEST_F(MenuPopupsTest, TheWheelOpensNothingAndMakesWhatIsOpenAnew) {
 }
 
 TEST_F(MenuPopupsTest, ButtonsSwappedForTheLeftHand) {
-    client->setPointerMapping({3, 2, 1});
+    ASSERT_TRUE(client->setPointerMapping({3, 2, 1}));
     const xcb_window_t menu = makeMenu(*application);
     press(3);
     show(menu);
@@ -242,8 +242,12 @@ TEST_F(MenuPopupsTest, ThePointerIsFollowedWhileAMenuIsOpen) {
     EXPECT_THAT(diary.seen, IsEmpty());
     show(menu);
     client->movePointer(111, 112);
-    EXPECT_TRUE(waitFor([&] { return std::ranges::find(diary.seen, "111,112") != diary.seen.end(); }));
+    const auto isSeen = [&](const char* text) {
+        return waitFor([&] { return std::ranges::find(diary.seen, text) != diary.seen.end(); });
+    };
+    EXPECT_TRUE(isSeen("111,112 held"));
     letGo();
+    EXPECT_TRUE(isSeen("111,112"));
     hide(menu);
     settle();
     const std::size_t until = diary.seen.size();

@@ -1,4 +1,4 @@
-#include "support/x11_fixture.h"
+#include <quillon/tests/app/platform/linux/x11/support/x11_fixture.h>
 
 #include <quillon/app/platform/linux/x11/work_areas.h>
 

@@ -1,4 +1,4 @@
-#include "support/x11_fixture.h"
+#include <quillon/tests/app/platform/linux/x11/support/x11_fixture.h>
 
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
 #include <quillon/kit/base/file_descriptor.h>
@@ -57,12 +57,22 @@ TEST_F(X11PanelWindowsTest, APreparedPanelIsMarkedAsANotice) {
     EXPECT_THAT(client->numbers(panel, "_NET_WM_USER_TIME"), ElementsAre(0));
 }
 
-TEST_F(X11PanelWindowsTest, TakesTheKeyboardAndGivesItBack) {
-    const xcb_window_t editor = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    EXPECT_TRUE(hasFocus(panel));
+/// A panel that has taken the keyboard of an editor.
+struct X11TakenKeyboardTest : X11PanelWindowsTest {
+    void SetUp() override {
+        X11PanelWindowsTest::SetUp();
+        editor = client->makeWindow({});
+        panel = makePanel();
+        client->setFocus(editor);
+        panels->takeKeyboard(panel);
+        ASSERT_TRUE(hasFocus(panel));
+    }
+
+    xcb_window_t editor = XCB_NONE;
+    xcb_window_t panel = XCB_NONE;
+};
+
+TEST_F(X11TakenKeyboardTest, IsGivenBack) {
     panels->returnKeyboard(panel);
     EXPECT_TRUE(hasFocus(editor));
 }
@@ -80,12 +90,7 @@ TEST_F(X11PanelWindowsTest, APanelThatIsNotOnTheScreenYetGetsTheKeyboardWhenItIs
     EXPECT_TRUE(hasFocus(editor));
 }
 
-TEST_F(X11PanelWindowsTest, APanelThatIsShownAgainDoesNotTakeTheKeyboardByItself) {
-    const xcb_window_t editor = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    ASSERT_TRUE(hasFocus(panel));
+TEST_F(X11TakenKeyboardTest, APanelThatIsShownAgainDoesNotTakeTheKeyboardByItself) {
     panels->returnKeyboard(panel);
     client->unmap(panel);
     client->map(panel);
@@ -93,12 +98,7 @@ TEST_F(X11PanelWindowsTest, APanelThatIsShownAgainDoesNotTakeTheKeyboardByItself
     EXPECT_EQ(client->focus(), editor);
 }
 
-TEST_F(X11PanelWindowsTest, NorDoesOneThatWasHiddenWithoutGivingItBack) {
-    const xcb_window_t editor = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    ASSERT_TRUE(hasFocus(panel));
+TEST_F(X11TakenKeyboardTest, NorDoesOneThatWasHiddenWithoutGivingItBack) {
     settle();
     client->unmap(panel);
     client->setFocus(editor);
@@ -107,13 +107,8 @@ TEST_F(X11PanelWindowsTest, NorDoesOneThatWasHiddenWithoutGivingItBack) {
     EXPECT_EQ(client->focus(), editor);
 }
 
-TEST_F(X11PanelWindowsTest, AKeyboardThatAnotherWindowHasTakenStaysThere) {
-    const xcb_window_t editor = client->makeWindow({});
+TEST_F(X11TakenKeyboardTest, AKeyboardThatAnotherWindowHasTakenStaysThere) {
     const xcb_window_t other = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    ASSERT_TRUE(hasFocus(panel));
     client->setFocus(other);
     settle();
     panels->returnKeyboard(panel);
@@ -121,23 +116,13 @@ TEST_F(X11PanelWindowsTest, AKeyboardThatAnotherWindowHasTakenStaysThere) {
     EXPECT_EQ(client->focus(), other);
 }
 
-TEST_F(X11PanelWindowsTest, TheKeyboardOfAPanelThatIsOffTheScreenAlreadyGoesBackToo) {
-    const xcb_window_t editor = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    ASSERT_TRUE(hasFocus(panel));
+TEST_F(X11TakenKeyboardTest, TheKeyboardOfAPanelThatIsOffTheScreenAlreadyGoesBackToo) {
     client->unmap(panel);
     panels->returnKeyboard(panel);
     EXPECT_TRUE(hasFocus(editor));
 }
 
-TEST_F(X11PanelWindowsTest, GivingTheKeyboardBackAsksNobody) {
-    const xcb_window_t editor = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    ASSERT_TRUE(hasFocus(panel));
+TEST_F(X11TakenKeyboardTest, GivingTheKeyboardBackAsksNobody) {
     settle();
     client->grabServer();
     const auto begin = std::chrono::steady_clock::now();
@@ -149,24 +134,14 @@ TEST_F(X11PanelWindowsTest, GivingTheKeyboardBackAsksNobody) {
     EXPECT_FALSE(client->isMapped(panel));
 }
 
-TEST_F(X11PanelWindowsTest, AKeyboardWhoseOwnerIsGoneFollowsThePointer) {
-    const xcb_window_t editor = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    ASSERT_TRUE(hasFocus(panel));
+TEST_F(X11TakenKeyboardTest, AKeyboardWhoseOwnerIsGoneFollowsThePointer) {
     client->destroy(editor);
     panels->returnKeyboard(panel);
     panels->takeAway(panel);
     EXPECT_TRUE(hasFocus(XCB_INPUT_FOCUS_POINTER_ROOT));
 }
 
-TEST_F(X11PanelWindowsTest, TakingTwiceRemembersWhoHadItFirst) {
-    const xcb_window_t editor = client->makeWindow({});
-    const xcb_window_t panel = makePanel();
-    client->setFocus(editor);
-    panels->takeKeyboard(panel);
-    ASSERT_TRUE(hasFocus(panel));
+TEST_F(X11TakenKeyboardTest, TakingTwiceRemembersWhoHadItFirst) {
     panels->takeKeyboard(panel);
     panels->returnKeyboard(panel);
     EXPECT_TRUE(hasFocus(editor));

@@ -170,18 +170,18 @@ void TestClient::buttonUp(std::uint8_t button) {
     fake(XCB_BUTTON_RELEASE, button);
 }
 
-void TestClient::setPointerMapping(const std::vector<std::uint8_t>& buttons) {
+bool TestClient::setPointerMapping(const std::vector<std::uint8_t>& buttons) {
     // A mapping tells of every button that the pointer has.
-    const auto current =
-        xcb_get_pointer_mapping_reply(m_xcb.get(), xcb_get_pointer_mapping(m_xcb.get()), nullptr);
+    const X11Reply<xcb_get_pointer_mapping_reply_t> current(
+        xcb_get_pointer_mapping_reply(m_xcb.get(), xcb_get_pointer_mapping(m_xcb.get()), nullptr));
     std::vector<std::uint8_t> map(
-        xcb_get_pointer_mapping_map(current),
-        xcb_get_pointer_mapping_map(current) + xcb_get_pointer_mapping_map_length(current));
-    std::free(current);
+        xcb_get_pointer_mapping_map(current.get()),
+        xcb_get_pointer_mapping_map(current.get()) + xcb_get_pointer_mapping_map_length(current.get()));
     std::ranges::copy(buttons, map.begin());
-    std::free(xcb_set_pointer_mapping_reply(
+    const X11Reply<xcb_set_pointer_mapping_reply_t> reply(xcb_set_pointer_mapping_reply(
         m_xcb.get(), xcb_set_pointer_mapping(m_xcb.get(), static_cast<std::uint8_t>(map.size()), map.data()),
         nullptr));
+    return reply && reply->status == XCB_MAPPING_STATUS_SUCCESS;
 }
 
 void TestClient::moveWindow(xcb_window_t window, std::uint32_t x, std::uint32_t y) {

@@ -58,8 +58,8 @@ class TestClient {
     void buttonDown(std::uint8_t button);
     void buttonUp(std::uint8_t button);
     void click(std::uint8_t button);
-    /// What the device's buttons count as, its first button's number first.
-    void setPointerMapping(const std::vector<std::uint8_t>& buttons);
+    /// What the device's buttons count as, its first button's number first. False while a button is down.
+    bool setPointerMapping(const std::vector<std::uint8_t>& buttons);
     /// Has the server tell this client when the pointer comes to or leaves a window.
     void watchPointer(xcb_window_t window);
     /// How the pointer came to watched windows since the last time: XCB_NOTIFY_MODE_… of each coming.

@@ -1,0 +1,56 @@
+#include "commands.h"
+
+#include <quillon/app/cli/stats.h>
+#include <quillon/kit/coach/nudge_policy.h>
+#include <quillon/kit/records/json_file.h>
+#include <quillon/kit/records/learned_files.h>
+
+#include <utility>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+/// What the file holds, nothing when there is none. Says why when it cannot be made out; absent then.
+template <class Value>
+std::optional<Value> load(const std::filesystem::path& file, Output& output) {
+    auto loaded = JSONFile<Value>(file).tryLoad();
+    const LoadFailure* const failure = loaded.failure();
+    if (!failure)
+        return std::move(loaded).value();
+    if (failure->kind == LoadFailure::Kind::absent)
+        return Value{};
+    output.say(TerminalText::of(file.string()) + ": " + TerminalText::of(failure->message()));
+    return std::nullopt;
+}
+
+} // namespace
+
+ExitCode runStats(const StatsCommand& command, const std::filesystem::path& dataFolder, Output& output) {
+    if (dataFolder.empty())
+        return output.fail(ExitCode::failure, "there is no home folder that could hold anything; set HOME");
+    const auto usage = load<UsageBook>(dataFolder / LearnedFiles::usage, output);
+    if (!usage)
+        return ExitCode::failure;
+    const auto sheets = load<SheetMap>(dataFolder / LearnedFiles::menus, output);
+
+    std::vector<AppStats> stats =
+        statsOf(*usage, sheets.value_or(SheetMap{}), defaultNudgePolicy.graduateAfter);
+    if (command.appName) {
+        stats = statsOfApp(stats, *command.appName);
+        if (stats.empty())
+            return output.fail(
+                ExitCode::noSuchApp,
+                "nothing was counted of an application called '" + TerminalText::of(*command.appName) + "'");
+    }
+    if (stats.empty())
+        output.say("nothing was counted yet");
+    if (command.format == StatsFormat::json)
+        output.printData(statsJson(stats));
+    else
+        output.print(statsText(stats));
+    return sheets ? ExitCode::success : ExitCode::failure;
+}
+
+} // namespace quillon
