@@ -4,6 +4,7 @@ import contextlib
 import json
 import os
 import pathlib
+import re
 import secrets
 
 import desktop
@@ -196,15 +197,16 @@ class PrivacyTest(TypedTestCase):
         return [text.encode(encoding) for part in parts for text in (part, part.upper())
                 for encoding in ("utf-8", "utf-16-le", "utf-32-le")]
 
-    def records_with_keys(self, content):
-        """The sizes of records, up to 64 bytes, that hold the codes of its keys one behind the other."""
-        codes = bytes(CODES[letter] for letter in self.secret[:8])
-        return [size for size in (1, 2, 4, 8, 12, 16, 24, 32, 36, 40, 48, 56, 64)
-                if any(codes in content[first::size] for first in range(size))]
+    def key_codes(self):
+        """Patterns of the codes of its keys, one behind the other or in records of up to 64 bytes."""
+        codes = [re.escape(bytes([CODES[letter]])) for letter in self.secret[:8]]
+        return [re.compile((b".{%d}" % (size - 1)).join(codes), re.DOTALL)
+                for size in (1, 2, 4, 8, 12, 16, 24, 32, 36, 40, 48, 56, 64)]
 
     def found_in(self, content):
         """Which of all those are in these bytes."""
-        return [text for text in self.texts() if text in content] + self.records_with_keys(content)
+        return [text for text in self.texts() if text in content] + \
+            [pattern.pattern for pattern in self.key_codes() if pattern.search(content)]
 
     def test_the_search_finds_what_is_there(self):
         codes = bytes(CODES[letter] for letter in self.secret)
@@ -249,7 +251,7 @@ class PrivacyTest(TypedTestCase):
 
 
 def memory_of(pid):
-    """Everything that a process can have written to, mapping by mapping."""
+    """Everything that a process can have written to, mapping by mapping, without the zeros around it."""
     with open(f"/proc/{pid}/mem", "rb", buffering=0) as memory:
         for line in pathlib.Path(f"/proc/{pid}/maps").read_text(encoding="utf-8").splitlines():
             span, rights = line.split()[:2]
@@ -257,7 +259,7 @@ def memory_of(pid):
                 first, end = (int(address, 16) for address in span.split("-"))
                 memory.seek(first)
                 with contextlib.suppress(OSError):
-                    yield memory.read(end - first)
+                    yield memory.read(end - first).strip(b"\0") + b"\0\0\0"  # that may end a letter
 
 
 if __name__ == "__main__":
