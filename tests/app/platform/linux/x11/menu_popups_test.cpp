@@ -268,6 +268,47 @@ TEST_F(MenuPopupsTest, AMenuThatMovesCountsAsAnother) {
     letGo();
 }
 
+TEST_F(MenuPopupsTest, OfAFloodOfWindowsOnlyTheLastOnesAreLookedAt) {
+    std::vector<xcb_window_t> menus(300);
+    for (xcb_window_t& menu : menus)
+        menu = makeMenu(*application);
+    press();
+    const unsigned before = requestsSoFar();
+    for (const xcb_window_t menu : menus)
+        application->map(menu);
+    settle();
+    EXPECT_LT(requestsSoFar() - before, 100U);
+    ASSERT_FALSE(popups->popups().empty());
+    EXPECT_EQ(popups->popups().back().window, menus.back());
+    letGo();
+}
+
+TEST_F(MenuPopupsTest, WhoIsInFrontIsAskedOnceForAllWindows) {
+    struct Counting final : FrontApplication {
+        std::optional<RunningApp> current() const override {
+            ++asked;
+            return app;
+        }
+        Subscription onActivated(std::function<void(const RunningApp&)>) override { return {}; }
+        std::optional<RunningApp> app;
+        mutable int asked = 0;
+    };
+    Counting counting;
+    counting.app = appWith(window);
+    TestClient other(x11Display());
+    for (int i = 0; i < 4; ++i)
+        makeMenu(other, true);
+    makeMenu(*application, true);
+    popups.reset();
+    popups = std::make_unique<MenuPopups>(x11, std::make_shared<RawInput>(x11), counting, diary);
+    settle();
+    press();
+    EXPECT_EQ(counting.asked, 1);
+    EXPECT_EQ(popups->popups().size(), 1U);
+    letGo();
+    popups.reset();
+}
+
 TEST_F(MenuPopupsTest, StoppedItTellsNothing) {
     const xcb_window_t menu = makeMenu(*application);
     press();
