@@ -172,6 +172,9 @@ void MenuPopups::consider(xcb_window_t window) {
     if (!bare || !bare->isMenu)
         return;
     const std::optional<RunningApp>& front = frontNow();
+    // A game's one window may be such a window too.
+    if (front && std::ranges::find(front->windows, window, &AppWindow::id) != front->windows.end())
+        return;
     const bool isFronts =
         front && !front->windows.empty()
         && (bare->pid == front->pid

@@ -202,6 +202,13 @@ TEST_F(MenuPopupsTest, TooltipsAndListsAreNoMenus) {
     }
 }
 
+TEST_F(MenuPopupsTest, AnApplicationsOwnWindowIsNoMenuAlthoughNoWindowManagerHandlesIt) {
+    front.setCurrent(appWith(application->makeWindow({.overrideRedirect = true})));
+    press();
+    letGo();
+    EXPECT_THAT(diary.lines, IsEmpty());
+}
+
 TEST_F(MenuPopupsTest, WindowsOfOtherApplicationsAreNoMenus) {
     front.setCurrent(RunningApp{1, "editor", "Editor", {{application->makeWindow({}), ""}}});
     TestClient other(x11Display());
