@@ -40,10 +40,14 @@ appStats(const UsageBook& usage, const std::string& bundleID, const AppSheet* sh
     std::vector<UsageBook::Ranked> ranked = usage.mostClicked(bundleID, static_cast<Count>(records.size()));
     std::ranges::move(onlyTyped(records), std::back_inserter(ranked));
 
-    AppStats stats{.bundleID = bundleID, .appName = sheet ? sheet->appName : "", .commands = {}};
+    const UsageBook::Totals totals = usage.totals(bundleID);
+    AppStats stats{
+        .bundleID = bundleID,
+        .appName = sheet ? sheet->appName : "",
+        .clicked = totals.clicked,
+        .typed = totals.typed,
+        .commands = {}};
     for (const auto& [id, record] : ranked) {
-        stats.clicked = checkedAdd(stats.clicked, record.clicked);
-        stats.typed = checkedAdd(stats.typed, record.typed);
         stats.replaced = checkedAdd(stats.replaced, record.clicked > 0 ? record.typed : 0);
         stats.commands.push_back(commandStats(id, record, sheet, graduateAfter));
     }

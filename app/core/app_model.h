@@ -138,8 +138,6 @@ class AppModel {
     void closeOverlay();
     /// The user started to use a held overlay: it stays, and takes the keyboard.
     void keepOverlayOpen();
-    /// Whether holding the trigger key is noticed.
-    bool isWatching() const { return m_hold.isWatching(); }
     /// What of the user's doings is noticed. Clicks and typing are only where menus may be read, and where
     /// the settings want it.
     Watching watching() const {

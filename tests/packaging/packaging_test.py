@@ -46,7 +46,12 @@ def formats_of_help():
 def complete(*words):
     """What bash offers for the last of `words`."""
     line = f'''source "{COMPLETION}"
-        quillon() {{ [[ $1 == apps ]] && printf '%s\\n' '71 geany Geany gtk' '72 org.gimp.GIMP GIMP gtk'; }}
+        quillon() {{
+            case $* in
+                apps) printf '%s\\n' '71 geany Geany gtk' '72 org.gimp.GIMP GIMP gtk' ;;
+                'stats --format json') printf '%s\\n' '[{{"bundleID":"geany"}},{{"bundleID":"org.kde.kate"}}]' ;;
+            esac
+        }}
         COMP_WORDS=({" ".join(f"'{word}'" for word in words)})
         COMP_CWORD={len(words) - 1}
         _quillon && printf '%s\\n' "${{COMPREPLY[@]}}"'''
@@ -102,6 +107,7 @@ class PackagingTest(unittest.TestCase):
         self.assertEqual(set(complete("quillon", "sheet", "--format", "")), formats_of_help())
         self.assertEqual(complete("quillon", "stats", "--format", ""), ["text", "json"])
         self.assertEqual(complete("quillon", "sheet", "--app", ""), ["geany", "org.gimp.GIMP"])
+        self.assertEqual(complete("quillon", "stats", "--app", ""), ["geany", "org.kde.kate"])
         self.assertEqual(complete("quillon", "sheet", "--pid", ""), ["71", "72"])
         self.assertEqual(complete("quillon", "sheet", "--query", ""), [])
 

@@ -164,9 +164,9 @@ TEST_F(AppModelTest, SettingsAreStoredAndToldOnce) {
 TEST_F(AppModelTest, AModelThatWasNotStartedWatchesNothing) {
     model.setNudgesOn(false);
     model.setCountTyped(false);
-    EXPECT_FALSE(model.isWatching());
+    EXPECT_EQ(model.watching(), Watching());
     startWith(sketch);
-    EXPECT_TRUE(model.isWatching());
+    EXPECT_TRUE(model.watching().holds);
 }
 
 TEST_F(AppModelTest, PinsAreToggledAndTold) {

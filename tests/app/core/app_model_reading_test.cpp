@@ -26,7 +26,7 @@ TEST_F(AppModelTest, ReadsNothingWithoutPermission) {
 TEST_F(AppModelTest, AHoldIsNoticedWithoutPermissionToo) {
     desktop.front.setCurrent(sketch);
     model.start();
-    EXPECT_TRUE(model.isWatching());
+    EXPECT_TRUE(model.watching().holds);
     desktop.keyboard.press(Modifiers::command);
     desktop.timers.advance(Seconds(0.9));
     EXPECT_TRUE(panels.overlay->visible);
@@ -46,7 +46,7 @@ TEST_F(AppModelTest, NoticesThePermissionAtTheNextPoll) {
     EXPECT_TRUE(model.trusted());
     EXPECT_EQ(entriesShown(), 3U);
     EXPECT_EQ(desktop.keyboard.monitors(), 1U);
-    EXPECT_TRUE(model.isWatching());
+    EXPECT_TRUE(model.watching().holds);
 }
 
 TEST_F(AppModelTest, NoticesThePermissionAtOnceWhereTheDesktopTells) {

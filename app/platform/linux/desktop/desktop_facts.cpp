@@ -138,12 +138,16 @@ Check watcherCheck(const Watcher& watcher, const DesktopFacts& facts) {
         return {
             watcher.subject, Result::limited, watcher.object + " are not noticed: " + watcher.lacking,
             watcher.remedy};
-    if (!facts.watching)
-        return {watcher.subject, Result::good, "can notice " + watcher.object, ""};
-    if ((*facts.watching).*watcher.isOn)
-        return {watcher.subject, Result::good, "notices " + watcher.object, ""};
-    return {
-        watcher.subject, Result::limited, "does not notice " + watcher.object + " now", watcher.switchedOnBy};
+    if (facts.watching && !((*facts.watching).*watcher.isOn))
+        return {
+            watcher.subject, Result::limited, "does not notice " + watcher.object + " now",
+            watcher.switchedOnBy};
+    const std::string finding = (facts.watching ? "notices " : "can notice ") + watcher.object;
+    if (facts.waylandSession)
+        return {
+            watcher.subject, Result::limited, finding + " in X applications only",
+            "Log in to an X11 session for the rest."};
+    return {watcher.subject, Result::good, finding, ""};
 }
 
 Check holdWatcher(const DesktopFacts& facts) {

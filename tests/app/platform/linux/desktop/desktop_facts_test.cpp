@@ -130,6 +130,20 @@ TEST(Diagnosis, TellsWhatCouldBeNoticedWhileTheProgramDoesNotRun) {
     EXPECT_EQ(checkOf(facts, "Typed watcher").result, Check::Result::good);
 }
 
+TEST(Diagnosis, UnderWaylandTheWatchersSeeXApplicationsAlone) {
+    DesktopFacts facts = wellDesktop();
+    facts.waylandSession = true;
+    EXPECT_EQ(checkOf(facts, "Typed watcher").finding, "notices typed shortcuts in X applications only");
+    for (const bool isRunning : {true, false}) {
+        if (!isRunning)
+            facts.watching.reset();
+        for (const char* const watcher : watchers) {
+            EXPECT_EQ(checkOf(facts, watcher).result, Check::Result::limited) << watcher;
+            EXPECT_FALSE(checkOf(facts, watcher).remedy.empty()) << watcher;
+        }
+    }
+}
+
 /// What a desktop lacks, and whether clicks and typing are noticed all the same.
 struct Lack {
     const char* what;
