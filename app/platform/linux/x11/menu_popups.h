@@ -11,9 +11,12 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace quillon {
+
+struct BareWindow;
 
 /// Is told what is done with the open menus of the front application, in the order in which the server did
 /// it. Places are in the pixels of the display.
@@ -72,7 +75,8 @@ class MenuPopups {
     void handle(const Note& note);
     void pressed();
     void released(std::uint32_t button);
-    void consider(xcb_window_t window);
+    void consider(std::span<const xcb_window_t> windows);
+    void consider(const BareWindow& bare);
     void reconsider();
     void gone(xcb_window_t window);
     void scrolled();

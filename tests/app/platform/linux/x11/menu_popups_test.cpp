@@ -5,6 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QTimer>
+
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -258,8 +261,11 @@ TEST_F(MenuPopupsTest, ThePointerIsFollowedWhileAMenuIsOpen) {
     hide(menu);
     settle();
     const std::size_t until = diary.seen.size();
-    press();
-    letGo();
+    int glances = 0;
+    QTimer asOften;
+    asOften.callOnTimeout([&glances] { ++glances; });
+    asOften.start(std::chrono::milliseconds(50));
+    EXPECT_TRUE(waitFor([&] { return glances == 3; }));
     EXPECT_EQ(diary.seen.size(), until);
 }
 
