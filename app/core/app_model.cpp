@@ -32,8 +32,9 @@ HoldDetector detectorFor(const Settings& settings) {
 AppModel::AppModel(AppServices services)
     : m_services(std::move(services)),
       m_readings(m_services.menuReader, m_services.background, m_services.clock),
-      m_folder(m_services.dataFolder), m_save(m_services.timers, [this] { save(); }),
-      m_overlay(m_services.panels), m_toast(m_services.panels, m_services.timers),
+      m_folder(std::make_shared<DataFolder>(m_services.dataFolder)), m_writes(m_services.background),
+      m_save(m_services.timers, [this] { save(); }), m_overlay(m_services.panels),
+      m_toast(m_services.panels, m_services.timers),
       m_hold(m_services.keyboard, m_services.clock, m_services.timers, detectorFor(m_services.settings)),
       m_clicks(m_services.menuUse, m_services.clock, m_services.ownPid), m_typed(m_services.typedKeys) {
     m_settingChange =
@@ -137,10 +138,8 @@ void AppModel::read(const RunningApp& app) {
 
 void AppModel::sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
     const auto front = m_services.frontApplication.current();
-    if (m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app))) {
-        m_folder.sheetsChanged();
+    if (m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app)))
         m_save.schedule();
-    }
     tellDifferences();
 }
 
@@ -240,21 +239,30 @@ void AppModel::togglePin(const std::string& bundleID, const std::string& entryID
 }
 
 void AppModel::load() {
-    LearnedData learned = m_folder.load();
+    LearnedData learned = m_folder->load();
     m_records.replace(std::move(learned.usage), std::move(learned.annotations));
     m_sheets.load(std::move(learned.sheets));
     m_save.cancel();
 }
 
 void AppModel::save() {
-    m_folder.save(usage(), annotations(), sheets());
+    if (m_services.dataFolder.empty())
+        return;
+    m_writes.put([folder = m_folder, learned = LearnedData{usage(), annotations(), sheets()}]() mutable {
+        folder->save(std::move(learned));
+    });
+}
+
+void AppModel::savePending() {
+    m_save.flush();
+    m_writes.finish();
 }
 
 void AppModel::eraseEverything() {
     m_records.replace({}, {});
     m_sheets.clear();
     m_save.cancel();
-    m_folder.erase();
+    m_writes.finishWith([folder = m_folder] { folder->erase(); });
     tellDifferences();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "background_writes.h"
 #include "click_watcher.h"
 #include "current_sheet.h"
 #include "data_folder.h"
@@ -10,6 +11,7 @@
 #include "overlay_controller.h"
 #include "reading_queue.h"
 #include "settings.h"
+#include "shared_sheets.h"
 #include "typed_watcher.h"
 
 #include <quillon/app/ports/accessibility_access.h>
@@ -28,6 +30,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -108,7 +111,7 @@ class AppModel {
     /// The sheet of the front application; absent before the first one is known.
     const std::optional<AppSheet>& current() const { return m_sheets.current(); }
     /// The sheets read so far, by bundle identifier; none is empty.
-    const SheetMap& sheets() const { return m_sheets.sheets(); }
+    const SharedSheets& sheets() const { return m_sheets.sheets(); }
     /// Whether the menus of the current application are being read (of any, while none is current).
     bool reading() const;
     /// Whether the current application answered to the end when it was read last. True until then.
@@ -158,8 +161,8 @@ class AppModel {
     /// Whether a window that is asked for will open; views do not offer one that will not.
     bool offersWindow(WindowName name) const { return m_services.windows.offers(name); }
 
-    /// Writes at once what changed and would be written within the next second. For the end of the program.
-    void savePending() { m_save.flush(); }
+    /// Returns when all that changed has been written. For the end of the program.
+    void savePending();
     /// Forgets all sheets, counts, pins and notes, here and in the data folder. The settings stay.
     void eraseEverything();
 
@@ -183,7 +186,8 @@ class AppModel {
     CurrentSheet m_sheets;
     LearnedRecords m_records;
     ReadingQueue m_readings;
-    DataFolder m_folder;
+    std::shared_ptr<DataFolder> m_folder; ///< shared with a write that outlives the model
+    BackgroundWrites m_writes;
     DelayedSave m_save;
     OverlayController m_overlay;
     NudgeToastController m_toast;

@@ -7,16 +7,16 @@
 
 namespace quillon {
 
-void CurrentSheet::load(SheetMap sheets) {
+void CurrentSheet::load(SharedSheets sheets) {
     m_sheets = std::move(sheets);
     m_usedInOrder.clear();
     m_entries = 0;
     for (const auto& [bundleID, sheet] : m_sheets) {
         m_usedInOrder.push_back(bundleID);
-        m_entries += sheet.entries.size();
+        m_entries += sheet->entries.size();
     }
     std::ranges::stable_sort(
-        m_usedInOrder, {}, [this](const std::string& bundleID) { return m_sheets.at(bundleID).readAt; });
+        m_usedInOrder, {}, [this](const std::string& bundleID) { return m_sheets.at(bundleID)->readAt; });
     dropLeastRecent();
 }
 
@@ -25,7 +25,7 @@ void CurrentSheet::frontIs(const RunningApp& app) {
     const auto known = m_sheets.find(app.bundleID);
     if (known == m_sheets.end())
         return setCurrent({app.bundleID, app.name, {}, distantPast});
-    setCurrent(known->second);
+    setCurrent(*known->second);
     touch(app.bundleID);
 }
 
@@ -35,7 +35,7 @@ bool CurrentSheet::arrived(const RunningApp& app, AppSheet sheet, ReadOutcome ou
         .produced = outcome != ReadOutcome::unavailable,
         .complete = outcome != ReadOutcome::partial,
         .entries = sheet.entries.size(),
-        .cachedEntries = cached == m_sheets.end() ? 0 : cached->second.entries.size(),
+        .cachedEntries = cached == m_sheets.end() ? 0 : cached->second->entries.size(),
         .isIdentified = !app.bundleID.empty(),
         .anythingCurrent = m_current.has_value(),
         .currentIsThatApp = m_current && m_current->bundleID == app.bundleID,
@@ -44,7 +44,7 @@ bool CurrentSheet::arrived(const RunningApp& app, AppSheet sheet, ReadOutcome ou
     switch (arrival.current) {
     case SheetArrival::Current::keep: break;
     case SheetArrival::Current::takeNew: setCurrent(sheet); break;
-    case SheetArrival::Current::takeCached: setCurrent(cached->second); break;
+    case SheetArrival::Current::takeCached: setCurrent(*cached->second); break;
     }
     if (m_current && m_current->bundleID == app.bundleID)
         m_answered = outcome != ReadOutcome::partial;
@@ -75,10 +75,10 @@ void CurrentSheet::setCurrent(AppSheet sheet) {
 
 void CurrentSheet::store(AppSheet sheet) {
     const std::string bundleID = sheet.bundleID;
-    AppSheet& kept = m_sheets[bundleID];
     m_entries += sheet.entries.size();
-    m_entries -= kept.entries.size();
-    kept = std::move(sheet);
+    if (const auto former = m_sheets.find(bundleID); former != m_sheets.end())
+        m_entries -= former->second->entries.size();
+    m_sheets.insert_or_assign(bundleID, SharedSheet(std::move(sheet)));
     touch(bundleID);
     dropLeastRecent();
 }
@@ -96,7 +96,7 @@ void CurrentSheet::dropLeastRecent() {
             continue;
         }
         const auto dropped = m_sheets.find(*candidate);
-        m_entries -= dropped->second.entries.size();
+        m_entries -= dropped->second->entries.size();
         m_sheets.erase(dropped);
         candidate = m_usedInOrder.erase(candidate);
     }

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "shared_sheets.h"
+
 #include <quillon/app/ports/menu_reader.h>
 #include <quillon/app/ports/running_app.h>
 #include <quillon/kit/menu/app_sheet.h>
-#include <quillon/kit/records/json_codec.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -27,7 +28,7 @@ class CurrentSheet {
     const std::optional<AppSheet>& current() const { return m_current; }
     /// By bundle identifier; none is empty. Where there would be too many, those used longest ago are left
     /// out, never the current one.
-    const SheetMap& sheets() const { return m_sheets; }
+    const SharedSheets& sheets() const { return m_sheets; }
     /// Another number whenever `current` has become another sheet; cheaper to compare than sheets.
     std::uint64_t revision() const { return m_revision; }
 
@@ -35,7 +36,7 @@ class CurrentSheet {
     bool answered() const { return m_answered; }
 
     /// The sheets of an earlier run.
-    void load(SheetMap sheets);
+    void load(SharedSheets sheets);
     /// Another application came to the front: its sheet is current at once, an empty one while none is known.
     void frontIs(const RunningApp& app);
     /// The menus of `app` have been read to `sheet`. Whether `sheets` has another sheet now.
@@ -54,7 +55,7 @@ class CurrentSheet {
     std::optional<AppSheet> m_current;
     std::uint64_t m_revision = 0;
     bool m_answered = true;
-    SheetMap m_sheets;
+    SharedSheets m_sheets;
     std::size_t m_entries = 0;              ///< of all sheets
     std::vector<std::string> m_usedInOrder; ///< the sheets' identifiers, that of the last use at the end
 };

@@ -39,23 +39,30 @@ LearnedData DataFolder::load() {
     LearnedData learned{
         .usage = loadFile<UsageBook>(LearnedFiles::usage),
         .annotations = loadFile<AnnotationBook>(LearnedFiles::notes),
-        .sheets = loadFile<SheetMap>(LearnedFiles::menus),
+        .sheets = loadFile<SharedSheets>(LearnedFiles::menus),
     };
     m_savedAnnotations = learned.annotations;
+    m_savedSheets = learned.sheets;
     return learned;
 }
 
-void DataFolder::save(const UsageBook& usage, const AnnotationBook& annotations, const SheetMap& sheets) {
+void DataFolder::save(LearnedData learned) {
     if (m_folder.empty())
         return;
     // What fails is made up for by the next save.
-    saveFile(LearnedFiles::usage, usage);
-    if (m_savedAnnotations != annotations || !stands(LearnedFiles::notes)) {
-        const bool isSaved = saveFile(LearnedFiles::notes, annotations);
-        m_savedAnnotations = isSaved ? std::optional(annotations) : std::nullopt;
-    }
-    if (m_sheetsChanged || !stands(LearnedFiles::menus))
-        m_sheetsChanged = !saveFile(LearnedFiles::menus, sheets);
+    saveFile(LearnedFiles::usage, learned.usage);
+    saveOther(LearnedFiles::notes, std::move(learned.annotations), m_savedAnnotations);
+    saveOther(LearnedFiles::menus, std::move(learned.sheets), m_savedSheets);
+}
+
+/// Saves `value` unless the file holds it.
+template <class Value>
+void DataFolder::saveOther(const char* name, Value value, std::optional<Value>& saved) {
+    if (saved == value && stands(name))
+        return;
+    saved.reset();
+    if (saveFile(name, value))
+        saved = std::move(value);
 }
 
 /// Whether the file is there and is one of this program's.
@@ -71,7 +78,7 @@ void DataFolder::erase() {
     fs::remove_all(m_folder, ignored);
     m_broken.clear();
     m_savedAnnotations.reset();
-    m_sheetsChanged = true;
+    m_savedSheets.reset();
 }
 
 template <class Value>

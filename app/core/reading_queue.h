@@ -19,7 +19,8 @@ namespace quillon {
 /// its limits of readings.
 class ReadingQueue {
   public:
-    /// As many as there are threads to read on; more would only wait elsewhere.
+    /// A few less than there are threads, so that other work need not wait for applications that do not
+    /// answer; more would only wait elsewhere.
     static constexpr std::size_t mostUnderWay = 6;
     /// More applications than anyone goes through while six of them do not answer. The one that was asked for
     /// first is dropped first; it is asked for again when it comes to the front.

@@ -8,8 +8,9 @@ namespace quillon {
 
 namespace {
 
-/// Enough for several applications that do not answer beside one that does.
-constexpr int maxThreads = 6;
+/// Enough for several applications that do not answer, and beside them for what must not wait for any: saves
+/// and the menus that are in use.
+constexpr int maxThreads = 8;
 
 } // namespace
 

@@ -31,6 +31,11 @@ class AppModelLearningTest : public testing::Test {
         desktop.background.runAll();
         return model;
     }
+    /// Time passes, and what was begun in the background meanwhile is done.
+    void pass(Seconds length) {
+        desktop.timers.advance(length);
+        desktop.background.runAll();
+    }
     bool isStored() const { return std::filesystem::exists(data); }
     std::string read(const std::string& name) const {
         std::ifstream file(data / name);

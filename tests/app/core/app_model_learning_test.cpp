@@ -11,24 +11,25 @@ namespace fs = std::filesystem;
 TEST_F(AppModelLearningTest, PinsAndSheetsAreThereInTheNextRun) {
     auto model = startedModel();
     model->togglePin(sketch.bundleID, save);
-    desktop.timers.advance(Seconds(1.1));
-    const SheetMap sheets = model->sheets();
+    pass(Seconds(1.1));
+    const SharedSheets sheets = model->sheets();
     model.reset();
     auto next = modelOver(data);
     EXPECT_TRUE(next->sheets().empty()) << "loaded at the start";
     next->start();
     EXPECT_TRUE(next->annotations().get(sketch.bundleID, save).pinned);
     ASSERT_TRUE(next->sheets().contains(sketch.bundleID));
-    EXPECT_EQ(next->current()->entries, sheets.at(sketch.bundleID).entries) << "shown before it is read anew";
+    EXPECT_EQ(next->current()->entries, sheets.at(sketch.bundleID)->entries)
+        << "shown before it is read anew";
 }
 
 TEST_F(AppModelLearningTest, SavesASecondAfterTheLastChange) {
     auto model = startedModel();
-    desktop.timers.advance(Seconds(0.9));
+    pass(Seconds(0.9));
     model->togglePin(sketch.bundleID, save);
-    desktop.timers.advance(Seconds(0.9));
+    pass(Seconds(0.9));
     EXPECT_FALSE(isStored());
-    desktop.timers.advance(Seconds(0.2));
+    pass(Seconds(0.2));
     EXPECT_TRUE(isStored());
 }
 
@@ -49,6 +50,7 @@ TEST_F(AppModelLearningTest, SheetsAreWrittenOnlyWhenTheyAreOthers) {
     model->togglePin(sketch.bundleID, save);
     model->savePending();
     EXPECT_EQ(read("menus.json"), "{}") << "there was nothing to write";
+    desktop.clock.advance(Seconds(60));
     desktop.front.activate(sketch);
     desktop.background.runAll();
     model->savePending();
@@ -87,7 +89,7 @@ TEST_F(AppModelLearningTest, LoadingIsNoChangeToSave) {
     desktop.access.setTrusted(false);
     const auto next = modelOver(data);
     next->start();
-    desktop.timers.advance(Seconds(3));
+    pass(Seconds(3));
     next->savePending();
     EXPECT_FALSE(fs::exists(data / "usage.json"));
 }
@@ -101,7 +103,7 @@ TEST_F(AppModelLearningTest, WithoutAFolderNoFileIsTouched) {
     model->start();
     desktop.background.runAll();
     model->togglePin(sketch.bundleID, save);
-    desktop.timers.advance(Seconds(3));
+    pass(Seconds(3));
     model->eraseEverything();
     fs::current_path(before);
     EXPECT_TRUE(fs::is_empty(empty));
@@ -121,9 +123,9 @@ TEST_F(AppModelLearningTest, ErasingForgetsEverythingButTheSettings) {
     EXPECT_EQ(model->usage(), UsageBook());
     EXPECT_EQ(model->annotations(), AnnotationBook());
     EXPECT_EQ(model->trigger(), TriggerKey::option);
-    desktop.timers.advance(Seconds(1.5));
+    pass(Seconds(1.5));
     EXPECT_FALSE(isStored()) << "what was pending before is not written any more";
-    desktop.timers.advance(Seconds(1));
+    pass(Seconds(1));
     desktop.background.runAll();
     EXPECT_EQ(model->current()->entries.size(), 3U) << "read again with the next look at the permission";
 }

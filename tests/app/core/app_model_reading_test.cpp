@@ -139,7 +139,7 @@ TEST_F(AppModelTest, KeepsALateSheetWithoutShowingIt) {
     desktop.background.runAll();
     EXPECT_EQ(model.current()->bundleID, "org.example.writer");
     EXPECT_EQ(entriesShown(), 5U);
-    EXPECT_EQ(model.sheets().at("org.example.sketch").entries.size(), 3U);
+    EXPECT_EQ(model.sheets().at("org.example.sketch")->entries.size(), 3U);
 }
 
 TEST_F(AppModelTest, TellsTwoApplicationsOfOneProcessApart) {
@@ -162,7 +162,7 @@ TEST_F(AppModelTest, KeepsAGoodSheetWhenAnEmptyMenuBarIsRead) {
     desktop.front.activate(sketch);
     desktop.background.runAll();
     EXPECT_EQ(entriesShown(), 3U);
-    EXPECT_EQ(model.sheets().at("org.example.sketch").entries.size(), 3U);
+    EXPECT_EQ(model.sheets().at("org.example.sketch")->entries.size(), 3U);
 }
 
 TEST_F(AppModelTest, KeepsAGoodSheetWhenTheApplicationStopsAnswering) {
@@ -193,7 +193,7 @@ TEST_F(AppModelTest, ALateEmptySheetChangesNothing) {
     desktop.front.activate(writer);
     EXPECT_TRUE(desktop.background.deliverNext());
     EXPECT_EQ(model.current()->bundleID, "org.example.writer");
-    EXPECT_EQ(model.sheets().at("org.example.sketch").entries.size(), 3U);
+    EXPECT_EQ(model.sheets().at("org.example.sketch")->entries.size(), 3U);
 }
 
 TEST_F(AppModelTest, NeverKeepsAnEmptySheet) {

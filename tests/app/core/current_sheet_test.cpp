@@ -38,7 +38,7 @@ TEST(CurrentSheetTest, AnUnknownApplicationHasAnEmptySheetUntilItIsRead) {
     EXPECT_EQ(sheets.current(), sheetOf("a", 0));
     EXPECT_TRUE(sheets.arrived(appOf("a"), sheetOf("a", 2), ReadOutcome::complete, true));
     EXPECT_EQ(sheets.current(), sheetOf("a", 2));
-    EXPECT_EQ(sheets.sheets().at("a"), sheetOf("a", 2));
+    EXPECT_EQ(*sheets.sheets().at("a"), sheetOf("a", 2));
 }
 
 TEST(CurrentSheetTest, ALateSheetIsKeptWithoutBecomingCurrent) {
@@ -141,10 +141,11 @@ TEST(CurrentSheetTest, NeverDropsTheCurrentOne) {
 }
 
 TEST(CurrentSheetTest, KeepsTheYoungestOfTooManyFromAnEarlierRun) {
-    SheetMap stored;
+    SharedSheets stored;
     for (std::size_t i = 0; i <= CurrentSheet::mostSheets; ++i) {
         const std::string bundleID = "app" + std::to_string(i);
-        stored.emplace(bundleID, sheetOf(bundleID, 1, distantPast + std::chrono::seconds(1000 - i)));
+        stored.emplace(
+            bundleID, SharedSheet(sheetOf(bundleID, 1, distantPast + std::chrono::seconds(1000 - i))));
     }
     const std::string oldest = "app" + std::to_string(CurrentSheet::mostSheets);
     CurrentSheet sheets;

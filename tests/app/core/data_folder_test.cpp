@@ -21,7 +21,7 @@ class DataFolderTest : public testing::Test {
         learned.annotations.togglePin("app", "File › Save");
         const MenuEntry save{
             .path = {"File", "Save"}, .shortcut = Shortcut(Modifiers::command, Key::character("S"))};
-        learned.sheets.emplace("app", AppSheet{"app", "App", {save}, distantPast});
+        learned.sheets.emplace("app", SharedSheet({"app", "App", {save}, distantPast}));
     }
     void write(const char* name, const std::string& text) const {
         fs::create_directories(path);
@@ -31,10 +31,7 @@ class DataFolderTest : public testing::Test {
         std::ifstream file(path / name);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    void save(DataFolder& to) const {
-        to.sheetsChanged();
-        to.save(learned.usage, learned.annotations, learned.sheets);
-    }
+    void save(DataFolder& to) const { to.save(learned); }
 
     QTemporaryDir folder;
     const fs::path path = fs::path(folder.path().toStdString()) / "app.quillon.Quillon";
@@ -98,11 +95,11 @@ TEST_F(DataFolderTest, WritesUsageThenNotesThenMenus) {
         fs::create_directories(path);
         fs::create_symlink("both.json", path / first);
         fs::create_symlink("both.json", path / second);
-        save(data);
+        DataFolder(path).save(learned);
         const std::string both = read("both.json");
         fs::remove(path / first);
         fs::remove(path / second);
-        save(data);
+        DataFolder(path).save(learned);
         EXPECT_EQ(both, read(second)) << "what is written last stays";
         EXPECT_NE(both, read(first));
     }
@@ -132,7 +129,7 @@ TEST_F(DataFolderTest, WhatCameBackAfterTheErasingIsWrittenOver) {
     data.erase();
     write("notes.json", notes);
     write("menus.json", menus);
-    data.save({}, {}, {});
+    data.save({});
     EXPECT_EQ(DataFolder(path).load(), LearnedData());
 }
 
