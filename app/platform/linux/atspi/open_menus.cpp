@@ -67,9 +67,9 @@ class OpenMenus::Session {
             return std::nullopt;
         bool isIts = false;
         bool isMenuBar = false;
-        m_calls.processId(
-            menuBar->object.busName,
-            [&](std::optional<std::int64_t> pid) { isIts = pid == menuBar->busPid; });
+        m_calls.processId(menuBar->object.busName, [&](std::optional<std::int64_t> pid) {
+            isIts = pid == menuBar->busPid;
+        });
         m_calls.role(menuBar->object, [&](std::optional<Role> role) { isMenuBar = role == Role::menuBar; });
         m_pipeline.run();
         return isIts && isMenuBar ? std::move(menuBar) : std::nullopt;
@@ -91,8 +91,7 @@ class OpenMenus::Session {
         return std::nullopt;
     }
 
-    static std::int64_t
-    processOf(const std::vector<BusApplication>& applications, const ObjectRef& object) {
+    static std::int64_t processOf(const std::vector<BusApplication>& applications, const ObjectRef& object) {
         const auto its = std::ranges::find_if(applications, [&object](const BusApplication& one) {
             return one.root.busName == object.busName;
         });
