@@ -17,6 +17,7 @@ namespace quillon::atspi {
 struct KnownMenuBar {
     ObjectRef object;
     ToolkitFamily family = ToolkitFamily::other;
+    std::int64_t busPid = 0; ///< the process that the bus knows it by; a sandbox's proxy for what is in one
 };
 
 /// Remembers where the menu bars of windows were found: looking for one costs an application more than most

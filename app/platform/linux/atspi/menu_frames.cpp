@@ -13,6 +13,8 @@ constexpr double smallestScale = 0.5;
 constexpr double largestScale = 8;
 /// How much of the menu's width an item takes at least.
 constexpr double narrowestItem = 0.75;
+/// How far what is not scaled may be from its place, in pixels.
+constexpr double misplaced = 1;
 
 bool isWithin(const Rect& inner, const Rect& outer, double tolerance) {
     return inner.x >= outer.x - tolerance && inner.y >= outer.y - tolerance
@@ -37,6 +39,10 @@ std::optional<PixelMap> mapBetween(const Extents& menu, const Rect& window) {
     const double scale = window.width / menu.width;
     const bool isSane = scale >= smallestScale && scale <= largestScale;
     if (!isSane || std::abs(menu.height * scale - window.height) > roundingOf(scale))
+        return std::nullopt;
+    const bool isElsewhere =
+        std::abs(menu.x - window.x) > misplaced || std::abs(menu.y - window.y) > misplaced;
+    if (scale == 1 && isElsewhere)
         return std::nullopt;
     return PixelMap{scale, {static_cast<double>(menu.x), static_cast<double>(menu.y)}, {window.x, window.y}};
 }

@@ -21,8 +21,8 @@ struct PixelMap {
     Point inToolkit(Point place) const;
 };
 
-/// The map that makes a menu's extents its window's; absent when no scaling does, so that the window is
-/// another menu's.
+/// The map that makes a menu's extents its window's; absent when no scaling does, or the menu is not scaled
+/// and elsewhere, so that the window is another menu's.
 std::optional<PixelMap> mapBetween(const Extents& menu, const Rect& window);
 
 /// The frame of an item of a GTK menu in this window. An item spans its menu but for narrow edges, and GTK

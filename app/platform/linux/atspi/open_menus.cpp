@@ -10,7 +10,9 @@
 
 #include <quillon/app/platform/linux/atspi/key_binding/key_binding.h>
 
+#include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -45,6 +47,9 @@ class OpenMenus::Session {
         m_search = makeOpenMenuSearch(m_calls, menuBar->object, m_family);
     }
 
+    /// Whether the application, or the bus, did not answer; then nothing is asked any more.
+    bool hasEnded() const { return m_pipeline.hasEnded(); }
+
     std::optional<Rect> prepare(const MenuPlace& place) {
         return m_search ? m_search->prepare(place) : std::nullopt;
     }
@@ -62,8 +67,9 @@ class OpenMenus::Session {
             return std::nullopt;
         bool isIts = false;
         bool isMenuBar = false;
-        m_calls.processId(
-            menuBar->object.busName, [&](std::optional<std::int64_t> pid) { isIts = pid == app.pid; });
+        m_calls.processId(menuBar->object.busName, [&](std::optional<std::int64_t> pid) {
+            isIts = pid == menuBar->busPid;
+        });
         m_calls.role(menuBar->object, [&](std::optional<Role> role) { isMenuBar = role == Role::menuBar; });
         m_pipeline.run();
         return isIts && isMenuBar ? std::move(menuBar) : std::nullopt;
@@ -78,11 +84,18 @@ class OpenMenus::Session {
             return std::nullopt;
         for (const BusWindow& window : *windows)
             if (auto object = findMenuBar(m_calls, window.object)) {
-                const KnownMenuBar menuBar{*std::move(object), window.toolkit};
+                const KnownMenuBar menuBar{*object, window.toolkit, processOf(*applications, *object)};
                 memory.remember(app, menuBar);
                 return menuBar;
             }
         return std::nullopt;
+    }
+
+    static std::int64_t processOf(const std::vector<BusApplication>& applications, const ObjectRef& object) {
+        const auto its = std::ranges::find_if(applications, [&object](const BusApplication& one) {
+            return one.root.busName == object.busName;
+        });
+        return its == applications.end() ? 0 : its->pid;
     }
 
     std::optional<MenuItemFacts> describe(const FoundItem& found) {
@@ -180,6 +193,8 @@ std::optional<Rect> OpenMenus::prepare(const MenuPlace& place, const std::stop_t
 
 std::optional<MenuItemFacts> OpenMenus::itemAt(const MenuPlace& place, const std::stop_token& stop) {
     const std::stop_callback giveUp(stop, [this] { m_stop.request_stop(); });
+    if (m_session && m_session->hasEnded())
+        m_session.reset();
     return session().itemAt(place);
 }
 

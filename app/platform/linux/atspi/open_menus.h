@@ -27,7 +27,7 @@ class OpenMenus final : public MenuLookup {
     OpenMenus& operator=(const OpenMenus&) = delete;
 
     void begin(const std::stop_token& stop) override;
-    /// Within the limits; once the application has not answered, it is not asked again.
+    /// Within the limits. Once the application has not answered, it is asked again for an item only.
     std::optional<Rect> prepare(const MenuPlace& place, const std::stop_token& stop) override;
     /// The menu bar's items alone. Path and shortcut are those of the whole sheet.
     std::optional<MenuItemFacts> itemAt(const MenuPlace& place, const std::stop_token& stop) override;
@@ -44,7 +44,7 @@ class OpenMenus final : public MenuLookup {
     std::shared_ptr<MenuBarMemory> m_memory;
     ReadLimits m_limits;
     std::stop_source m_stop;
-    std::unique_ptr<Session> m_session; ///< from the first question on
+    std::unique_ptr<Session> m_session; ///< from the first question on; another once one has ended
 };
 
 } // namespace quillon::atspi

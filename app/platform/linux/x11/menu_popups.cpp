@@ -20,8 +20,12 @@ constexpr auto interest = 30s;
 /// How often the pointer's place is asked for meanwhile. Events would tell of every move of a fast mouse, and
 /// of none by which another client puts the pointer somewhere.
 constexpr auto glanceInterval = 50ms;
-/// Windows that are not the front application's; more of them do not come by being clicked.
-constexpr std::size_t mostOthers = 32;
+/// Menus, and as many windows that are not the front application's; more of them do not come by being
+/// clicked.
+constexpr std::size_t mostWindows = 32;
+/// Of the windows that came to the screen together, how many are looked at, the last ones: each of them is a
+/// question to the server, and there may be thousands.
+constexpr std::ptrdiff_t mostAtOnce = 8;
 constexpr std::uint32_t lastPlainButton = 3;
 constexpr unsigned anyPlainButton = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
 constexpr std::uint8_t sentByClient = 0x80;
@@ -50,7 +54,7 @@ MenuPopups::MenuPopups(
     });
     m_presses = m_input->onButtonPress([this](const RawPress& press) {
         if (press.detail <= lastPlainButton)
-            m_notes.push_back({Note::Kind::pressed, press.detail});
+            m_notes.push_back({Note::Kind::pressed});
         else if (isWheelButton(press.detail))
             scrolled();
     });
@@ -107,10 +111,14 @@ void MenuPopups::handle(const xcb_generic_event_t& event) {
 }
 
 void MenuPopups::drained() {
-    for (const Note& note : std::exchange(m_notes, {}))
-        handle(note);
+    const std::vector<Note> notes = std::exchange(m_notes, {});
+    auto skipped = std::ranges::count(notes, Note::Kind::shown, &Note::kind) - mostAtOnce;
+    for (const Note& note : notes)
+        if (note.kind != Note::Kind::shown || skipped-- <= 0)
+            handle(note);
     if (std::exchange(m_frontChanged, false))
         reconsider();
+    m_frontNow.reset();
     if (m_wasOpen && m_popups.empty()) {
         m_wasOpen = false;
         m_lastPlace.reset();
@@ -123,23 +131,21 @@ void MenuPopups::drained() {
 
 void MenuPopups::handle(const Note& note) {
     switch (note.kind) {
-    case Note::Kind::pressed: pressed(note.subject); break;
+    case Note::Kind::pressed: pressed(); break;
     case Note::Kind::released: released(note.subject); break;
-    case Note::Kind::shown: consider(note.subject); break;
+    case Note::Kind::shown: consider(std::span(&note.subject, 1)); break;
     case Note::Kind::gone: gone(note.subject); break;
     }
 }
 
-void MenuPopups::pressed(std::uint32_t) {
+void MenuPopups::pressed() {
     m_attempt.start();
     m_interest.start();
     const bool wasTracking = static_cast<bool>(m_windows);
     track();
-    if (!wasTracking) {
-        // What was open before is not told by events, and its menu may be open by now.
-        for (const xcb_window_t window : topmostBareWindows(*m_x11))
-            consider(window);
-    }
+    // What was open before is not told by events, and its menu may be open by now.
+    if (!wasTracking)
+        consider(topmostBareWindows(*m_x11));
     follow();
     if (m_popups.empty())
         return;
@@ -156,26 +162,38 @@ void MenuPopups::released(std::uint32_t button) {
         m_observer->leftButtonReleased(*at);
 }
 
+/// Asks about all of them before it waits for the first answer.
+void MenuPopups::consider(std::span<const xcb_window_t> windows) {
+    std::vector<BareWindowQuestion> questions;
+    for (const xcb_window_t window : windows)
+        if (std::ranges::find(m_popups, window, &Popup::window) == m_popups.end())
+            questions.emplace_back(*m_x11, window);
+    for (BareWindowQuestion& question : questions)
+        if (const auto bare = question.receive(*m_x11); bare && bare->isMenu)
+            consider(*bare);
+}
+
 /// Takes a window for a menu of the front application if it is one.
-void MenuPopups::consider(xcb_window_t window) {
-    if (std::ranges::find(m_popups, window, &Popup::window) != m_popups.end())
+void MenuPopups::consider(const BareWindow& bare) {
+    if (m_popups.size() == mostWindows)
         return;
-    const auto bare = bareWindow(*m_x11, window);
-    if (!bare || !bare->isMenu)
+    const xcb_window_t window = bare.window;
+    const std::optional<RunningApp>& front = frontNow();
+    // A game's one window may be such a window too.
+    if (front && std::ranges::find(front->windows, window, &AppWindow::id) != front->windows.end())
         return;
-    const auto front = m_front.current();
     const bool isFronts =
         front && !front->windows.empty()
-        && (bare->pid == front->pid
+        && (bare.pid == front->pid
             || m_x11->clientBase(window)
                    == m_x11->clientBase(static_cast<xcb_window_t>(front->windows.front().id)));
     if (!isFronts) {
-        if (m_others.size() < mostOthers && std::ranges::find(m_others, window) == m_others.end())
+        if (m_others.size() < mostWindows && std::ranges::find(m_others, window) == m_others.end())
             m_others.push_back(window);
         return;
     }
     std::erase(m_others, window);
-    m_popups.push_back({window, ++m_openings, bare->frame, pointer().value_or(Point{})});
+    m_popups.push_back({window, ++m_openings, bare.frame, pointer().value_or(Point{})});
     if (std::exchange(m_wasOpen, true))
         return;
     follow();
@@ -186,8 +204,7 @@ void MenuPopups::consider(xcb_window_t window) {
 
 /// A click can open a window's menu before the window manager brings that window to the front.
 void MenuPopups::reconsider() {
-    for (const xcb_window_t window : std::exchange(m_others, {}))
-        consider(window);
+    consider(std::exchange(m_others, {}));
 }
 
 void MenuPopups::scrolled() {
@@ -243,6 +260,12 @@ void MenuPopups::lookAtMapping() {
             m_leftButton = static_cast<std::uint32_t>(i) + 1;
             return;
         }
+}
+
+const std::optional<RunningApp>& MenuPopups::frontNow() {
+    if (!m_frontNow)
+        m_frontNow = m_front.current();
+    return *m_frontNow;
 }
 
 std::optional<Point> MenuPopups::pointer() {

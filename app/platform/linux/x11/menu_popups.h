@@ -11,9 +11,12 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace quillon {
+
+struct BareWindow;
 
 /// Is told what is done with the open menus of the front application, in the order in which the server did
 /// it. Places are in the pixels of the display.
@@ -64,15 +67,16 @@ class MenuPopups {
     /// What happened and is to be looked into once everything that has arrived was told.
     struct Note {
         enum class Kind : std::uint8_t { pressed, released, shown, gone } kind;
-        std::uint32_t subject = 0; ///< the button, or the window
+        std::uint32_t subject = 0; ///< the button that was let go, or the window
     };
 
     void handle(const xcb_generic_event_t& event);
     void drained();
     void handle(const Note& note);
-    void pressed(std::uint32_t button);
+    void pressed();
     void released(std::uint32_t button);
-    void consider(xcb_window_t window);
+    void consider(std::span<const xcb_window_t> windows);
+    void consider(const BareWindow& bare);
     void reconsider();
     void gone(xcb_window_t window);
     void scrolled();
@@ -81,6 +85,7 @@ class MenuPopups {
     bool isTracking() const { return m_attempt.isActive() || !m_popups.empty(); }
     void track();
     void lookAtMapping();
+    const std::optional<RunningApp>& frontNow();
     /// Where the pointer is; where it was last seen when the server does not answer in time.
     std::optional<Point> pointer();
 
@@ -96,6 +101,8 @@ class MenuPopups {
     bool m_isHeld = false;            ///< a button was down then
     std::uint32_t m_leftButton = 1;   ///< the number that the device gives it
     bool m_wasOpen = false;           ///< what the observer was told last
+    /// Who is in front, once it was asked for what has arrived together.
+    std::optional<std::optional<RunningApp>> m_frontNow;
     bool m_frontChanged = false;
     QTimer m_attempt;  ///< runs while a press may still open a menu
     QTimer m_interest; ///< runs while somebody may still be choosing

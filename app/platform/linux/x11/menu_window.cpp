@@ -1,8 +1,5 @@
 #include "menu_window.h"
 
-#include "x11_property.h"
-#include "x11_queries.h"
-
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -26,13 +23,15 @@ bool mayBeMenu(const X11Connection& x11, std::span<const xcb_atom_t> types) {
         others, [&](X11Name other) { return std::ranges::find(types, x11.atom(other)) != types.end(); });
 }
 
-std::optional<BareWindow> bareWindow(X11Connection& x11, xcb_window_t window) {
-    const auto geometryCookie = xcb_get_geometry(x11.xcb(), window);
-    auto types = X11Property::ask(x11, window, x11.atom(X11Name::netWmWindowType), typesBytes);
-    const auto pid = ClientPid::ask(x11, window);
-    const auto geometry = x11.reply<xcb_get_geometry_reply_t>(geometryCookie);
-    types.receive(x11);
-    BareWindow result{window, mayBeMenu(x11, types.numbers()), {}, pid.receive(x11)};
+BareWindowQuestion::BareWindowQuestion(X11Connection& x11, xcb_window_t window)
+    : m_window(window), m_geometry(xcb_get_geometry(x11.xcb(), window)),
+      m_types(X11Property::ask(x11, window, x11.atom(X11Name::netWmWindowType), typesBytes)),
+      m_pid(ClientPid::ask(x11, window)) {}
+
+std::optional<BareWindow> BareWindowQuestion::receive(X11Connection& x11) {
+    const auto geometry = x11.reply<xcb_get_geometry_reply_t>(m_geometry);
+    m_types.receive(x11);
+    BareWindow result{m_window, mayBeMenu(x11, m_types.numbers()), {}, m_pid.receive(x11)};
     if (!geometry)
         return std::nullopt;
     const int borders = 2 * geometry->border_width;

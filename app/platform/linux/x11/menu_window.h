@@ -1,6 +1,8 @@
 #pragma once
 
 #include "x11_connection.h"
+#include "x11_property.h"
+#include "x11_queries.h"
 
 #include <quillon/app/ports/geometry.h>
 
@@ -25,8 +27,20 @@ struct BareWindow {
 /// and nothing that is dragged. A window without a type may be one.
 bool mayBeMenu(const X11Connection& x11, std::span<const xcb_atom_t> types);
 
-/// Asks about a window; absent when it vanished meanwhile or the server does not answer in time.
-std::optional<BareWindow> bareWindow(X11Connection& x11, xcb_window_t window);
+/// Asks about a window.
+class BareWindowQuestion {
+  public:
+    BareWindowQuestion(X11Connection& x11, xcb_window_t window);
+    /// Takes the reply, once; absent when the window vanished meanwhile or the server does not answer in
+    /// time.
+    std::optional<BareWindow> receive(X11Connection& x11);
+
+  private:
+    xcb_window_t m_window;
+    xcb_get_geometry_cookie_t m_geometry;
+    X11Property m_types;
+    ClientPid m_pid;
+};
 
 /// The topmost windows of the screen that are shown and that no window manager handles, the lowest first. At
 /// most eight windows are looked at.

@@ -35,6 +35,11 @@ TEST(MenuFramesTest, ADifferentlyShapedMenuIsAnother) {
     EXPECT_FALSE(mapBetween({0, 0, 10, 10}, {0, 0, 1000, 1000}));
 }
 
+TEST(MenuFramesTest, WithoutAScaleAMenuElsewhereIsAnother) {
+    EXPECT_FALSE(mapBetween({96, 177, 336, 449}, {296, 177, 336, 449}));
+    EXPECT_FALSE(mapBetween({296, 57, 336, 449}, {296, 177, 336, 449}));
+}
+
 TEST(MenuFramesTest, AGtkItemSpansItsMenu) {
     EXPECT_EQ(gtkItemFrame({190, 132, 313, 25}, {190, 132, 313, 431}, {346, 144}), (Rect{190, 132, 313, 25}));
     EXPECT_EQ(gtkItemFrame({204, 150, 295, 25}, {202, 147, 299, 586}, {210, 160}), (Rect{204, 150, 295, 25}));

@@ -12,7 +12,11 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
+#include <string>
 #include <thread>
+
+#include <unistd.h>
 
 namespace quillon {
 namespace {
@@ -139,7 +143,29 @@ TEST_P(OpenMenusTest, TheMenuBarIsLookedForOnce) {
     EXPECT_THAT(m_memory->recall(appOf(process)), testing::Ne(std::nullopt));
 }
 
-TEST_P(OpenMenusTest, AHungApplicationIsGivenUpForGoodAndTheNextMenuAsksAgain) {
+TEST_P(OpenMenusTest, TheMenuBarInASandboxIsLookedForOnceToo) {
+    // The bus knows the process of the sandbox's proxy only.
+    const auto folder =
+        std::filesystem::temp_directory_path() / ("quillon-menus-proxy-" + std::to_string(getpid()));
+    std::filesystem::create_directory(folder);
+    std::filesystem::create_symlink(QUILLON_FAKE_APP, folder / "xdg-dbus-proxy");
+    {
+        const FakeAppProcess process(
+            {"--window", "Sketch", "--items", "40", "--toolkit", GetParam(), "--point-at", "Menu of Sketch",
+             "--point-at", "Item 1"},
+            folder / "xdg-dbus-proxy");
+        RunningApp app;
+        app.pid = getpid();
+        app.windows = {{7, "Sketch"}};
+        ASSERT_TRUE(OpenMenus(app, m_memory).itemAt(place(0, 0, itemsOfMenu), {}));
+        const std::size_t first = process.calls().size();
+        ASSERT_TRUE(OpenMenus(app, m_memory).itemAt(place(0, 0, itemsOfMenu), {}));
+        EXPECT_LT(process.calls().size() - first, first);
+    }
+    std::filesystem::remove_all(folder);
+}
+
+TEST_P(OpenMenusTest, AHungApplicationIsGivenUpUntilItIsAskedForAnItemAgain) {
     using namespace std::chrono_literals;
     const FakeAppProcess process = start({"Menu of Fake", "Item 1"}, {"--stop-after", "12"});
     atspi::ReadLimits limits = OpenMenus::patience();
@@ -148,10 +174,10 @@ TEST_P(OpenMenusTest, AHungApplicationIsGivenUpForGoodAndTheNextMenuAsksAgain) {
     for (int i = 0; i < 4; ++i)
         menus.itemAt(place(0, 0, itemsOfMenu), {});
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_FALSE(menus.itemAt(place(0, 0, itemsOfMenu), {}));
+    EXPECT_FALSE(menus.prepare(place(1, 0, 9), {}));
     EXPECT_LT(std::chrono::steady_clock::now() - start, 150ms) << "given up before";
     process.resume();
-    EXPECT_TRUE(itemAt(process, place(0, 0, itemsOfMenu)));
+    EXPECT_TRUE(menus.itemAt(place(0, 0, itemsOfMenu), {}));
 }
 
 TEST_P(OpenMenusTest, WithABusThatWasStartedAnewTheNextMenuIsTold) {

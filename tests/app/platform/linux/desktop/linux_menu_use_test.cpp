@@ -101,6 +101,12 @@ struct LinuxMenuUseTest : X11Fixture {
         client->buttonUp(1);
         settle();
     }
+    /// Until the pointer's place was asked for so many times more: nothing else makes requests meanwhile.
+    void waitForGlances(unsigned count) {
+        const unsigned before = requestsSoFar();
+        unsigned looks = 0;
+        EXPECT_TRUE(waitFor([&] { return requestsSoFar() - before >= count + ++looks; }));
+    }
     void closeMenu() {
         application->unmap(menu);
         settle();
@@ -174,6 +180,7 @@ TEST_F(LinuxMenuUseTest, APointerThatRestsIsPreparedForOnce) {
     background.runAll();
     EXPECT_THAT(lookup->asked, ElementsAre("prepare 0"));
     client->movePointer(140, 115);
+    waitForGlances(8);
     EXPECT_FALSE(background.waiting());
     EXPECT_THAT(lines, IsEmpty());
 }

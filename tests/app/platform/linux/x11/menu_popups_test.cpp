@@ -5,6 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QTimer>
+
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -202,6 +205,13 @@ TEST_F(MenuPopupsTest, TooltipsAndListsAreNoMenus) {
     }
 }
 
+TEST_F(MenuPopupsTest, AnApplicationsOwnWindowIsNoMenuAlthoughNoWindowManagerHandlesIt) {
+    front.setCurrent(appWith(application->makeWindow({.overrideRedirect = true})));
+    press();
+    letGo();
+    EXPECT_THAT(diary.lines, IsEmpty());
+}
+
 TEST_F(MenuPopupsTest, WindowsOfOtherApplicationsAreNoMenus) {
     front.setCurrent(RunningApp{1, "editor", "Editor", {{application->makeWindow({}), ""}}});
     TestClient other(x11Display());
@@ -251,8 +261,11 @@ TEST_F(MenuPopupsTest, ThePointerIsFollowedWhileAMenuIsOpen) {
     hide(menu);
     settle();
     const std::size_t until = diary.seen.size();
-    press();
-    letGo();
+    int glances = 0;
+    QTimer asOften;
+    asOften.callOnTimeout([&glances] { ++glances; });
+    asOften.start(std::chrono::milliseconds(50));
+    EXPECT_TRUE(waitFor([&] { return glances == 3; }));
     EXPECT_EQ(diary.seen.size(), until);
 }
 
@@ -266,6 +279,47 @@ TEST_F(MenuPopupsTest, AMenuThatMovesCountsAsAnother) {
     EXPECT_EQ(popups->popups().front().frame, (Rect{10, 20, 50, 50}));
     EXPECT_NE(popups->popups().front().opening, opening);
     letGo();
+}
+
+TEST_F(MenuPopupsTest, OfAFloodOfWindowsOnlyTheLastOnesAreLookedAt) {
+    std::vector<xcb_window_t> menus(300);
+    for (xcb_window_t& menu : menus)
+        menu = makeMenu(*application);
+    press();
+    const unsigned before = requestsSoFar();
+    for (const xcb_window_t menu : menus)
+        application->map(menu);
+    settle();
+    EXPECT_LT(requestsSoFar() - before, 100U);
+    ASSERT_FALSE(popups->popups().empty());
+    EXPECT_EQ(popups->popups().back().window, menus.back());
+    letGo();
+}
+
+TEST_F(MenuPopupsTest, WhoIsInFrontIsAskedOnceForAllWindows) {
+    struct Counting final : FrontApplication {
+        std::optional<RunningApp> current() const override {
+            ++asked;
+            return app;
+        }
+        Subscription onActivated(std::function<void(const RunningApp&)>) override { return {}; }
+        std::optional<RunningApp> app;
+        mutable int asked = 0;
+    };
+    Counting counting;
+    counting.app = appWith(window);
+    TestClient other(x11Display());
+    for (int i = 0; i < 4; ++i)
+        makeMenu(other, true);
+    makeMenu(*application, true);
+    popups.reset();
+    popups = std::make_unique<MenuPopups>(x11, std::make_shared<RawInput>(x11), counting, diary);
+    settle();
+    press();
+    EXPECT_EQ(counting.asked, 1);
+    EXPECT_EQ(popups->popups().size(), 1U);
+    letGo();
+    popups.reset();
 }
 
 TEST_F(MenuPopupsTest, StoppedItTellsNothing) {
