@@ -1,12 +1,13 @@
 """Clicking commands of real applications counts them, and says which keys would have done it."""
 
 import json
+import re
 import time
 
 import desktop
 from desktop import wait_until
 from menus import Menus, press_and_let_go
-from quillon import LEARNED, QuillonTestCase, longest_stall, measure_stalls, sheet
+from quillon import LEARNED, QuillonTestCase, longest_stall, measure_stalls, request, sheet
 
 APPLICATIONS = {
     "geany": ["geany", "--new-instance", "--no-session"],
@@ -45,11 +46,31 @@ class ClickTestCase(QuillonTestCase):
             wait_until("its first dialog", lambda: "New Form" in desktop.active_title())
             desktop.press("Escape")
             wait_until("its window", lambda: desktop.active_title() == "Qt Designer")
-        self.menus = Menus(self.editor.pid, self.scale)
+        self.menus = self.menus_of_editor()
         self.addCleanup(desktop.xdotool, "mouseup", 1, "mouseup", 3, check=False)
-        self.start_quillon(environment=READABLE)
-        self.wait_watching()
+        self.start_watching()
         self.bundle = self.application
+
+    def menus_of_editor(self):
+        return Menus(self.editor.pid, self.scale, rest=self.wait_ready_at)
+
+    def start_watching(self):
+        self.start_quillon("--verbose", environment=READABLE)
+        wait_until("quillon to watch for clicks", lambda: request("IsWatchingClicks")[0])
+
+    def wait_ready_at(self, place):
+        """Until the program has seen that the pointer rests on an item: from then on no click is too short."""
+        x, y = place
+        areas = re.compile(r"ready for a click in ([-.\d]+), ([-.\d]+), ([-.\d]+) x ([-.\d]+)")
+
+        def is_ready():
+            for match in areas.finditer(self.quillon.said()):
+                left, top, width, height = map(float, match.groups())
+                if left <= x < left + width and top <= y < top + height:
+                    return True
+            return False
+
+        wait_until("quillon to be ready for a click", is_ready)
 
     def assert_counted(self, expected):
         """That these and no other commands are counted, `expected` being {title path: clicks}."""
@@ -91,7 +112,6 @@ class Counts:
 
     def test_a_click_of_an_instant_counts(self):
         self.menus.point_at(*self.command)
-        time.sleep(0.25)
         desktop.xdotool("click", 1)
         self.assert_counted({self.command: 1})
 
@@ -147,8 +167,7 @@ class GeanyClickTest(Counts, ClickTestCase):
         self.quillon.process.wait(timeout=5)
         (LEARNED / "notes.json").write_text(json.dumps(
             {"apps": {self.bundle: {" › ".join(self.command): {"muted": True, "note": "", "pinned": False}}}}))
-        self.start_quillon(environment=READABLE)
-        self.wait_watching()
+        self.start_watching()
         self.menus.choose(*self.command)
         self.assert_counted({self.command: 1})
         self.assertEqual(self.toast_windows(), [])
@@ -160,7 +179,7 @@ class GeanyClickTest(Counts, ClickTestCase):
         wait_until("its menus to go", lambda: not desktop.visible_windows(self.editor.pid))
         self.assert_nothing_counted()
         self.editor = self.start_application(*APPLICATIONS["geany"])
-        self.menus = Menus(self.editor.pid)
+        self.menus = self.menus_of_editor()
         self.menus.choose(*self.command)
         self.assert_counted({self.command: 1})
 

@@ -185,12 +185,17 @@ class Program:
         self.command = list(map(str, command))
         self.messages = SCREENSHOTS / f"{pathlib.Path(self.command[0]).name}-{os.getpid()}.log"
         with open(self.messages, "ab") as messages:
+            self.earlier = messages.tell()  # what others of its name have said
             self.process = subprocess.Popen(self.command, env=os.environ | (environment or {}),
                                             stdin=subprocess.DEVNULL, stdout=messages, stderr=messages)
         self.pid = self.process.pid
 
     def is_running(self):
         return self.process.poll() is None
+
+    def said(self):
+        """What it has printed and logged so far."""
+        return self.messages.read_bytes()[self.earlier:].decode(errors="replace")
 
     def stop(self):
         """Freezes it, so that it answers nobody."""

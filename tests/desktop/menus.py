@@ -36,10 +36,10 @@ def find_menu_bar(root, depth=7):
 
 class Menus:
     """Of the application's first window that has a menu bar. `scale` is how many pixels of the display one of the
-    application's has."""
+    application's has. `rest` is called with the place on which the pointer rests before an item is clicked."""
 
-    def __init__(self, pid, scale=1):
-        self.pid, self.scale = pid, scale
+    def __init__(self, pid, scale=1, rest=lambda place: None):
+        self.pid, self.scale, self.rest = pid, scale, rest
         self.bar = wait_until("a menu bar", lambda: find_menu_bar(application_of(pid)))
         self.titles = {title.name().strip(): title for title in self.bar.children() if title.name().strip()}
 
@@ -90,6 +90,7 @@ class Menus:
         item = self.item(self.open(*path[:-1]), path[-1])
         self.move_to(item)
         time.sleep(PAUSE)
+        self.rest(self.place(item))
         return item
 
     def choose(self, *path):
@@ -105,6 +106,7 @@ class Menus:
         item = self.item(self.wait_for_items(title), path[1])
         self.move_to(item)
         time.sleep(DRAGGED)
+        self.rest(self.place(item))
         desktop.xdotool("mouseup", 1)
 
     def close(self):

@@ -254,6 +254,8 @@ void LinuxMenuUse::prepared(const atspi::MenuPlace& place, const std::optional<R
     Browsing& browsing = *m_browsing;
     browsing.isBusy = false;
     if (area) {
+        qCDebug(logMenus).nospace() << "ready for a click in " << area->x << ", " << area->y << ", "
+                                    << area->width << " x " << area->height;
         browsing.prepared.push_back({place.opening, *area});
         browsing.attempts = 0;
     } else {
