@@ -91,7 +91,7 @@ class TypedTest(TypedTestCase):
         desktop.type_text("1\n2\n3\n4\n5\n6\n7\n8")
         wait_until("the lines", lambda: self.text().endswith("8"))
         desktop.press("ctrl+Home")
-        with held("Ctrl", "Shift", "Delete"):
+        with held("Ctrl", "Shift"), held("Delete"):
             wait_until("mousepad to delete line after line", lambda: self.text().count("\n") < 4)
         self.wait_counted(**{"Delete Line": 1})
 
