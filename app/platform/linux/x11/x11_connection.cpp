@@ -119,8 +119,10 @@ void X11Connection::keep(X11Reply<xcb_generic_event_t> event) {
 
 void X11Connection::flush() {
     // Once the socket is full, after some seventy requests, sending waits without a limit.
-    if (!m_late)
-        xcb_flush(xcb());
+    if (m_late)
+        return;
+    xcb_flush(xcb());
+    queueWhatWasReadBeside();
 }
 
 void X11Connection::loseServer() {

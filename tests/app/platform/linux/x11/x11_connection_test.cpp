@@ -41,6 +41,22 @@ TEST_F(X11ConnectionTest, EventsThatAreReadBesideAReplyAreNotForgotten) {
     EXPECT_TRUE(waitFor([&] { return told == 1; }));
 }
 
+TEST_F(X11ConnectionTest, EventsThatAreReadWhileRequestsAreSentAreNotForgotten) {
+    const auto selection = x11->selectEvents(x11->root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    int told = 0;
+    const auto listener = x11->onEvent([&](const xcb_generic_event_t& event) {
+        if (event.response_type == XCB_PROPERTY_NOTIFY)
+            ++told;
+    });
+    settle();
+    client->setNumbers(client->root(), "SOME_PROPERTY", "CARDINAL", {3});
+    pollfd socket{xcb_get_file_descriptor(x11->xcb()), POLLIN, 0};
+    ASSERT_EQ(::poll(&socket, 1, 10'000), 1);
+    xcb_no_operation(x11->xcb());
+    x11->flush();
+    EXPECT_TRUE(waitFor([&] { return told == 1; }));
+}
+
 TEST_F(X11ConnectionTest, SelectionsOfOneWindowDoNotDisturbEachOther) {
     int told = 0;
     const auto listener = x11->onEvent([&](const xcb_generic_event_t& event) {
