@@ -19,6 +19,8 @@ ModelField fieldOf(Setting setting) {
     case Setting::nudgesOn: return ModelField::nudgesOn;
     case Setting::countTyped: return ModelField::countTyped;
     case Setting::onboarded: return ModelField::onboarded;
+    case Setting::keyLabels: return ModelField::keyLabels;
+    case Setting::settingsTab: return ModelField::settingsTab;
     }
     return ModelField::trigger;
 }
@@ -96,7 +98,9 @@ void AppModel::settingChanged(Setting setting) {
         if (isStarted())
             applyWatchers();
         break;
-    case Setting::onboarded: break;
+    case Setting::onboarded:
+    case Setting::keyLabels:
+    case Setting::settingsTab: break;
     }
     changed.emit(fieldOf(setting));
 }

@@ -46,6 +46,8 @@ enum class ModelField {
     nudgesOn,
     countTyped,
     onboarded,
+    keyLabels,
+    settingsTab,
     trusted,
     current,
     reading,
@@ -105,9 +107,17 @@ class AppModel {
     void setCountTyped(bool on) { m_services.settings.setCountTyped(on); }
     bool onboarded() const { return m_services.settings.onboarded(); }
     void setOnboarded(bool onboarded) { m_services.settings.setOnboarded(onboarded); }
+    KeyLabels keyLabels() const { return m_services.settings.keyLabels(); }
+    void setKeyLabels(KeyLabels labels) { m_services.settings.setKeyLabels(labels); }
+    SettingsTab settingsTab() const { return m_services.settings.settingsTab(); }
+    void setSettingsTab(SettingsTab tab) { m_services.settings.setSettingsTab(tab); }
 
     /// Whether other applications' menus may be read.
     bool trusted() const { return m_trusted; }
+    /// Asks the system, and through it the user, for this. Only on the user's own request.
+    void askForAccessibility() { m_services.accessibility.ask(); }
+    /// Opens the system's accessibility settings; false when there are none to open.
+    bool openAccessibilitySettings() { return m_services.accessibility.openSettings(); }
     /// The sheet of the front application; absent before the first one is known.
     const std::optional<AppSheet>& current() const { return m_sheets.current(); }
     /// The sheets read so far, by bundle identifier; none is empty.

@@ -1,5 +1,7 @@
 #include "settings.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <filesystem>
 #include <system_error>
@@ -15,6 +17,8 @@ QString nameOf(Setting setting) {
     case Setting::nudgesOn: return QStringLiteral("nudgesOn");
     case Setting::countTyped: return QStringLiteral("countTyped");
     case Setting::onboarded: return QStringLiteral("onboarded");
+    case Setting::keyLabels: return QStringLiteral("keyLabels");
+    case Setting::settingsTab: return QStringLiteral("settingsTab");
     }
     return {};
 }
@@ -55,6 +59,32 @@ Seconds delay(const QSettings& store, Seconds fallback) {
     return isNumber && isDelay(stored) ? stored : fallback;
 }
 
+template <class Choice>
+struct StoredChoice {
+    Choice choice;
+    const char* word;
+};
+
+constexpr std::array keyLabelWords{
+    StoredChoice{KeyLabels::symbols, "symbols"}, StoredChoice{KeyLabels::names, "names"}};
+constexpr std::array settingsTabWords{
+    StoredChoice{SettingsTab::general, "general"}, StoredChoice{SettingsTab::coach, "coach"},
+    StoredChoice{SettingsTab::privacy, "privacy"}};
+
+template <class Choice, std::size_t count>
+Choice choiceOf(const QString& word, const std::array<StoredChoice<Choice>, count>& words, Choice fallback) {
+    for (const auto& stored : words)
+        if (word == QLatin1StringView(stored.word))
+            return stored.choice;
+    return fallback;
+}
+
+template <class Choice, std::size_t count>
+QString wordOf(Choice choice, const std::array<StoredChoice<Choice>, count>& words) {
+    const auto stored = std::ranges::find(words, choice, &StoredChoice<Choice>::choice);
+    return stored == words.end() ? QString() : QString::fromLatin1(stored->word);
+}
+
 } // namespace
 
 Settings::Settings(const QString& path) {
@@ -70,6 +100,8 @@ void Settings::read() {
     m_nudgesOn = flag(*m_store, Setting::nudgesOn, m_nudgesOn);
     m_countTyped = flag(*m_store, Setting::countTyped, m_countTyped);
     m_onboarded = flag(*m_store, Setting::onboarded, m_onboarded);
+    m_keyLabels = choiceOf(textOf(*m_store, Setting::keyLabels), keyLabelWords, m_keyLabels);
+    m_settingsTab = choiceOf(textOf(*m_store, Setting::settingsTab), settingsTabWords, m_settingsTab);
 }
 
 template <class Value>
@@ -103,6 +135,14 @@ void Settings::setCountTyped(bool on) {
 
 void Settings::setOnboarded(bool onboarded) {
     set(m_onboarded, onboarded, Setting::onboarded, onboarded);
+}
+
+void Settings::setKeyLabels(KeyLabels labels) {
+    set(m_keyLabels, labels, Setting::keyLabels, wordOf(labels, keyLabelWords));
+}
+
+void Settings::setSettingsTab(SettingsTab tab) {
+    set(m_settingsTab, tab, Setting::settingsTab, wordOf(tab, settingsTabWords));
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 
 #include <quillon/kit/base/instant.h>
 #include <quillon/kit/base/subscription.h>
+#include <quillon/kit/shortcut/key_labels.h>
 
 #include <QSettings>
 #include <QString>
@@ -12,9 +13,12 @@
 
 namespace quillon {
 
-enum class Setting { trigger, holdDelay, nudgesOn, countTyped, onboarded };
+enum class Setting { trigger, holdDelay, nudgesOn, countTyped, onboarded, keyLabels, settingsTab };
 
-/// The five settings. Each is written to its key the moment it is set; a missing or mistyped value reads as
+/// The tabs of the settings window.
+enum class SettingsTab { general, coach, privacy };
+
+/// The settings. Each is written to its key the moment it is set; a missing or mistyped value reads as
 /// its default.
 class Settings {
   public:
@@ -23,7 +27,7 @@ class Settings {
     /// settings then have their defaults at each start.
     explicit Settings(const QString& path);
 
-    /// A file of five lines that is larger than this was written by something else. In bytes.
+    /// A file of a few lines that is larger than this was written by something else. In bytes.
     static constexpr std::int64_t largestFile = 1 << 20;
 
     /// Emitted after a setting got another value.
@@ -49,6 +53,14 @@ class Settings {
     bool onboarded() const { return m_onboarded; }
     void setOnboarded(bool onboarded);
 
+    /// How keys are shown.
+    KeyLabels keyLabels() const { return m_keyLabels; }
+    void setKeyLabels(KeyLabels labels);
+
+    /// The tab of the settings window that was open last.
+    SettingsTab settingsTab() const { return m_settingsTab; }
+    void setSettingsTab(SettingsTab tab);
+
   private:
     void read();
     template <class Value>
@@ -60,6 +72,8 @@ class Settings {
     bool m_nudgesOn = true;
     bool m_countTyped = true;
     bool m_onboarded = false;
+    KeyLabels m_keyLabels = KeyLabels::symbols;
+    SettingsTab m_settingsTab = SettingsTab::general;
 };
 
 } // namespace quillon

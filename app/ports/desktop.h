@@ -5,9 +5,14 @@
 #include "appearance.h"
 #include "front_application.h"
 #include "keyboard.h"
+#include "launcher_key.h"
 #include "menu_reader.h"
 #include "menu_use.h"
 #include "panel_maker.h"
+#include "session_start.h"
+#include "silent_apps.h"
+#include "software_pages.h"
+#include "tray.h"
 #include "typed_keys.h"
 
 namespace quillon {
@@ -26,6 +31,11 @@ class Desktop {
     virtual AppIcons& icons() = 0;
     virtual Appearance& appearance() = 0;
     virtual PanelMaker& panels() = 0;
+    virtual Tray& tray() = 0;
+    virtual SessionStart& sessionStart() = 0;
+    virtual LauncherKey& launcherKey() = 0;
+    virtual SilentApps& silentApps() = 0;
+    virtual SoftwarePages& softwarePages() = 0;
 };
 
 } // namespace quillon

@@ -7,10 +7,15 @@
 #include "fake_clock.h"
 #include "fake_front_application.h"
 #include "fake_keyboard.h"
+#include "fake_launcher_key.h"
 #include "fake_menu_reader.h"
 #include "fake_menu_use.h"
 #include "fake_panel_maker.h"
+#include "fake_session_start.h"
+#include "fake_silent_apps.h"
+#include "fake_software_pages.h"
 #include "fake_timers.h"
+#include "fake_tray.h"
 #include "fake_typed_keys.h"
 #include "fake_windows.h"
 
@@ -31,6 +36,11 @@ struct FakeDesktop {
     FakeAppearance appearance;
     FakePanelMaker panels;
     FakeWindows windows;
+    FakeTray tray;
+    FakeSessionStart sessionStart;
+    FakeLauncherKey launcherKey;
+    FakeSilentApps silentApps;
+    FakeSoftwarePages softwarePages;
 };
 
 } // namespace quillon

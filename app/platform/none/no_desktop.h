@@ -5,9 +5,14 @@
 #include "no_appearance.h"
 #include "no_front_application.h"
 #include "no_keyboard.h"
+#include "no_launcher_key.h"
 #include "no_menu_reader.h"
 #include "no_menu_use.h"
 #include "no_panel_maker.h"
+#include "no_session_start.h"
+#include "no_silent_apps.h"
+#include "no_software_pages.h"
+#include "no_tray.h"
 #include "no_typed_keys.h"
 #include "no_windows.h"
 
@@ -25,6 +30,11 @@ struct NoDesktop {
     NoAppearance appearance;
     NoPanelMaker panels;
     NoWindows windows;
+    NoTray tray;
+    NoSessionStart sessionStart;
+    NoLauncherKey launcherKey;
+    NoSilentApps silentApps;
+    NoSoftwarePages softwarePages;
 };
 
 } // namespace quillon

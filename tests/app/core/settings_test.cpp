@@ -33,6 +33,8 @@ TEST_F(SettingsTest, HaveTheirDefaultsWithoutAFile) {
     EXPECT_TRUE(settings.nudgesOn());
     EXPECT_TRUE(settings.countTyped());
     EXPECT_FALSE(settings.onboarded());
+    EXPECT_EQ(settings.keyLabels(), KeyLabels::symbols);
+    EXPECT_EQ(settings.settingsTab(), SettingsTab::general);
 }
 
 TEST_F(SettingsTest, AreThereForTheNextStart) {
@@ -43,6 +45,8 @@ TEST_F(SettingsTest, AreThereForTheNextStart) {
         settings.setNudgesOn(false);
         settings.setCountTyped(false);
         settings.setOnboarded(true);
+        settings.setKeyLabels(KeyLabels::names);
+        settings.setSettingsTab(SettingsTab::privacy);
     }
     const Settings settings(m_path);
     EXPECT_EQ(settings.trigger(), TriggerKey::option);
@@ -50,6 +54,8 @@ TEST_F(SettingsTest, AreThereForTheNextStart) {
     EXPECT_FALSE(settings.nudgesOn());
     EXPECT_FALSE(settings.countTyped());
     EXPECT_TRUE(settings.onboarded());
+    EXPECT_EQ(settings.keyLabels(), KeyLabels::names);
+    EXPECT_EQ(settings.settingsTab(), SettingsTab::privacy);
 }
 
 TEST_F(SettingsTest, AreInTheFileTheMomentTheyAreSet) {
@@ -59,13 +65,16 @@ TEST_F(SettingsTest, AreInTheFileTheMomentTheyAreSet) {
 }
 
 TEST_F(SettingsTest, ReadMistypedValuesAsTheirDefaults) {
-    write("[General]\ntrigger=shift\nholdDelay=long\nnudgesOn=7\ncountTyped=\nonboarded=yes\n");
+    write("[General]\ntrigger=shift\nholdDelay=long\nnudgesOn=7\ncountTyped=\nonboarded=yes\nkeyLabels="
+          "runes\nsettingsTab=9\n");
     const Settings settings(m_path);
     EXPECT_EQ(settings.trigger(), TriggerKey::command);
     EXPECT_EQ(settings.holdDelay(), Seconds(0.8));
     EXPECT_TRUE(settings.nudgesOn());
     EXPECT_TRUE(settings.countTyped());
     EXPECT_FALSE(settings.onboarded());
+    EXPECT_EQ(settings.keyLabels(), KeyLabels::symbols);
+    EXPECT_EQ(settings.settingsTab(), SettingsTab::general);
 }
 
 TEST_F(SettingsTest, TakeNoInfiniteDelay) {

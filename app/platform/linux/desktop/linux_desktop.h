@@ -40,6 +40,11 @@ class LinuxDesktop final : public Desktop {
     AppIcons& icons() override;
     Appearance& appearance() override { return *m_appearance; }
     PanelMaker& panels() override { return m_panels; }
+    Tray& tray() override { return m_none.tray; }
+    SessionStart& sessionStart() override { return m_none.sessionStart; }
+    LauncherKey& launcherKey() override { return m_none.launcherKey; }
+    SilentApps& silentApps() override { return m_none.silentApps; }
+    SoftwarePages& softwarePages() override { return m_none.softwarePages; }
 
   private:
     NoDesktop m_none;

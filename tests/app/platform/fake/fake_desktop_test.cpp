@@ -85,6 +85,38 @@ TEST(FakePanelMakerTest, KeepsWhatItsPanelsShowAndWhatIsDoneWithThem) {
     EXPECT_TRUE(maker.made[0].record->visible);
 }
 
+TEST(FakeTrayTest, ShowsTheIconWhileATrayIsThere) {
+    FakeTray tray;
+    int told = 0;
+    const Subscription listener = tray.onShownChanged([&] { ++told; });
+    tray.show({});
+    EXPECT_FALSE(tray.isShown());
+    tray.setThere(true);
+    tray.setThere(true);
+    EXPECT_TRUE(tray.isShown());
+    EXPECT_EQ(told, 1);
+}
+
+TEST(FakeSilentAppsTest, AnswersWhoStillWaits) {
+    FakeSilentApps apps;
+    std::vector<std::string> told;
+    {
+        const Subscription look = apps.look([&](auto names) { told = std::move(names); });
+        apps.answer({"Designer"});
+    }
+    apps.answer({});
+    EXPECT_THAT(told, ElementsAre("Designer"));
+    EXPECT_EQ(apps.looks(), 1);
+}
+
+TEST(FakeSessionStartTest, StaysAsItWasWhenItRefuses) {
+    FakeSessionStart start;
+    EXPECT_TRUE(start.setOn(true));
+    start.refuses = true;
+    EXPECT_FALSE(start.setOn(false));
+    EXPECT_TRUE(start.isOn());
+}
+
 TEST(FakePanelMakerTest, TellsOfItsScreens) {
     FakePanelMaker maker;
     int told = 0;

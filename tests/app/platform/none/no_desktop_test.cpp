@@ -20,6 +20,11 @@ TEST(NoDesktopTest, HasNothingToTell) {
     EXPECT_FALSE(desktop.windows.offers(WindowName::welcome));
     EXPECT_FALSE(desktop.windows.hasKeyboard(WindowName::practice));
     EXPECT_EQ(desktop.menus.readMenus({}, {}), MenuReading());
+    EXPECT_FALSE(desktop.tray.isShown());
+    EXPECT_FALSE(desktop.sessionStart.isOffered());
+    EXPECT_FALSE(desktop.sessionStart.isOn());
+    EXPECT_TRUE(desktop.launcherKey.modifier().isEmpty());
+    EXPECT_FALSE(desktop.softwarePages.hasSoftwareCentre());
 }
 
 TEST(NoDesktopTest, AsksForNothing) {
@@ -31,6 +36,14 @@ TEST(NoDesktopTest, AsksForNothing) {
     EXPECT_FALSE(desktop.keyboard.onModifiersChanged([](Modifiers) {}));
     EXPECT_FALSE(desktop.front.onActivated([](const RunningApp&) {}));
     EXPECT_FALSE(desktop.appearance.onChanged([] {}));
+    desktop.tray.show({});
+    desktop.tray.setMenu({});
+    desktop.tray.popUpMenu();
+    EXPECT_FALSE(desktop.tray.onShownChanged([] {}));
+    EXPECT_FALSE(desktop.sessionStart.setOn(true));
+    EXPECT_FALSE(desktop.silentApps.look([](const auto&) {}));
+    EXPECT_FALSE(desktop.softwarePages.openPage("https://quillon.app/"));
+    EXPECT_FALSE(desktop.softwarePages.openSoftwareCentre());
 }
 
 TEST(NoDesktopTest, APanelIsNeverNullAndNeverSeen) {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <quillon/app/ports/tray.h>
+
+namespace quillon {
+
+/// A desktop without a tray, where no menu opens either.
+class NoTray final : public Tray {
+  public:
+    void show(TrayPresence) override {}
+    void setMenu(std::vector<TrayMenuItem>) override {}
+    void popUpMenu() override {}
+    bool isShown() const override { return false; }
+    Subscription onShownChanged(std::function<void()>) override { return {}; }
+};
+
+} // namespace quillon

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app_icons.h"
+#include "appearance.h"
+
+#include <quillon/kit/base/subscription.h>
+#include <quillon/kit/shortcut/shortcut.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+/// One line of the tray's menu.
+struct TrayMenuItem {
+    enum class Kind {
+        command,
+        line, ///< tells something and cannot be chosen
+        separator
+    };
+
+    Kind kind = Kind::command;
+    std::string label = {};                ///< shown as it is; an ampersand is nothing special
+    std::optional<Shortcut> shortcut = {}; ///< shown beside a command; absent for none
+    std::function<void()> chosen = [] {};  ///< what a command does
+};
+
+/// What stands in the tray.
+struct TrayPresence {
+    std::string name;      ///< of the program, for a tip and for screen readers
+    std::string themeIcon; ///< in the icon theme, where trays colour it themselves
+    /// The icon for a tray of this scheme, a square of so many device pixels.
+    std::function<IconPixels(ColourScheme tray, int size)> draw;
+    std::function<void()> secondaryClick; ///< the middle button
+};
+
+/// The program's place in the desktop's tray: an icon with a menu. Where there is no tray nothing is shown;
+/// when one comes, be it later or again, the icon appears in it.
+class Tray {
+  public:
+    virtual ~Tray() = default;
+
+    virtual void show(TrayPresence presence) = 0;
+    /// The menu from now on, also while it is open.
+    virtual void setMenu(std::vector<TrayMenuItem> items) = 0;
+    /// Opens the menu where the pointer is, tray or no tray.
+    virtual void popUpMenu() = 0;
+    /// Whether the icon is in a tray that shows it. Never waits.
+    virtual bool isShown() const = 0;
+    /// Called on the main thread when `isShown` changed.
+    virtual Subscription onShownChanged(std::function<void()> callback) = 0;
+};
+
+} // namespace quillon
