@@ -29,7 +29,7 @@ app_packages() {
 
 # clang and its run-time libraries for the fuzzers; the validators of the files in packaging/.
 test_packages() {
-    echo clang libclang-rt-14-dev \
+    echo clang libclang-rt-dev \
         desktop-file-utils appstream man-db groff-base
 }
 
