@@ -1,6 +1,7 @@
 #include "welcome_view.h"
 
 #include "product_mark.h"
+#include "welcome_step.h"
 #include "welcome_texts.h"
 
 #include <quillon/app/views/components/accessible_roles.h>
@@ -42,6 +43,13 @@ QHBoxLayout* row(QWidget* parent, int gap) {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
     return layout;
+}
+
+/// What became visible or not since the last event is in the layouts' own reckoning only after the next.
+int heightOf(const QWidget& content, int width) {
+    for (QLayout* const layout : content.findChildren<QLayout*>())
+        layout->invalidate();
+    return content.heightForWidth(width);
 }
 
 } // namespace
@@ -193,7 +201,7 @@ void WelcomeView::close() {
 
 QSize WelcomeView::sizeHint() const {
     const int width = readableWidth(theme());
-    return {width, m_scroll->widget()->heightForWidth(width) + m_footer->sizeHint().height()};
+    return {width, heightOf(*m_scroll->widget(), width) + m_footer->sizeHint().height()};
 }
 
 QSize WelcomeView::minimumSizeHint() const {

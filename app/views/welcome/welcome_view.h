@@ -1,7 +1,5 @@
 #pragma once
 
-#include "welcome_step.h"
-
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/views/components/plain_button.h>
 #include <quillon/app/views/components/prominent_button.h>
@@ -10,6 +8,8 @@
 #include <QScrollArea>
 
 namespace quillon {
+
+class WelcomeStep;
 
 /// The welcome: asks for the permission to read menus, tells how the overlay is opened and what stays on the
 /// machine. Notices by itself when the permission is given.
