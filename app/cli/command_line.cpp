@@ -26,6 +26,8 @@ Commands:
                 --front           the front application (default)
                 --query Q         only the shortcuts that match Q
                 --format FORMAT   text (default), json or markdown
+                --keys KEYS       symbols (default), or names as they are printed
+                                  on the keyboard; JSON is the same with both
                 --practice N      a practice round of N commands instead, in the
                                   order in which they are asked
                 --seed S          the same round every time
@@ -36,6 +38,7 @@ Commands:
               that were clicked as well
                 --app NAME        of the application with this id or name only
                 --format FORMAT   text (default) or json
+                --keys KEYS       as for sheet
   doctor      say what works on this desktop and how to mend what does not
   quit        end the running program
 
@@ -100,6 +103,18 @@ std::optional<SheetFormat> sheetFormat(const QString& name) {
     return std::nullopt;
 }
 
+/// Reads --keys into `labels`.
+std::optional<UsageError>
+readKeys(const QCommandLineParser& parser, const QCommandLineOption& keys, KeyLabels& labels) {
+    if (!parser.isSet(keys))
+        return std::nullopt;
+    const QString chosen = parser.value(keys);
+    if (chosen != "symbols"_L1 && chosen != "names"_L1)
+        return unexpected(u"--keys is symbols or names, not '%1'"_s.arg(chosen));
+    labels = chosen == "names"_L1 ? KeyLabels::names : KeyLabels::symbols;
+    return std::nullopt;
+}
+
 /// Reads --practice and --seed into `command`.
 std::optional<UsageError> readPractice(
     const QCommandLineParser& parser, const QCommandLineOption& practice, const QCommandLineOption& seed,
@@ -132,7 +147,8 @@ Command parseSheet(const QStringList& arguments) {
     const QCommandLineOption format = withValue(u"format"_s);
     const QCommandLineOption practice = withValue(u"practice"_s);
     const QCommandLineOption seed = withValue(u"seed"_s);
-    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format, practice, seed}))
+    const QCommandLineOption keys = withValue(u"keys"_s);
+    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format, practice, seed, keys}))
         return *error;
     if (int(parser.isSet(app)) + int(parser.isSet(pid)) + int(parser.isSet(front)) > 1)
         return unexpected(u"--app, --pid and --front exclude each other"_s);
@@ -152,6 +168,8 @@ Command parseSheet(const QStringList& arguments) {
     command.format = *chosenFormat;
     if (auto error = readPractice(parser, practice, seed, command))
         return *error;
+    if (auto error = readKeys(parser, keys, command.keys))
+        return *error;
     return command;
 }
 
@@ -167,7 +185,8 @@ Command parseStats(const QStringList& arguments) {
     QCommandLineParser parser;
     const QCommandLineOption app = withValue(u"app"_s);
     const QCommandLineOption format = withValue(u"format"_s);
-    if (auto error = readOptions(parser, arguments, {app, format}))
+    const QCommandLineOption keys = withValue(u"keys"_s);
+    if (auto error = readOptions(parser, arguments, {app, format, keys}))
         return *error;
     StatsCommand command;
     if (parser.isSet(app))
@@ -176,6 +195,8 @@ Command parseStats(const QStringList& arguments) {
     if (chosen != "text"_L1 && chosen != "json"_L1)
         return unexpected(u"--format is text or json, not '%1'"_s.arg(chosen));
     command.format = chosen == "json"_L1 ? StatsFormat::json : StatsFormat::text;
+    if (auto error = readKeys(parser, keys, command.keys))
+        return *error;
     return command;
 }
 

@@ -57,9 +57,9 @@ TerminalText tableText(const Rows& rows, const std::vector<std::size_t>& widths)
     return text;
 }
 
-Row rowOf(const MenuEntry& entry) {
+Row rowOf(const MenuEntry& entry, const KeyNames* names) {
     return {
-        "  " + titleInItsMenu(entry), TerminalText::of(entry.shortcut.display()),
+        "  " + titleInItsMenu(entry), TerminalText::of(displayWith(entry.shortcut, names)),
         entry.enabled ? TerminalText() : "(disabled)"};
 }
 
@@ -89,32 +89,32 @@ TerminalText tableText(const Rows& rows) {
     return tableText(rows, columnWidths(rows));
 }
 
-TerminalText sheetText(const AppSheet& sheet) {
+TerminalText sheetText(const AppSheet& sheet, const KeyNames* names) {
     Rows all;
     for (const MenuEntry& entry : sheet.entries)
-        all.push_back(rowOf(entry));
+        all.push_back(rowOf(entry, names));
     const std::vector<std::size_t> widths = columnWidths(all);
 
     TerminalText text = headline(sheet);
     for (const MenuGroup& group : sheet.groups()) {
         text += "\n" + TerminalText::of(group.menu) + "\n";
         for (const MenuEntry& entry : group.entries)
-            text += lineText(rowOf(entry), widths);
+            text += lineText(rowOf(entry, names), widths);
     }
     return text;
 }
 
-TerminalText practiceText(const std::vector<MenuEntry>& round) {
+TerminalText practiceText(const std::vector<MenuEntry>& round, const KeyNames* names) {
     Rows rows;
     for (std::size_t i = 0; i < round.size(); ++i)
         rows.push_back(
             {TerminalText::of(std::to_string(i + 1)) + ".", TerminalText::of(round[i].id()),
-             TerminalText::of(round[i].shortcut.display())});
+             TerminalText::of(displayWith(round[i].shortcut, names))});
     return tableText(rows);
 }
 
-TerminalText markdownText(const AppSheet& sheet, const Annotations& annotations) {
-    return TerminalText::linesOf(CheatSheet::markdown(linesOf(sheet), linesOf(annotations)));
+TerminalText markdownText(const AppSheet& sheet, const Annotations& annotations, const KeyNames* names) {
+    return TerminalText::linesOf(CheatSheet::markdown(linesOf(sheet), linesOf(annotations), names));
 }
 
 } // namespace quillon

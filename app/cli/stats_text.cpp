@@ -44,22 +44,22 @@ TerminalText headline(const AppStats& stats) {
            + number(stats.replaced) + "\n";
 }
 
-std::vector<TerminalText> rowOf(const CommandStats& command) {
+std::vector<TerminalText> rowOf(const CommandStats& command, const KeyNames* names) {
     return {
         "  " + TerminalText::of(command.id),
-        command.shortcut ? TerminalText::of(command.shortcut->display()) : TerminalText("-"),
+        command.shortcut ? TerminalText::of(displayWith(*command.shortcut, names)) : TerminalText("-"),
         "clicked " + number(command.clicked), "typed " + number(command.typed),
         command.graduated ? TerminalText("learned") : TerminalText()};
 }
 
 } // namespace
 
-TerminalText statsText(const std::vector<AppStats>& stats) {
+TerminalText statsText(const std::vector<AppStats>& stats, const KeyNames* names) {
     TerminalText text;
     for (const AppStats& app : stats) {
         std::vector<std::vector<TerminalText>> rows;
         for (const CommandStats& command : app.commands)
-            rows.push_back(rowOf(command));
+            rows.push_back(rowOf(command, names));
         text += (text.isEmpty() ? TerminalText() : TerminalText("\n")) + headline(app) + tableText(rows);
     }
     return text;

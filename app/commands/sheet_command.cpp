@@ -2,6 +2,7 @@
 
 #include <quillon/app/cli/app_choice.h>
 #include <quillon/app/cli/sheet_text.h>
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/kit/coach/practice_deck.h>
 #include <quillon/kit/coach/seeded_generator.h>
 #include <quillon/kit/menu/menu_parser.h>
@@ -73,14 +74,16 @@ practiceRound(const AppSheet& sheet, const PracticeRequest& request, const Recor
 }
 
 void print(const AppSheet& sheet, const SheetCommand& command, const Records& records, Output& output) {
+    const std::optional<KeyNames> names = shownNames(command.keys);
+    const KeyNames* const shown = names ? &*names : nullptr;
     switch (command.format) {
     case SheetFormat::json: output.printData(Json::encode(sheet).value_or("") + '\n'); return;
     case SheetFormat::markdown:
-        output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID)));
+        output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID), shown));
         return;
     case SheetFormat::text: break;
     }
-    output.print(command.practice ? practiceText(sheet.entries) : sheetText(sheet));
+    output.print(command.practice ? practiceText(sheet.entries, shown) : sheetText(sheet, shown));
 }
 
 /// The whole sheet of `app`. Says what it lacks; without entries there is none to print.
@@ -113,8 +116,8 @@ ExitCode runSheet(
         return ExitCode::noShortcuts;
 
     const Records records = Records::load(dataFolder);
-    sheet.entries =
-        ShortcutSearch::filter(sheet.entries, command.query, records.annotations.notes(sheet.bundleID));
+    sheet.entries = ShortcutSearch::filter(
+        sheet.entries, command.query, records.annotations.notes(sheet.bundleID), translatedKeyWords());
     if (sheet.entries.empty())
         output.say("no shortcut of " + nameOf(*app) + " matches '" + TerminalText::of(command.query) + "'");
     if (command.practice)

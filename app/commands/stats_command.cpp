@@ -1,6 +1,7 @@
 #include "commands.h"
 
 #include <quillon/app/cli/stats.h>
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/kit/coach/nudge_policy.h>
 #include <quillon/kit/records/json_file.h>
 #include <quillon/kit/records/learned_files.h>
@@ -46,10 +47,11 @@ ExitCode runStats(const StatsCommand& command, const std::filesystem::path& data
     }
     if (stats.empty())
         output.say("nothing was counted yet");
+    const std::optional<KeyNames> names = shownNames(command.keys);
     if (command.format == StatsFormat::json)
         output.printData(statsJson(stats));
     else
-        output.print(statsText(stats));
+        output.print(statsText(stats, names ? &*names : nullptr));
     return sheets ? ExitCode::success : ExitCode::failure;
 }
 

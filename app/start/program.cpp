@@ -41,7 +41,14 @@ Program::Program(Platform& platform)
                                                  .dataFolder = platform.dataFolder(),
                                                  .ownPid = getpid(),
                                              }),
-      m_tray(m_model, m_themes, [] { QApplication::quit(); }) {}
+      m_tray(m_model, m_themes, [] { QApplication::quit(); }) {
+    const auto applyKeyLabels = [this] { m_themes.setKeyLabels(m_settings.keyLabels()); };
+    applyKeyLabels();
+    m_keyLabels = m_settings.changed.subscribe([applyKeyLabels](Setting setting) {
+        if (setting == Setting::keyLabels)
+            applyKeyLabels();
+    });
+}
 
 Program::~Program() {
     m_model.savePending();

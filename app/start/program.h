@@ -51,6 +51,7 @@ class Program {
     AppModel m_model;
     TrayMenu m_tray;
     std::unique_ptr<Showcase> m_showcase;
+    Subscription m_keyLabels;
     Subscription m_preparation;
     Subscription m_firstShow;
     Subscription m_trustForFirstShow;

@@ -51,10 +51,17 @@ void NudgeToastView::showNudge() {
 void NudgeToastView::setEntry(MenuEntry entry) {
     m_entry = std::move(entry);
     m_keys->setShortcut(m_entry->shortcut);
-    setAccessibleName(ToastTexts::spoken(text(m_entry->shortcut.spoken()), foreignLine(m_entry->title())));
+    name();
     arrange();
     if (isVisible())
         tellAgain();
+}
+
+void NudgeToastView::name() {
+    if (!m_entry)
+        return;
+    const std::string keys = spokenWith(m_entry->shortcut, theme().keyNames.get());
+    setAccessibleName(ToastTexts::spoken(text(keys), foreignLine(m_entry->title())));
 }
 
 /// Screen readers read a notice when it begins to show; one that shows already has to begin anew.
@@ -81,6 +88,7 @@ void NudgeToastView::themeChanged() {
     m_background.reset();
     m_fonts = ToastFonts::of(theme());
     m_keys->setSize(m_fonts.keys);
+    name();
     arrange();
     ThemedWidget::themeChanged();
 }

@@ -39,6 +39,7 @@ class NudgeToastView : public ThemedWidget {
 
   private:
     void showNudge();
+    void name();
     void arrange();
     void tellAgain();
     void paintBackground(QPainter& painter);

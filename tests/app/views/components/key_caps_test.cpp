@@ -26,13 +26,13 @@ class KeyCapsTest : public testing::Test {
 
 TEST_F(KeyCapsTest, AllModifiersComeInTheirFixedOrderBeforeTheKey) {
     EXPECT_EQ(
-        capTexts({everyModifier, Key::character("K")}),
+        capTexts({everyModifier, Key::character("K")}, nullptr),
         (QStringList{u"⌃"_s, u"⌥"_s, u"⇧"_s, u"⌘"_s, u"K"_s}));
 }
 
 TEST_F(KeyCapsTest, AKeyAloneIsOneCap) {
-    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::f5)}), QStringList{u"F5"_s});
-    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::delete_)}), QStringList{u"⌫"_s});
+    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::f5)}, nullptr), QStringList{u"F5"_s});
+    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::delete_)}, nullptr), QStringList{u"⌫"_s});
 }
 
 TEST_F(KeyCapsTest, CapsAreThreeApartAndNeverHigherThanWide) {
@@ -62,7 +62,7 @@ TEST_F(KeyCapsTest, DigitsAreAllOfOneWidth) {
 TEST_F(KeyCapsTest, EveryGlyphThatAKeyCanShowHasAFont) {
     const QFont font = themes.theme().styles.body;
     for (const SpecialKey key : allSpecialKeys) {
-        const QString cap = capTexts({everyModifier, Key::special(key)}).last();
+        const QString cap = capTexts({everyModifier, Key::special(key)}, nullptr).last();
         QTextLayout layout(cap, font);
         layout.beginLayout();
         layout.createLine();
