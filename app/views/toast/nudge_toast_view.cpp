@@ -16,6 +16,9 @@ namespace quillon {
 
 namespace {
 
+/// In logical pixels: so small are no keys that a keyboard has.
+constexpr double smallestKeys = 6;
+
 /// A text whose box ends at the line that it stands on.
 void paintText(
     QPainter& painter, const QRectF& box, const QString& text, const QFont& font, const QColor& colour) {
@@ -72,12 +75,22 @@ void NudgeToastView::tellAgain() {
     }
 }
 
+/// As large as they are meant to be; names that are wider than the toast are smaller.
+void NudgeToastView::fitKeys() {
+    double size = m_fonts.keys;
+    m_keys->setSize(size);
+    while (m_keys->sizeHint().width() > ToastLayout::room() && size > smallestKeys)
+        m_keys->setSize(--size);
+}
+
 void NudgeToastView::arrange() {
+    fitKeys();
     m_arrangement = ToastLayout::of(
         {.fonts = m_fonts,
          .keys = m_keys->sizeHint(),
          .keysLine = m_keys->baseline(),
-         .title = m_entry ? foreignLine(m_entry->title()) : QString()},
+         .title = m_entry ? foreignLine(m_entry->title()) : QString(),
+         .isNamed = theme().keyNames != nullptr},
         layoutDirection());
     m_symbol->setGeometry(m_arrangement.symbol);
     m_keys->setGeometry(m_arrangement.keys);
@@ -86,7 +99,6 @@ void NudgeToastView::arrange() {
 
 void NudgeToastView::themeChanged() {
     m_fonts = ToastFonts::of(theme());
-    m_keys->setSize(m_fonts.keys);
     name();
     arrange();
     ThemedWidget::themeChanged();

@@ -40,6 +40,7 @@ class NudgeToastView : public ThemedWidget {
   private:
     void showNudge();
     void name();
+    void fitKeys();
     void arrange();
     void tellAgain();
 

@@ -122,6 +122,43 @@ TEST_F(KeyCapsTest, TheViewIsOneTextToScreenReaders) {
     EXPECT_EQ(element->text(QAccessible::Name), u"⌘S"_s);
 }
 
+TEST_F(KeyCapsTest, TheViewShowsAndReadsNamesAsSoonAsTheyAreChosen) {
+    KeysView view(themes, Shortcut{Modifiers::control | Modifiers::shift, Key::character(",")}, 13);
+    const int symbols = view.sizeHint().width();
+    themes.setKeyLabels(KeyLabels::names);
+    EXPECT_GT(view.sizeHint().width(), symbols);
+    EXPECT_EQ(view.accessibleName(), u"Ctrl Shift Comma"_s);
+    view.setShortcut(save);
+    EXPECT_EQ(view.accessibleName(), u"Super S"_s);
+    themes.setKeyLabels(KeyLabels::symbols);
+    EXPECT_EQ(view.accessibleName(), u"⌘S"_s);
+}
+
+TEST_F(KeyCapsTest, NamesAreWrittenAndArrowsAreDrawn) {
+    const KeyNames& names = KeyNames::english();
+    EXPECT_EQ(
+        capTexts({everyModifier, Key::special(SpecialKey::left)}, &names),
+        (QStringList{u"Ctrl"_s, u"Alt"_s, u"Shift"_s, u"Super"_s, u"←"_s}));
+    EXPECT_EQ(
+        capTexts({Modifiers::control, Key::special(SpecialKey::backTab)}, &names),
+        (QStringList{u"Ctrl"_s, u"Shift"_s, u"Tab"_s}));
+}
+
+TEST_F(KeyCapsTest, NamesAreAsHighAsSymbolsAndStandOnTheSameLine) {
+    const KeyCaps symbols(themes.theme(), 13);
+    themes.setKeyLabels(KeyLabels::names);
+    const KeyCaps names(themes.theme(), 13);
+    EXPECT_EQ(names.height(), symbols.height());
+    EXPECT_EQ(names.baseline(), symbols.baseline());
+}
+
+TEST_F(KeyCapsTest, AnotherLookKeepsTheNames) {
+    themes.setKeyLabels(KeyLabels::names);
+    appearance.set({ColourScheme::dark, {}, 14});
+    ASSERT_TRUE(themes.theme().keyNames);
+    EXPECT_EQ(themes.theme().keyNames->nameOf(Modifiers::control).shown, "Ctrl");
+}
+
 TEST_F(KeyCapsTest, TheViewGrowsWithAnotherThemesFont) {
     KeysView view(themes, Shortcut{{}, Key::special(SpecialKey::space)}, 13);
     const QSize before = view.sizeHint();
