@@ -93,7 +93,7 @@ using Command = std::variant<
 /// Takes a leading --verbose away from the arguments after the program's name; whether there was one.
 bool takeVerbose(QStringList& arguments);
 
-/// Reads the arguments after the program's name.
+/// Reads the arguments after the program's name. What it says is in the language that is spoken then.
 Command parseCommandLine(const QStringList& arguments);
 
 } // namespace quillon

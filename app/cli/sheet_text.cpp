@@ -2,6 +2,8 @@
 
 #include <quillon/kit/cheatsheet/cheat_sheet.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -21,12 +23,17 @@ TerminalText titleInItsMenu(const MenuEntry& entry) {
     return TerminalText::of(submenus.empty() ? title : submenus + std::string(pathSeparator) + title);
 }
 
+QString counted(std::size_t count) {
+    const int number = static_cast<int>(count);
+    if (number == 1)
+        return QCoreApplication::translate("CommandLine", "1 shortcut");
+    return QCoreApplication::translate("CommandLine", "%1 shortcuts", nullptr, number).arg(number);
+}
+
 TerminalText headline(const AppSheet& sheet) {
-    const std::size_t count = sheet.entries.size();
     return TerminalText::of(sheet.appName.empty() ? sheet.bundleID : sheet.appName)
            + (sheet.bundleID.empty() ? TerminalText() : " (" + TerminalText::of(sheet.bundleID) + ")") + ": "
-           + TerminalText::of(std::to_string(count))
-           + (count == 1 ? TerminalText(" shortcut\n") : " shortcuts\n");
+           + TerminalText::sentence(counted(sheet.entries.size())) + "\n";
 }
 
 std::vector<std::size_t> columnWidths(const Rows& rows) {
@@ -60,7 +67,8 @@ TerminalText tableText(const Rows& rows, const std::vector<std::size_t>& widths)
 Row rowOf(const MenuEntry& entry, const KeyNames* names) {
     return {
         "  " + titleInItsMenu(entry), TerminalText::of(displayWith(entry.shortcut, names)),
-        entry.enabled ? TerminalText() : "(disabled)"};
+        entry.enabled ? TerminalText()
+                      : TerminalText::sentence(QCoreApplication::translate("CommandLine", "(disabled)"))};
 }
 
 /// A text that stays on its line in Markdown and on a terminal.

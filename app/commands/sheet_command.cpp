@@ -11,6 +11,7 @@
 #include <quillon/kit/records/json_file.h>
 #include <quillon/kit/records/learned_files.h>
 
+#include <QCoreApplication>
 #include <QRandomGenerator>
 
 #include <optional>
@@ -28,25 +29,46 @@ std::optional<RunningApp> chosenApp(const SheetCommand& command, ApplicationList
     return command.pid ? appOfProcess(*command.pid, apps) : appCalled(*command.appName, apps);
 }
 
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
 TerminalText missingAppMessage(const SheetCommand& command) {
     if (command.pid)
-        return "process " + TerminalText::of(std::to_string(*command.pid))
-               + " is no application that shares its menus; see quillon apps";
+        return TerminalText::sentence(
+            QCoreApplication::translate(
+                "CommandLine", "process %1 is no application that shares its menus; see quillon apps")
+                .arg(*command.pid));
     if (command.appName)
-        return "no running application is called '" + TerminalText::of(*command.appName)
-               + "'; see quillon apps";
-    return "no application is in front; name one with --app, see quillon apps";
+        return TerminalText::sentence(
+            QCoreApplication::translate(
+                "CommandLine", "no running application is called '%1'; see quillon apps")
+                .arg(text(*command.appName)));
+    return TerminalText::sentence(QCoreApplication::translate(
+        "CommandLine", "no application is in front; name one with --app, see quillon apps"));
 }
 
-TerminalText nameOf(const RunningApp& app) {
-    return TerminalText::of(app.name.empty() ? app.bundleID : app.name);
+QString nameOf(const RunningApp& app) {
+    return text(app.name.empty() ? app.bundleID : app.name);
 }
 
-TerminalText whyNoShortcuts(const RunningApp& app, ReadOutcome outcome) {
+QString whyNoShortcuts(ReadOutcome outcome) {
     if (outcome == ReadOutcome::partial)
-        return nameOf(app) + " does not answer; try again when it does";
-    return nameOf(app)
-           + " shares no menu shortcuts; if it was started before accessibility was on, restart it";
+        return QCoreApplication::translate("CommandLine", "%1 does not answer; try again when it does");
+    return QCoreApplication::translate(
+        "CommandLine",
+        "%1 shares no menu shortcuts; if it was started before accessibility was on, restart it");
+}
+
+/// What the sheet lacks; empty when it lacks nothing.
+QString whatIsMissing(const AppSheet& sheet, ReadOutcome outcome) {
+    if (sheet.entries.empty())
+        return whyNoShortcuts(outcome);
+    if (outcome == ReadOutcome::partial)
+        return QCoreApplication::translate("CommandLine", "%1 stopped answering; the sheet is not complete");
+    if (outcome == ReadOutcome::limited)
+        return QCoreApplication::translate("CommandLine", "%1 has more menu items than are read");
+    return {};
 }
 
 /// What the user has done and said of the applications so far.
@@ -92,12 +114,8 @@ AppSheet readSheet(const RunningApp& app, MenuReader& menuReader, const Clock& c
     AppSheet sheet{
         app.bundleID, app.name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
         clock.now()};
-    if (sheet.entries.empty())
-        output.say(whyNoShortcuts(app, reading.outcome));
-    else if (reading.outcome == ReadOutcome::partial)
-        output.say(nameOf(app) + " stopped answering; the sheet is not complete");
-    else if (reading.outcome == ReadOutcome::limited)
-        output.say(nameOf(app) + " has more menu items than are read");
+    if (const QString missing = whatIsMissing(sheet, reading.outcome); !missing.isEmpty())
+        output.say(TerminalText::sentence(missing.arg(nameOf(app))));
     return sheet;
 }
 
@@ -119,7 +137,9 @@ ExitCode runSheet(
     sheet.entries = ShortcutSearch::filter(
         sheet.entries, command.query, records.annotations.notes(sheet.bundleID), translatedKeyWords());
     if (sheet.entries.empty())
-        output.say("no shortcut of " + nameOf(*app) + " matches '" + TerminalText::of(command.query) + "'");
+        output.say(TerminalText::sentence(
+            QCoreApplication::translate("CommandLine", "no shortcut of %1 matches '%2'")
+                .arg(nameOf(*app), text(command.query))));
     if (command.practice)
         sheet.entries = practiceRound(sheet, *command.practice, records);
     print(sheet, command, records, output);

@@ -6,6 +6,8 @@
 #include <quillon/kit/records/json_file.h>
 #include <quillon/kit/records/learned_files.h>
 
+#include <QCoreApplication>
+
 #include <utility>
 #include <vector>
 
@@ -30,7 +32,10 @@ std::optional<Value> load(const std::filesystem::path& file, Output& output) {
 
 ExitCode runStats(const StatsCommand& command, const std::filesystem::path& dataFolder, Output& output) {
     if (dataFolder.empty())
-        return output.fail(ExitCode::failure, "there is no home folder that could hold anything; set HOME");
+        return output.fail(
+            ExitCode::failure,
+            TerminalText::sentence(QCoreApplication::translate(
+                "CommandLine", "there is no home folder that could hold anything; set HOME")));
     const auto usage = load<UsageBook>(dataFolder / LearnedFiles::usage, output);
     if (!usage)
         return ExitCode::failure;
@@ -43,10 +48,13 @@ ExitCode runStats(const StatsCommand& command, const std::filesystem::path& data
         if (stats.empty())
             return output.fail(
                 ExitCode::noSuchApp,
-                "nothing was counted of an application called '" + TerminalText::of(*command.appName) + "'");
+                TerminalText::sentence(QCoreApplication::translate(
+                                           "CommandLine", "nothing was counted of an application called '%1'")
+                                           .arg(QString::fromStdString(*command.appName))));
     }
     if (stats.empty())
-        output.say("nothing was counted yet");
+        output.say(
+            TerminalText::sentence(QCoreApplication::translate("CommandLine", "nothing was counted yet")));
     const std::optional<KeyNames> names = shownNames(command.keys);
     if (command.format == StatsFormat::json)
         output.printData(statsJson(stats));

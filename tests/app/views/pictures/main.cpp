@@ -2,6 +2,7 @@
 #include "scenes.h"
 #include "symbol_pictures.h"
 
+#include <quillon/app/languages/translations.h>
 #include <quillon/app/views/components/text.h>
 
 #include <QApplication>
@@ -113,14 +114,16 @@ int main(int argc, char** argv) {
     const QCommandLineOption family(u"font"_s, u"The desktop's interface font."_s, u"family"_s);
     const QCommandLineOption points(u"points"_s, u"Its size."_s, u"points"_s);
     const QCommandLineOption keys(u"keys"_s, u"How keys are shown."_s, u"symbols|names"_s, u"symbols"_s);
+    const QCommandLineOption language(u"language"_s, u"What is spoken: de."_s, u"language"_s, u"en"_s);
     const QCommandLineOption caps(u"caps"_s, u"Only the key caps, enlarged, at four scales."_s);
     const QCommandLineOption symbols(u"symbols"_s, u"Only the symbols, enlarged, at two scales."_s);
-    parser.addOptions({only, family, points, keys, caps, symbols});
+    parser.addOptions({only, family, points, keys, language, caps, symbols});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1 || !QDir().mkpath(parser.positionalArguments().first()))
         parser.showHelp(2);
 
+    const Translations translations({parser.value(language)});
     Look look;
     if (parser.isSet(family))
         look.fontFamily = utf8(parser.value(family));
