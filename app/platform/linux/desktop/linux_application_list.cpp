@@ -11,6 +11,8 @@
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
 #include <quillon/app/platform/qt/system_clock.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <chrono>
 
