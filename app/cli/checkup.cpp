@@ -1,5 +1,7 @@
 #include "checkup.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstddef>
 
@@ -8,18 +10,26 @@ namespace quillon {
 namespace {
 
 TerminalText mark(Check::Result result) {
-    switch (result) {
-    case Check::Result::good: return "ok      ";
-    case Check::Result::limited: return "limited ";
-    case Check::Result::missing: return "missing ";
-    }
-    return "";
+    const auto text = [result] {
+        switch (result) {
+        case Check::Result::good: return QCoreApplication::translate("Doctor", "ok");
+        case Check::Result::limited: return QCoreApplication::translate("Doctor", "limited");
+        case Check::Result::missing: break;
+        }
+        return QCoreApplication::translate("Doctor", "missing");
+    };
+    return TerminalText::sentence(text());
 }
 
-TerminalText lineText(const Check& check, std::size_t subjectWidth) {
-    TerminalText line = mark(check.result) + TerminalText::of(check.subject);
-    line += TerminalText::blanks(subjectWidth - TerminalText::of(check.subject).width() + 2);
-    return line + TerminalText::of(check.finding) + "\n";
+TerminalText padded(const TerminalText& text, std::size_t width) {
+    return text + TerminalText::blanks(width - text.width());
+}
+
+std::size_t widestMark() {
+    std::size_t widest = 0;
+    for (const auto result : {Check::Result::good, Check::Result::limited, Check::Result::missing})
+        widest = std::max(widest, mark(result).width());
+    return widest;
 }
 
 } // namespace
@@ -28,12 +38,14 @@ TerminalText checkupText(const std::vector<Check>& checks) {
     std::size_t widest = 0;
     for (const Check& check : checks)
         widest = std::max(widest, TerminalText::of(check.subject).width());
+    const std::size_t indent = widestMark() + 1;
 
     TerminalText text;
     for (const Check& check : checks) {
-        text += lineText(check, widest);
+        text += padded(mark(check.result), indent) + padded(TerminalText::of(check.subject), widest + 2)
+                + TerminalText::of(check.finding) + "\n";
         if (!check.remedy.empty())
-            text += "        → " + TerminalText::of(check.remedy) + "\n";
+            text += TerminalText::blanks(indent) + "→ " + TerminalText::of(check.remedy) + "\n";
     }
     return text;
 }

@@ -1,6 +1,7 @@
 #include "command_line.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 #include <array>
 
@@ -10,8 +11,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const char* const helpText =
-    R"(Usage: quillon [--verbose] [COMMAND]
+const char* const helpText = QT_TRANSLATE_NOOP("CommandLine", R"(Usage: quillon [--verbose] [COMMAND]
 
 Teaches the keyboard shortcuts of the applications you already use. Hold the
 trigger key (Super) in any application to see its shortcuts.
@@ -26,6 +26,8 @@ Commands:
                 --front           the front application (default)
                 --query Q         only the shortcuts that match Q
                 --format FORMAT   text (default), json or markdown
+                --keys KEYS       symbols (default), or names as they are printed
+                                  on the keyboard; JSON is the same with both
                 --practice N      a practice round of N commands instead, in the
                                   order in which they are asked
                 --seed S          the same round every time
@@ -36,6 +38,7 @@ Commands:
               that were clicked as well
                 --app NAME        of the application with this id or name only
                 --format FORMAT   text (default) or json
+                --keys KEYS       as for sheet
   doctor      say what works on this desktop and how to mend what does not
   quit        end the running program
 
@@ -47,10 +50,10 @@ Options:
 
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
 4 accessibility is absent or off, 5 the application shares no menu shortcuts.
-)";
+)");
 
 UsageError unexpected(const QString& what) {
-    return {u"%1; see quillon --help"_s.arg(what).toStdString()};
+    return {QCoreApplication::translate("CommandLine", "%1; see quillon --help").arg(what).toStdString()};
 }
 
 /// The parser's own complaint, made to fit into a message: "Unknown option 'x'." becomes "unknown option
@@ -69,7 +72,8 @@ std::optional<UsageError> readOptions(
     if (!parser.parse(QStringList{u"quillon"_s} + arguments))
         return unexpected(complaintOf(parser));
     if (!parser.positionalArguments().isEmpty())
-        return unexpected(u"unexpected argument '%1'"_s.arg(parser.positionalArguments().constFirst()));
+        return unexpected(QCoreApplication::translate("CommandLine", "unexpected argument '%1'")
+                              .arg(parser.positionalArguments().constFirst()));
     return std::nullopt;
 }
 
@@ -100,24 +104,44 @@ std::optional<SheetFormat> sheetFormat(const QString& name) {
     return std::nullopt;
 }
 
+/// Reads --keys into `labels`.
+std::optional<UsageError>
+readKeys(const QCommandLineParser& parser, const QCommandLineOption& keys, KeyLabels& labels) {
+    if (!parser.isSet(keys))
+        return std::nullopt;
+    const QString chosen = parser.value(keys);
+    if (chosen != "symbols"_L1 && chosen != "names"_L1)
+        return unexpected(
+            QCoreApplication::translate("CommandLine", "--keys is symbols or names, not '%1'").arg(chosen));
+    labels = chosen == "names"_L1 ? KeyLabels::names : KeyLabels::symbols;
+    return std::nullopt;
+}
+
 /// Reads --practice and --seed into `command`.
 std::optional<UsageError> readPractice(
     const QCommandLineParser& parser, const QCommandLineOption& practice, const QCommandLineOption& seed,
     SheetCommand& command) {
     if (!parser.isSet(practice))
-        return parser.isSet(seed) ? std::optional(unexpected(u"--seed needs --practice"_s)) : std::nullopt;
+        return parser.isSet(seed) ? std::optional(
+                   unexpected(QCoreApplication::translate("CommandLine", "--seed needs --practice")))
+                                  : std::nullopt;
     if (command.format == SheetFormat::markdown)
-        return unexpected(u"--practice is printed as text or json"_s);
+        return unexpected(
+            QCoreApplication::translate("CommandLine", "--practice is printed as text or json"));
     PracticeRequest request;
     const auto count = positiveNumber(parser.value(practice));
     if (!count)
-        return unexpected(u"--practice takes a positive number, not '%1'"_s.arg(parser.value(practice)));
+        return unexpected(
+            QCoreApplication::translate("CommandLine", "--practice takes a positive number, not '%1'")
+                .arg(parser.value(practice)));
     request.count = *count;
     if (parser.isSet(seed)) {
         bool isNumber = false;
         request.seed = parser.value(seed).toULongLong(&isNumber);
         if (!isNumber)
-            return unexpected(u"--seed takes a number from 0 to 2^64-1, not '%1'"_s.arg(parser.value(seed)));
+            return unexpected(
+                QCoreApplication::translate("CommandLine", "--seed takes a number from 0 to 2^64-1, not '%1'")
+                    .arg(parser.value(seed)));
     }
     command.practice = request;
     return std::nullopt;
@@ -132,10 +156,12 @@ Command parseSheet(const QStringList& arguments) {
     const QCommandLineOption format = withValue(u"format"_s);
     const QCommandLineOption practice = withValue(u"practice"_s);
     const QCommandLineOption seed = withValue(u"seed"_s);
-    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format, practice, seed}))
+    const QCommandLineOption keys = withValue(u"keys"_s);
+    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format, practice, seed, keys}))
         return *error;
     if (int(parser.isSet(app)) + int(parser.isSet(pid)) + int(parser.isSet(front)) > 1)
-        return unexpected(u"--app, --pid and --front exclude each other"_s);
+        return unexpected(
+            QCoreApplication::translate("CommandLine", "--app, --pid and --front exclude each other"));
 
     SheetCommand command;
     if (parser.isSet(app))
@@ -143,14 +169,20 @@ Command parseSheet(const QStringList& arguments) {
     if (parser.isSet(pid)) {
         command.pid = positiveNumber(parser.value(pid));
         if (!command.pid)
-            return unexpected(u"--pid takes a process number, not '%1'"_s.arg(parser.value(pid)));
+            return unexpected(
+                QCoreApplication::translate("CommandLine", "--pid takes a process number, not '%1'")
+                    .arg(parser.value(pid)));
     }
     command.query = parser.value(query).toStdString();
     const auto chosenFormat = sheetFormat(parser.isSet(format) ? parser.value(format) : u"text"_s);
     if (!chosenFormat)
-        return unexpected(u"--format is text, json or markdown, not '%1'"_s.arg(parser.value(format)));
+        return unexpected(
+            QCoreApplication::translate("CommandLine", "--format is text, json or markdown, not '%1'")
+                .arg(parser.value(format)));
     command.format = *chosenFormat;
     if (auto error = readPractice(parser, practice, seed, command))
+        return *error;
+    if (auto error = readKeys(parser, keys, command.keys))
         return *error;
     return command;
 }
@@ -167,15 +199,19 @@ Command parseStats(const QStringList& arguments) {
     QCommandLineParser parser;
     const QCommandLineOption app = withValue(u"app"_s);
     const QCommandLineOption format = withValue(u"format"_s);
-    if (auto error = readOptions(parser, arguments, {app, format}))
+    const QCommandLineOption keys = withValue(u"keys"_s);
+    if (auto error = readOptions(parser, arguments, {app, format, keys}))
         return *error;
     StatsCommand command;
     if (parser.isSet(app))
         command.appName = parser.value(app).toStdString();
     const QString chosen = parser.isSet(format) ? parser.value(format) : u"text"_s;
     if (chosen != "text"_L1 && chosen != "json"_L1)
-        return unexpected(u"--format is text or json, not '%1'"_s.arg(chosen));
+        return unexpected(
+            QCoreApplication::translate("CommandLine", "--format is text or json, not '%1'").arg(chosen));
     command.format = chosen == "json"_L1 ? StatsFormat::json : StatsFormat::text;
+    if (auto error = readKeys(parser, keys, command.keys))
+        return *error;
     return command;
 }
 
@@ -213,13 +249,14 @@ Command parseCommandLine(const QStringList& arguments) {
     if (arguments.isEmpty())
         return RunCommand{};
     if (arguments.contains("--help"_L1) || arguments.contains("-h"_L1))
-        return PrintCommand{helpText};
+        return PrintCommand{QCoreApplication::translate("CommandLine", helpText).toStdString()};
     if (arguments.constFirst() == "--version"_L1)
         return PrintCommand{"quillon " QUILLON_VERSION "\n"};
     for (const Subcommand& subcommand : subcommands)
         if (arguments.constFirst() == QLatin1StringView(subcommand.name))
             return subcommand.parse(arguments.sliced(1));
-    return unexpected(u"unknown command '%1'"_s.arg(arguments.constFirst()));
+    return unexpected(
+        QCoreApplication::translate("CommandLine", "unknown command '%1'").arg(arguments.constFirst()));
 }
 
 } // namespace quillon

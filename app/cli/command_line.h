@@ -1,5 +1,7 @@
 #pragma once
 
+#include <quillon/kit/shortcut/key_labels.h>
+
 #include <QStringList>
 
 #include <cstdint>
@@ -43,6 +45,7 @@ struct SheetCommand {
     std::string query;
     SheetFormat format = SheetFormat::text;
     std::optional<PracticeRequest> practice; ///< never with the Markdown format
+    KeyLabels keys = KeyLabels::symbols;     ///< without effect on JSON
 
     bool operator==(const SheetCommand&) const = default;
 };
@@ -58,6 +61,7 @@ enum class StatsFormat { text, json };
 struct StatsCommand {
     std::optional<std::string> appName;
     StatsFormat format = StatsFormat::text;
+    KeyLabels keys = KeyLabels::symbols; ///< without effect on JSON
 
     bool operator==(const StatsCommand&) const = default;
 };
@@ -89,7 +93,7 @@ using Command = std::variant<
 /// Takes a leading --verbose away from the arguments after the program's name; whether there was one.
 bool takeVerbose(QStringList& arguments);
 
-/// Reads the arguments after the program's name.
+/// Reads the arguments after the program's name. What it says is in the language that is spoken then.
 Command parseCommandLine(const QStringList& arguments);
 
 } // namespace quillon

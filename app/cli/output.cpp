@@ -1,5 +1,7 @@
 #include "output.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstring>
 
@@ -53,7 +55,10 @@ void Output::write(std::string_view bytes) {
 ExitCode Output::finish(ExitCode code) {
     if (m_error == 0)
         return code;
-    return fail(ExitCode::failure, "the output was lost: " + TerminalText::of(std::strerror(m_error)));
+    return fail(
+        ExitCode::failure,
+        TerminalText::sentence(QCoreApplication::translate("CommandLine", "the output was lost: %1")
+                                   .arg(QString::fromLocal8Bit(std::strerror(m_error)))));
 }
 
 void fillClosedStreams() {

@@ -2,6 +2,8 @@
 
 #include <quillon/kit/cheatsheet/cheat_sheet.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -21,12 +23,17 @@ TerminalText titleInItsMenu(const MenuEntry& entry) {
     return TerminalText::of(submenus.empty() ? title : submenus + std::string(pathSeparator) + title);
 }
 
+QString counted(std::size_t count) {
+    const int number = static_cast<int>(count);
+    if (number == 1)
+        return QCoreApplication::translate("CommandLine", "1 shortcut");
+    return QCoreApplication::translate("CommandLine", "%1 shortcuts", nullptr, number).arg(number);
+}
+
 TerminalText headline(const AppSheet& sheet) {
-    const std::size_t count = sheet.entries.size();
     return TerminalText::of(sheet.appName.empty() ? sheet.bundleID : sheet.appName)
            + (sheet.bundleID.empty() ? TerminalText() : " (" + TerminalText::of(sheet.bundleID) + ")") + ": "
-           + TerminalText::of(std::to_string(count))
-           + (count == 1 ? TerminalText(" shortcut\n") : " shortcuts\n");
+           + TerminalText::sentence(counted(sheet.entries.size())) + "\n";
 }
 
 std::vector<std::size_t> columnWidths(const Rows& rows) {
@@ -57,10 +64,11 @@ TerminalText tableText(const Rows& rows, const std::vector<std::size_t>& widths)
     return text;
 }
 
-Row rowOf(const MenuEntry& entry) {
+Row rowOf(const MenuEntry& entry, const KeyNames* names) {
     return {
-        "  " + titleInItsMenu(entry), TerminalText::of(entry.shortcut.display()),
-        entry.enabled ? TerminalText() : "(disabled)"};
+        "  " + titleInItsMenu(entry), TerminalText::of(displayWith(entry.shortcut, names)),
+        entry.enabled ? TerminalText()
+                      : TerminalText::sentence(QCoreApplication::translate("CommandLine", "(disabled)"))};
 }
 
 /// A text that stays on its line in Markdown and on a terminal.
@@ -89,32 +97,32 @@ TerminalText tableText(const Rows& rows) {
     return tableText(rows, columnWidths(rows));
 }
 
-TerminalText sheetText(const AppSheet& sheet) {
+TerminalText sheetText(const AppSheet& sheet, const KeyNames* names) {
     Rows all;
     for (const MenuEntry& entry : sheet.entries)
-        all.push_back(rowOf(entry));
+        all.push_back(rowOf(entry, names));
     const std::vector<std::size_t> widths = columnWidths(all);
 
     TerminalText text = headline(sheet);
     for (const MenuGroup& group : sheet.groups()) {
         text += "\n" + TerminalText::of(group.menu) + "\n";
         for (const MenuEntry& entry : group.entries)
-            text += lineText(rowOf(entry), widths);
+            text += lineText(rowOf(entry, names), widths);
     }
     return text;
 }
 
-TerminalText practiceText(const std::vector<MenuEntry>& round) {
+TerminalText practiceText(const std::vector<MenuEntry>& round, const KeyNames* names) {
     Rows rows;
     for (std::size_t i = 0; i < round.size(); ++i)
         rows.push_back(
             {TerminalText::of(std::to_string(i + 1)) + ".", TerminalText::of(round[i].id()),
-             TerminalText::of(round[i].shortcut.display())});
+             TerminalText::of(displayWith(round[i].shortcut, names))});
     return tableText(rows);
 }
 
-TerminalText markdownText(const AppSheet& sheet, const Annotations& annotations) {
-    return TerminalText::linesOf(CheatSheet::markdown(linesOf(sheet), linesOf(annotations)));
+TerminalText markdownText(const AppSheet& sheet, const Annotations& annotations, const KeyNames* names) {
+    return TerminalText::linesOf(CheatSheet::markdown(linesOf(sheet), linesOf(annotations), names));
 }
 
 } // namespace quillon

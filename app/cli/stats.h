@@ -5,6 +5,7 @@
 #include <quillon/kit/base/checked.h>
 #include <quillon/kit/records/stored_forms.h>
 #include <quillon/kit/records/usage.h>
+#include <quillon/kit/shortcut/key_names.h>
 
 #include <optional>
 #include <string>
@@ -47,8 +48,9 @@ std::vector<AppStats> statsOf(const UsageBook& usage, const SheetMap& sheets, Co
 /// Those of the application that is called so, by the rules of `appCalled`; empty when there is none.
 std::vector<AppStats> statsOfApp(const std::vector<AppStats>& all, std::string_view name);
 
-/// A table of commands for each application, below what was counted of it altogether.
-TerminalText statsText(const std::vector<AppStats>& stats);
+/// A table of commands for each application, below what was counted of it altogether. Keys are shown by
+/// `names`; with null, by symbols.
+TerminalText statsText(const std::vector<AppStats>& stats, const KeyNames* names = nullptr);
 
 /// The same for programs: one line of JSON, an array of applications.
 std::string statsJson(const std::vector<AppStats>& stats);

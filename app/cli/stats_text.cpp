@@ -4,6 +4,8 @@
 
 #include <quillon/kit/records/json_codec.h>
 
+#include <QCoreApplication>
+
 #include <string>
 #include <tuple>
 
@@ -32,34 +34,42 @@ namespace quillon {
 
 namespace {
 
-TerminalText number(Count count) {
-    return TerminalText::of(std::to_string(count));
+/// A pattern with one number in it.
+TerminalText counted(const char* pattern, Count count) {
+    return TerminalText::sentence(QCoreApplication::translate("CommandLine", pattern).arg(count));
 }
 
 TerminalText headline(const AppStats& stats) {
     const bool isNamed = !stats.appName.empty();
+    const QString counts =
+        QCoreApplication::translate("CommandLine", "clicked %1, typed %2, clicks replaced by typing %3")
+            .arg(stats.clicked)
+            .arg(stats.typed)
+            .arg(stats.replaced);
     return TerminalText::of(isNamed ? stats.appName : stats.bundleID)
-           + (isNamed ? " (" + TerminalText::of(stats.bundleID) + ")" : TerminalText()) + ": clicked "
-           + number(stats.clicked) + ", typed " + number(stats.typed) + ", clicks replaced by typing "
-           + number(stats.replaced) + "\n";
+           + (isNamed ? " (" + TerminalText::of(stats.bundleID) + ")" : TerminalText()) + ": "
+           + TerminalText::sentence(counts) + "\n";
 }
 
-std::vector<TerminalText> rowOf(const CommandStats& command) {
+std::vector<TerminalText> rowOf(const CommandStats& command, const KeyNames* names) {
+    const QString learned =
+        command.graduated ? QCoreApplication::translate("CommandLine", "learned") : QString();
     return {
         "  " + TerminalText::of(command.id),
-        command.shortcut ? TerminalText::of(command.shortcut->display()) : TerminalText("-"),
-        "clicked " + number(command.clicked), "typed " + number(command.typed),
-        command.graduated ? TerminalText("learned") : TerminalText()};
+        command.shortcut ? TerminalText::of(displayWith(*command.shortcut, names)) : TerminalText("-"),
+        counted(QT_TRANSLATE_NOOP("CommandLine", "clicked %1"), command.clicked),
+        counted(QT_TRANSLATE_NOOP("CommandLine", "typed %1"), command.typed),
+        TerminalText::sentence(learned)};
 }
 
 } // namespace
 
-TerminalText statsText(const std::vector<AppStats>& stats) {
+TerminalText statsText(const std::vector<AppStats>& stats, const KeyNames* names) {
     TerminalText text;
     for (const AppStats& app : stats) {
         std::vector<std::vector<TerminalText>> rows;
         for (const CommandStats& command : app.commands)
-            rows.push_back(rowOf(command));
+            rows.push_back(rowOf(command, names));
         text += (text.isEmpty() ? TerminalText() : TerminalText("\n")) + headline(app) + tableText(rows);
     }
     return text;

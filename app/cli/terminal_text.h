@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -20,6 +22,9 @@ class TerminalText {
     static TerminalText of(std::string_view foreign);
     /// Lines from elsewhere: "\n" breaks them as usual.
     static TerminalText linesOf(std::string_view foreign);
+    /// A sentence of this program's own in the user's language, with what it tells of elsewhere in it. One
+    /// line.
+    static TerminalText sentence(const QString& text) { return of(text.toStdString()); }
     /// So many blanks.
     static TerminalText blanks(std::size_t count);
 

@@ -6,6 +6,8 @@
 #include <quillon/kit/records/learned_files.h>
 #include <quillon/kit/records/usage.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -19,7 +21,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* subject = "Learned data";
+std::string said(const QString& text) {
+    return text.toStdString();
+}
+
+std::string subject() {
+    return said(QCoreApplication::translate("Doctor", "Learned data"));
+}
 
 /// A file that is gone, or a link to one that is still to be written, is no failure.
 template <class Value>
@@ -42,11 +50,14 @@ constexpr std::array kinds{
 };
 
 Check checkOf(const fs::path& file, const LoadFailure& failure, bool isSetAside) {
-    const std::string remedy =
-        isSetAside ? "Quillon keeps it as it was and began a new one. Mend it and put it back "
-                     "while Quillon does not run, or remove it."
-                   : "Mend or remove it while Quillon does not run; until then it counts as empty.";
-    return {subject, Check::Result::limited, file.string() + ": " + failure.message(), remedy};
+    const QString remedy =
+        isSetAside
+            ? QCoreApplication::translate(
+                "Doctor", "Quillon keeps it as it was and began a new one. Mend it and put it back "
+                          "while Quillon does not run, or remove it.")
+            : QCoreApplication::translate(
+                "Doctor", "Mend or remove it while Quillon does not run; until then it counts as empty.");
+    return {subject(), Check::Result::limited, file.string() + ": " + failure.message(), said(remedy)};
 }
 
 std::vector<fs::path> filesIn(const fs::path& folder) {
@@ -62,7 +73,10 @@ std::vector<fs::path> filesIn(const fs::path& folder) {
 
 std::vector<Check> checkDataFiles(const fs::path& folder) {
     if (folder.empty())
-        return {{subject, Check::Result::limited, "there is no home folder to keep it in", "Set HOME."}};
+        return {
+            {subject(), Check::Result::limited,
+             said(QCoreApplication::translate("Doctor", "there is no home folder to keep it in")),
+             said(QCoreApplication::translate("Doctor", "Set HOME."))}};
     std::vector<Check> checks;
     for (const fs::path& file : filesIn(folder)) {
         const std::string name = file.filename().string();
@@ -78,7 +92,11 @@ std::vector<Check> checkDataFiles(const fs::path& folder) {
             checks.push_back(checkOf(file, *failure, isSetAside));
     }
     if (checks.empty())
-        checks.push_back({subject, Check::Result::good, "in " + folder.string(), ""});
+        checks.push_back(
+            {subject(), Check::Result::good,
+             said(
+                 QCoreApplication::translate("Doctor", "in %1").arg(QString::fromStdString(folder.string()))),
+             ""});
     return checks;
 }
 

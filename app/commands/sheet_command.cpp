@@ -2,6 +2,7 @@
 
 #include <quillon/app/cli/app_choice.h>
 #include <quillon/app/cli/sheet_text.h>
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/kit/coach/practice_deck.h>
 #include <quillon/kit/coach/seeded_generator.h>
 #include <quillon/kit/menu/menu_parser.h>
@@ -10,6 +11,7 @@
 #include <quillon/kit/records/json_file.h>
 #include <quillon/kit/records/learned_files.h>
 
+#include <QCoreApplication>
 #include <QRandomGenerator>
 
 #include <optional>
@@ -27,25 +29,46 @@ std::optional<RunningApp> chosenApp(const SheetCommand& command, ApplicationList
     return command.pid ? appOfProcess(*command.pid, apps) : appCalled(*command.appName, apps);
 }
 
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
 TerminalText missingAppMessage(const SheetCommand& command) {
     if (command.pid)
-        return "process " + TerminalText::of(std::to_string(*command.pid))
-               + " is no application that shares its menus; see quillon apps";
+        return TerminalText::sentence(
+            QCoreApplication::translate(
+                "CommandLine", "process %1 is no application that shares its menus; see quillon apps")
+                .arg(*command.pid));
     if (command.appName)
-        return "no running application is called '" + TerminalText::of(*command.appName)
-               + "'; see quillon apps";
-    return "no application is in front; name one with --app, see quillon apps";
+        return TerminalText::sentence(
+            QCoreApplication::translate(
+                "CommandLine", "no running application is called '%1'; see quillon apps")
+                .arg(text(*command.appName)));
+    return TerminalText::sentence(QCoreApplication::translate(
+        "CommandLine", "no application is in front; name one with --app, see quillon apps"));
 }
 
-TerminalText nameOf(const RunningApp& app) {
-    return TerminalText::of(app.name.empty() ? app.bundleID : app.name);
+QString nameOf(const RunningApp& app) {
+    return text(app.name.empty() ? app.bundleID : app.name);
 }
 
-TerminalText whyNoShortcuts(const RunningApp& app, ReadOutcome outcome) {
+QString whyNoShortcuts(ReadOutcome outcome) {
     if (outcome == ReadOutcome::partial)
-        return nameOf(app) + " does not answer; try again when it does";
-    return nameOf(app)
-           + " shares no menu shortcuts; if it was started before accessibility was on, restart it";
+        return QCoreApplication::translate("CommandLine", "%1 does not answer; try again when it does");
+    return QCoreApplication::translate(
+        "CommandLine",
+        "%1 shares no menu shortcuts; if it was started before accessibility was on, restart it");
+}
+
+/// What the sheet lacks; empty when it lacks nothing.
+QString whatIsMissing(const AppSheet& sheet, ReadOutcome outcome) {
+    if (sheet.entries.empty())
+        return whyNoShortcuts(outcome);
+    if (outcome == ReadOutcome::partial)
+        return QCoreApplication::translate("CommandLine", "%1 stopped answering; the sheet is not complete");
+    if (outcome == ReadOutcome::limited)
+        return QCoreApplication::translate("CommandLine", "%1 has more menu items than are read");
+    return {};
 }
 
 /// What the user has done and said of the applications so far.
@@ -73,14 +96,16 @@ practiceRound(const AppSheet& sheet, const PracticeRequest& request, const Recor
 }
 
 void print(const AppSheet& sheet, const SheetCommand& command, const Records& records, Output& output) {
+    const std::optional<KeyNames> names = shownNames(command.keys);
+    const KeyNames* const shown = names ? &*names : nullptr;
     switch (command.format) {
     case SheetFormat::json: output.printData(Json::encode(sheet).value_or("") + '\n'); return;
     case SheetFormat::markdown:
-        output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID)));
+        output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID), shown));
         return;
     case SheetFormat::text: break;
     }
-    output.print(command.practice ? practiceText(sheet.entries) : sheetText(sheet));
+    output.print(command.practice ? practiceText(sheet.entries, shown) : sheetText(sheet, shown));
 }
 
 /// The whole sheet of `app`. Says what it lacks; without entries there is none to print.
@@ -89,12 +114,8 @@ AppSheet readSheet(const RunningApp& app, MenuReader& menuReader, const Clock& c
     AppSheet sheet{
         app.bundleID, app.name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
         clock.now()};
-    if (sheet.entries.empty())
-        output.say(whyNoShortcuts(app, reading.outcome));
-    else if (reading.outcome == ReadOutcome::partial)
-        output.say(nameOf(app) + " stopped answering; the sheet is not complete");
-    else if (reading.outcome == ReadOutcome::limited)
-        output.say(nameOf(app) + " has more menu items than are read");
+    if (const QString missing = whatIsMissing(sheet, reading.outcome); !missing.isEmpty())
+        output.say(TerminalText::sentence(missing.arg(nameOf(app))));
     return sheet;
 }
 
@@ -113,10 +134,12 @@ ExitCode runSheet(
         return ExitCode::noShortcuts;
 
     const Records records = Records::load(dataFolder);
-    sheet.entries =
-        ShortcutSearch::filter(sheet.entries, command.query, records.annotations.notes(sheet.bundleID));
+    sheet.entries = ShortcutSearch::filter(
+        sheet.entries, command.query, records.annotations.notes(sheet.bundleID), translatedKeyWords());
     if (sheet.entries.empty())
-        output.say("no shortcut of " + nameOf(*app) + " matches '" + TerminalText::of(command.query) + "'");
+        output.say(TerminalText::sentence(
+            QCoreApplication::translate("CommandLine", "no shortcut of %1 matches '%2'")
+                .arg(nameOf(*app), text(command.query))));
     if (command.practice)
         sheet.entries = practiceRound(sheet, *command.practice, records);
     print(sheet, command, records, output);

@@ -1,9 +1,12 @@
 #include "commands.h"
 
 #include <quillon/app/cli/stats.h>
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/kit/coach/nudge_policy.h>
 #include <quillon/kit/records/json_file.h>
 #include <quillon/kit/records/learned_files.h>
+
+#include <QCoreApplication>
 
 #include <utility>
 #include <vector>
@@ -29,7 +32,10 @@ std::optional<Value> load(const std::filesystem::path& file, Output& output) {
 
 ExitCode runStats(const StatsCommand& command, const std::filesystem::path& dataFolder, Output& output) {
     if (dataFolder.empty())
-        return output.fail(ExitCode::failure, "there is no home folder that could hold anything; set HOME");
+        return output.fail(
+            ExitCode::failure,
+            TerminalText::sentence(QCoreApplication::translate(
+                "CommandLine", "there is no home folder that could hold anything; set HOME")));
     const auto usage = load<UsageBook>(dataFolder / LearnedFiles::usage, output);
     if (!usage)
         return ExitCode::failure;
@@ -42,14 +48,18 @@ ExitCode runStats(const StatsCommand& command, const std::filesystem::path& data
         if (stats.empty())
             return output.fail(
                 ExitCode::noSuchApp,
-                "nothing was counted of an application called '" + TerminalText::of(*command.appName) + "'");
+                TerminalText::sentence(QCoreApplication::translate(
+                                           "CommandLine", "nothing was counted of an application called '%1'")
+                                           .arg(QString::fromStdString(*command.appName))));
     }
     if (stats.empty())
-        output.say("nothing was counted yet");
+        output.say(
+            TerminalText::sentence(QCoreApplication::translate("CommandLine", "nothing was counted yet")));
+    const std::optional<KeyNames> names = shownNames(command.keys);
     if (command.format == StatsFormat::json)
         output.printData(statsJson(stats));
     else
-        output.print(statsText(stats));
+        output.print(statsText(stats, names ? &*names : nullptr));
     return sheets ? ExitCode::success : ExitCode::failure;
 }
 

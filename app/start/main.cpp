@@ -3,6 +3,7 @@
 
 #include <quillon/app/cli/log_output.h>
 #include <quillon/app/commands/commands.h>
+#include <quillon/app/languages/translations.h>
 #include <quillon/app/platform/qt/system_clock.h>
 #include <quillon/app/ports/diagnostics/log.h>
 
@@ -25,7 +26,8 @@ QStringList argumentsAfterName(int argc, char** argv) {
 /// Carries out what the command line asks for.
 class Execution {
   public:
-    Execution(int& argc, char** argv, Output& output) : m_argc(argc), m_argv(argv), m_output(output) {}
+    Execution(int& argc, char** argv, const QStringList& arguments, Output& output)
+        : m_argc(argc), m_argv(argv), m_arguments(arguments), m_output(output) {}
 
     ExitCode operator()(const RunCommand&) { return run(FirstShow::nothing); }
     ExitCode operator()(const ShowCommand& show) {
@@ -55,12 +57,14 @@ class Execution {
     ExitCode operator()(const QuitCommand&) {
         return withPlatform([&](Platform& platform) { return runQuit(platform.runningProgram(), m_output); });
     }
-    ExitCode operator()(const PrintCommand& print) {
-        m_output.print(TerminalText::linesOf(print.text));
+    ExitCode operator()(const PrintCommand&) {
+        const Said said(*this);
+        m_output.print(TerminalText::linesOf(std::get<PrintCommand>(said.command).text));
         return ExitCode::success;
     }
-    ExitCode operator()(const UsageError& error) {
-        return m_output.fail(ExitCode::usage, TerminalText::of(error.message));
+    ExitCode operator()(const UsageError&) {
+        const Said said(*this);
+        return m_output.fail(ExitCode::usage, TerminalText::of(std::get<UsageError>(said.command).message));
     }
 
   private:
@@ -68,16 +72,29 @@ class Execution {
         return runProgram(*thisPlatform(), firstShow, m_argc, m_argv, m_output);
     }
 
+    /// The command once more, with its texts in the session's language.
+    struct Said {
+        explicit Said(Execution& execution)
+            : application(execution.m_argc, execution.m_argv),
+              command(parseCommandLine(execution.m_arguments)) {}
+
+        QCoreApplication application;
+        Translations translations;
+        Command command;
+    };
+
     /// Commands without windows still need what makes Qt's sockets and buses work.
     template <class Work>
     ExitCode withPlatform(Work work) {
         const QCoreApplication application(m_argc, m_argv);
+        const Translations translations;
         const std::unique_ptr<Platform> platform = thisPlatform();
         return work(*platform);
     }
 
     int& m_argc;
     char** m_argv;
+    const QStringList& m_arguments;
     Output& m_output;
 };
 
@@ -91,6 +108,6 @@ int main(int argc, char** argv) {
     if (takeVerbose(arguments))
         logEverything();
     Output output;
-    const ExitCode code = std::visit(Execution(argc, argv, output), parseCommandLine(arguments));
+    const ExitCode code = std::visit(Execution(argc, argv, arguments, output), parseCommandLine(arguments));
     return static_cast<int>(output.finish(code));
 }

@@ -43,7 +43,14 @@ Program::Program(Platform& platform)
                                           }),
       m_tray(m_model, m_themes, [] { QApplication::quit(); }),
       m_windowOffers(offerWindows(m_windows, {m_model, m_themes, m_icons, *m_desktop})),
-      m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {}
+      m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {
+    const auto applyKeyLabels = [this] { m_themes.setKeyLabels(m_settings.keyLabels()); };
+    applyKeyLabels();
+    m_keyLabels = m_settings.changed.subscribe([applyKeyLabels](Setting setting) {
+        if (setting == Setting::keyLabels)
+            applyKeyLabels();
+    });
+}
 
 Program::~Program() {
     m_model.savePending();

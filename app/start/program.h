@@ -57,6 +57,7 @@ class Program {
     TrayMenu m_tray;
     std::vector<Subscription> m_windowOffers;
     std::unique_ptr<Showcase> m_showcase;
+    Subscription m_keyLabels;
     Subscription m_preparation;
     FirstTrust m_trustForFirstShow;
     WelcomeAtStart m_welcome;

@@ -3,6 +3,7 @@
 #include "panel_log.h"
 #include "stall_hook.h"
 
+#include <quillon/app/languages/translations.h>
 #include <quillon/app/platform/qt/end_signals.h>
 
 #include <QApplication>
@@ -24,7 +25,9 @@ ProgramRequest requestOf(FirstShow firstShow) {
 }
 
 ExitCode failUnanswered(Output& output) {
-    return output.fail(ExitCode::failure, "the running instance does not answer");
+    return output.fail(
+        ExitCode::failure, TerminalText::sentence(QCoreApplication::translate(
+                               "CommandLine", "the running instance does not answer")));
 }
 
 /// How the event loop ended.
@@ -58,7 +61,8 @@ Ended runInstance(Platform& platform, FirstShow firstShow, Output& output) {
     switch (instance->claim(program.requests())) {
     case Instance::Claim::first: break;
     case Instance::Claim::noSession:
-        output.say("the session bus cannot be reached; menus cannot be read, see quillon doctor");
+        output.say(TerminalText::sentence(QCoreApplication::translate(
+            "CommandLine", "the session bus cannot be reached; menus cannot be read, see quillon doctor")));
         break;
     case Instance::Claim::taken:
         if (platform.runningProgram().ask(requestOf(firstShow)) == RunningProgram::Answer::done)
@@ -84,6 +88,7 @@ ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** a
     Ended ended;
     {
         const QApplication application(argc, argv);
+        const Translations translations;
         QApplication::setQuitOnLastWindowClosed(false);
         ended = runInstance(platform, firstShow, output);
     }

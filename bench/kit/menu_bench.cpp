@@ -56,5 +56,25 @@ void matchSearchIndex(benchmark::State& state) {
 }
 BENCHMARK(matchSearchIndex)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
+/// The same with names of keys, as the program searches.
+void buildSearchIndexWithNames(benchmark::State& state) {
+    const std::vector<MenuEntry> entries = madeUpEntries(manyItems);
+    const Notes notes = someNotes(entries);
+    const KeyWords words(std::vector{KeyNames::english()});
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(SearchIndex(entries, notes, words));
+}
+BENCHMARK(buildSearchIndexWithNames)->Unit(benchmark::kMillisecond);
+
+void matchSearchIndexWithNames(benchmark::State& state) {
+    const std::vector<MenuEntry> entries = madeUpEntries(manyItems);
+    const SearchIndex index(entries, someNotes(entries), KeyWords(std::vector{KeyNames::english()}));
+    const char* const query = queries[state.range(0)];
+    state.SetLabel(query);
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(index.matches(query));
+}
+BENCHMARK(matchSearchIndexWithNames)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+
 } // namespace
 } // namespace quillon

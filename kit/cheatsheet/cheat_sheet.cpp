@@ -8,32 +8,39 @@ namespace quillon::CheatSheet {
 
 namespace {
 
-/// Appends one command, and its note where there is one to write.
-void append(Group& group, const MenuEntry& entry, const Annotation& annotation, IncludeNotes includeNotes) {
-    group.push_back(Item{std::string(entry.title()), entry.shortcut.display(), annotation.pinned});
-    if (includeNotes == IncludeNotes::yes && !annotation.note.empty())
-        group.push_back(Note{annotation.note});
-}
+/// How the commands are written.
+struct Manner {
+    const Annotations& annotations;
+    IncludeNotes includeNotes;
+    const KeyNames* names;
+};
 
 Annotation annotationOf(const MenuEntry& entry, const Annotations& annotations) {
     const auto found = annotations.find(entry.id());
     return found == annotations.end() ? Annotation{} : found->second;
 }
 
-Group groupOf(const MenuGroup& menu, const Annotations& annotations, IncludeNotes includeNotes) {
+/// Appends one command, and its note where there is one to write.
+void append(Group& group, const MenuEntry& entry, const Annotation& annotation, const Manner& manner) {
+    group.push_back(
+        Item{std::string(entry.title()), displayWith(entry.shortcut, manner.names), annotation.pinned});
+    if (manner.includeNotes == IncludeNotes::yes && !annotation.note.empty())
+        group.push_back(Note{annotation.note});
+}
+
+Group groupOf(const MenuGroup& menu, const Manner& manner) {
     Group group{Heading{menu.menu}};
     for (const MenuEntry& entry : menu.entries)
-        append(group, entry, annotationOf(entry, annotations), includeNotes);
+        append(group, entry, annotationOf(entry, manner.annotations), manner);
     return group;
 }
 
-std::optional<Group>
-pinnedGroup(const AppSheet& sheet, const Annotations& annotations, IncludeNotes includeNotes) {
+std::optional<Group> pinnedGroup(const AppSheet& sheet, const Manner& manner) {
     Group group{Heading{std::string(pinnedHeading)}};
     for (const MenuEntry& entry : sheet.entries) {
-        const Annotation annotation = annotationOf(entry, annotations);
+        const Annotation annotation = annotationOf(entry, manner.annotations);
         if (annotation.pinned)
-            append(group, entry, annotation, includeNotes);
+            append(group, entry, annotation, manner);
     }
     return group.size() > 1 ? std::optional(std::move(group)) : std::nullopt;
 }
@@ -51,18 +58,20 @@ struct MarkdownWriter {
 
 } // namespace
 
-std::vector<Group> lines(const AppSheet& sheet, const Annotations& annotations, IncludeNotes includeNotes) {
+std::vector<Group> lines(
+    const AppSheet& sheet, const Annotations& annotations, IncludeNotes includeNotes, const KeyNames* names) {
+    const Manner manner{annotations, includeNotes, names};
     std::vector<Group> groups;
-    if (std::optional<Group> pinned = pinnedGroup(sheet, annotations, includeNotes))
+    if (std::optional<Group> pinned = pinnedGroup(sheet, manner))
         groups.push_back(*std::move(pinned));
     for (const MenuGroup& menu : sheet.groups())
-        groups.push_back(groupOf(menu, annotations, includeNotes));
+        groups.push_back(groupOf(menu, manner));
     return groups;
 }
 
-std::string markdown(const AppSheet& sheet, const Annotations& annotations) {
+std::string markdown(const AppSheet& sheet, const Annotations& annotations, const KeyNames* names) {
     MarkdownWriter writer{"# " + sheet.appName + " shortcuts\n"};
-    for (const Group& group : lines(sheet, annotations, IncludeNotes::yes)) {
+    for (const Group& group : lines(sheet, annotations, IncludeNotes::yes, names)) {
         for (const Line& line : group)
             std::visit(writer, line);
     }

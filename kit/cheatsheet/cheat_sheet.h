@@ -2,6 +2,7 @@
 
 #include <quillon/kit/menu/app_sheet.h>
 #include <quillon/kit/records/annotations.h>
+#include <quillon/kit/shortcut/key_names.h>
 
 #include <cstddef>
 #include <functional>
@@ -24,7 +25,7 @@ struct Heading {
 /// One command.
 struct Item {
     std::string title;
-    std::string shortcut; ///< its display text
+    std::string shortcut; ///< as it is shown
     bool pinned = false;
     bool operator==(const Item&) const = default;
 };
@@ -51,8 +52,11 @@ inline constexpr std::string_view pinnedHeading = "Pinned";
 enum class IncludeNotes { no, yes };
 
 /// The sheet as groups: the pinned commands first, if there are any, then every menu with all of its
-/// commands, pinned and disabled ones included, in menu order.
-std::vector<Group> lines(const AppSheet& sheet, const Annotations& annotations, IncludeNotes includeNotes);
+/// commands, pinned and disabled ones included, in menu order. Shortcuts are shown with `names`; with null,
+/// by symbols.
+std::vector<Group> lines(
+    const AppSheet& sheet, const Annotations& annotations, IncludeNotes includeNotes,
+    const KeyNames* names = nullptr);
 
 /// How much fits on a page.
 struct PageSize {
@@ -67,8 +71,9 @@ struct PageSize {
 /// A smaller size than the least is a program error.
 std::vector<Page> paginate(std::span<const Group> groups, PageSize size);
 
-/// The whole sheet with its notes as Markdown; only the title for a sheet without entries.
-std::string markdown(const AppSheet& sheet, const Annotations& annotations);
+/// The whole sheet with its notes as Markdown; only the title for a sheet without entries. Shortcuts as in
+/// `lines`.
+std::string markdown(const AppSheet& sheet, const Annotations& annotations, const KeyNames* names = nullptr);
 
 } // namespace quillon::CheatSheet
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "menu_entry.h"
+#include "search_query.h"
 
 #include <cstddef>
 #include <map>
@@ -18,8 +19,11 @@ namespace ShortcutSearch {
 
 /// The entries that match what was typed, in input order. A query of modifier words or glyphs and one key
 /// ("cmd shift s") finds exactly that shortcut; any other finds the entries whose path, shortcut terms and
-/// note hold every word. A blank query finds all.
-std::vector<MenuEntry> filter(std::span<const MenuEntry> entries, std::string_view query, const Notes& notes);
+/// note hold every word. A blank query finds all. `words` are further words for keys; in the searched text
+/// each shortcut has the names that it is shown with as well.
+std::vector<MenuEntry> filter(
+    std::span<const MenuEntry> entries, std::string_view query, const Notes& notes,
+    const KeyWords& words = {});
 
 } // namespace ShortcutSearch
 
@@ -28,7 +32,7 @@ std::vector<MenuEntry> filter(std::span<const MenuEntry> entries, std::string_vi
 class SearchIndex {
   public:
     SearchIndex() = default;
-    SearchIndex(std::span<const MenuEntry> entries, const Notes& notes);
+    SearchIndex(std::span<const MenuEntry> entries, const Notes& notes, KeyWords words = {});
 
     /// The positions of the matching entries, ascending.
     std::vector<std::size_t> matches(std::string_view query) const;
@@ -37,9 +41,9 @@ class SearchIndex {
   private:
     struct Record {
         std::string haystack; ///< lower-cased search text and note
-        std::string keyGlyph; ///< lower-cased
-        Modifiers modifiers;
+        ShortcutPattern shortcut;
     };
+    KeyWords m_words;
     std::vector<Record> m_records;
 };
 

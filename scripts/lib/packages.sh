@@ -23,7 +23,7 @@ kit_packages() {
 }
 
 app_packages() {
-    echo pkg-config qt6-base-dev qt6-svg-dev \
+    echo pkg-config qt6-base-dev qt6-svg-dev qt6-l10n-tools \
         libsystemd-dev libglib2.0-dev libxkbcommon-dev libxkbcommon-x11-dev \
         libxcb1-dev libxcb-xinput-dev libxcb-xkb-dev libxcb-shape0-dev libxcb-res0-dev \
         libxcb-icccm4-dev libxcb-ewmh-dev libxcb-randr0-dev libxcb-xfixes0-dev libxcb-xtest0-dev

@@ -15,9 +15,10 @@ FLOORS = {
     "kit": ("kit",),
     "app/ports": ("kit",),
     "app/core": ("kit", "app/ports"),
-    "app/views": ("kit", "app/ports", "app/core", "app/views"),
-    "app/cli": ("kit", "app/ports"),
-    "app/commands": ("kit", "app/ports", "app/cli"),
+    "app/languages": ("kit",),
+    "app/views": ("kit", "app/ports", "app/core", "app/languages", "app/views"),
+    "app/cli": ("kit", "app/ports", "app/languages"),
+    "app/commands": ("kit", "app/ports", "app/cli", "app/languages"),
     "app/platform": ("kit", "app/ports", "app/platform"),
 }
 SEES_EVERYTHING = ("app/start", "tests", "bench", "fuzz")

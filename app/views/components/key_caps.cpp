@@ -6,7 +6,6 @@
 #include "text.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace quillon {
@@ -35,21 +34,16 @@ int middled(double room, double begin, double end) {
 
 } // namespace
 
-QStringList capTexts(const Shortcut& shortcut) {
-    static constexpr std::array order{
-        Modifiers::control, Modifiers::option, Modifiers::shift, Modifiers::command};
+QStringList capTexts(const Shortcut& shortcut, const KeyNames* names) {
     QStringList caps;
-    for (const Modifiers modifier : order) {
-        if (shortcut.modifiers.contains(modifier))
-            caps.append(text(modifier.glyphs()));
-    }
-    caps.append(text(shortcut.key.glyph()));
+    for (const std::string& cap : capsOf(shortcut, names))
+        caps.append(text(cap));
     return caps;
 }
 
 KeyCaps::KeyCaps(const Theme& theme, double size, CapEmphasis emphasis)
-    : m_palette(theme.palette), m_font(semibold(atSize(theme.styles.body, size))), m_metrics(m_font),
-      m_size(size), m_emphasis(emphasis),
+    : m_palette(theme.palette), m_names(theme.keyNames), m_font(semibold(atSize(theme.styles.body, size))),
+      m_metrics(m_font), m_size(size), m_emphasis(emphasis),
       m_height(std::ceil(std::max(heightPerSize * size, m_metrics.capHeight()))),
       m_baseline(std::round((m_height + m_metrics.capHeight()) / 2)),
       m_widestDigit(widestDigitOf(m_metrics)) {}
@@ -70,7 +64,7 @@ double KeyCaps::capWidth(const QString& cap) const {
 double KeyCaps::width(const Shortcut& shortcut) const {
     if (const auto known = m_widths.find(shortcut); known != m_widths.end())
         return known->second;
-    const QStringList caps = capTexts(shortcut);
+    const QStringList caps = capTexts(shortcut, m_names.get());
     double width = static_cast<double>(caps.size() - 1) * gap;
     for (const QString& cap : caps)
         width += capWidth(cap);
@@ -136,7 +130,7 @@ const QPixmap& KeyCaps::capPixmap(const QString& cap, double ratio) const {
 void KeyCaps::paint(QPainter& painter, QPointF topLeft, const Shortcut& shortcut) const {
     const double ratio = painter.device()->devicePixelRatioF();
     QPointF at = topLeft;
-    for (const QString& cap : capTexts(shortcut)) {
+    for (const QString& cap : capTexts(shortcut, m_names.get())) {
         painter.drawPixmap(onDevicePixel(painter, at), capPixmap(cap, ratio));
         at.rx() += capWidth(cap) + gap;
     }

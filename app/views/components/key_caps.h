@@ -2,6 +2,7 @@
 
 #include "theme.h"
 
+#include <quillon/kit/shortcut/key_names.h>
 #include <quillon/kit/shortcut/shortcut.h>
 
 #include <QFontMetricsF>
@@ -10,13 +11,14 @@
 #include <QPixmap>
 #include <QStringList>
 
+#include <memory>
 #include <unordered_map>
 
 namespace quillon {
 
-/// What each cap of a shortcut shows: one per modifier in the order ⌃⌥⇧⌘, then the key. Signs among them are
-/// drawn as the program's own pictograms.
-QStringList capTexts(const Shortcut& shortcut);
+/// What each cap of a shortcut shows: one per modifier in the order ⌃⌥⇧⌘, then the key; by these names, or by
+/// symbols where they are null. Signs among them are drawn as the program's own pictograms.
+QStringList capTexts(const Shortcut& shortcut, const KeyNames* names);
 
 struct Ink;
 
@@ -52,6 +54,7 @@ class KeyCaps {
     QPixmap drawCap(const QString& cap, double ratio) const;
 
     Palette m_palette;
+    std::shared_ptr<const KeyNames> m_names;
     QFont m_font;
     QFontMetricsF m_metrics;
     double m_size;

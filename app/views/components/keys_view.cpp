@@ -8,6 +8,10 @@
 
 namespace quillon {
 
+QString keysText(const Shortcut& shortcut, const Theme& theme) {
+    return text(theme.keyNames ? spokenWith(shortcut, theme.keyNames.get()) : shortcut.display());
+}
+
 KeysView::KeysView(
     ThemeSource& themeSource, std::optional<Shortcut> shortcut, double size, CapEmphasis emphasis,
     QWidget* parent)
@@ -15,15 +19,19 @@ KeysView::KeysView(
       m_caps(theme(), size, emphasis) {
     readAs(*this, ReadAs::text);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    if (m_shortcut)
-        setAccessibleName(text(m_shortcut->display()));
+    name();
 }
 
 void KeysView::setShortcut(Shortcut shortcut) {
     m_shortcut = std::move(shortcut);
-    setAccessibleName(text(m_shortcut->display()));
+    name();
     updateGeometry();
     update();
+}
+
+void KeysView::name() {
+    if (m_shortcut)
+        setAccessibleName(keysText(*m_shortcut, theme()));
 }
 
 void KeysView::setSize(double size) {
@@ -44,6 +52,7 @@ void KeysView::paintEvent(QPaintEvent*) {
 
 void KeysView::themeChanged() {
     m_caps = KeyCaps(theme(), m_size, m_emphasis);
+    name();
     ThemedWidget::themeChanged();
 }
 

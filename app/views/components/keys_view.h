@@ -7,6 +7,9 @@
 
 namespace quillon {
 
+/// What screen readers are told where a shortcut is shown: "⌃⇧," by symbols, "Ctrl Shift Comma" by names.
+QString keysText(const Shortcut& shortcut, const Theme& theme);
+
 /// A shortcut as a row of key caps; to a screen reader one text.
 class KeysView : public ThemedWidget {
     Q_OBJECT
@@ -32,6 +35,8 @@ class KeysView : public ThemedWidget {
     void themeChanged() override;
 
   private:
+    void name();
+
     std::optional<Shortcut> m_shortcut;
     double m_size;
     CapEmphasis m_emphasis;

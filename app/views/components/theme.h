@@ -4,6 +4,9 @@
 #include "text_styles.h"
 
 #include <quillon/app/ports/appearance.h>
+#include <quillon/kit/shortcut/key_names.h>
+
+#include <memory>
 
 namespace quillon {
 
@@ -11,6 +14,8 @@ namespace quillon {
 struct Theme {
     Palette palette;
     TextStyles styles;
+    /// What keys are shown by; null for their symbols.
+    std::shared_ptr<const KeyNames> keyNames = {};
 
     /// The size of key caps that stand in a line of body text, in logical pixels.
     double keySize() const;

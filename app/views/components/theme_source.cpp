@@ -1,7 +1,11 @@
 #include "theme_source.h"
 
+#include <quillon/app/languages/translated_keys.h>
+
 #include <QApplication>
 #include <QToolTip>
+
+#include <utility>
 
 namespace quillon {
 
@@ -19,6 +23,20 @@ ThemeSource::~ThemeSource() {
 
 void ThemeSource::lookChanged() {
     Theme theme = Theme::fromLook(m_appearance.look(), m_toolkitFont);
+    theme.keyNames = m_theme.keyNames;
+    wear(std::move(theme));
+}
+
+void ThemeSource::setKeyLabels(KeyLabels labels) {
+    const bool isNamed = m_theme.keyNames != nullptr;
+    if (isNamed == (labels == KeyLabels::names))
+        return;
+    Theme theme = m_theme;
+    theme.keyNames = isNamed ? nullptr : std::make_shared<const KeyNames>(translatedKeyNames());
+    wear(std::move(theme));
+}
+
+void ThemeSource::wear(Theme theme) {
     if (theme == m_theme)
         return;
     m_theme = std::move(theme);

@@ -1,36 +1,38 @@
 #include "vocabulary.h"
 
+#include <QCoreApplication>
+
 namespace quillon {
 
-using namespace Qt::StringLiterals;
-
-const Vocabulary& Vocabulary::macOS() {
-    static const Vocabulary vocabulary{
-        .computer = u"Mac"_s,
-        .system = u"macOS"_s,
-        .accessibilitySettings = u"System Settings > Privacy & Security > Accessibility"_s,
-        .accessibilityAsker = u"macOS"_s,
-        .accessibilityPlace = u"System Settings > Privacy & Security > Accessibility"_s,
-        .accessibilitySwitch = u"Quillon"_s,
-        .dataPlace = u"Library folder"_s,
+Vocabulary Vocabulary::macOS() {
+    return {
+        .computer = QCoreApplication::translate("Vocabulary", "Mac"),
+        .system = QCoreApplication::translate("Vocabulary", "macOS"),
+        .accessibilitySettings =
+            QCoreApplication::translate("Vocabulary", "System Settings > Privacy & Security > Accessibility"),
+        .accessibilityAsker = QCoreApplication::translate("Vocabulary", "macOS"),
+        .accessibilityPlace =
+            QCoreApplication::translate("Vocabulary", "System Settings > Privacy & Security > Accessibility"),
+        .accessibilitySwitch = QCoreApplication::translate("Vocabulary", "Quillon"),
+        .dataPlace = QCoreApplication::translate("Vocabulary", "Library folder"),
     };
-    return vocabulary;
 }
 
-const Vocabulary& Vocabulary::linuxDesktop() {
-    static const Vocabulary vocabulary{
-        .computer = u"computer"_s,
-        .system = u"Linux"_s,
-        .accessibilitySettings = u"your desktop’s accessibility settings"_s,
-        .accessibilityAsker = u"Your desktop"_s,
-        .accessibilityPlace = u"its accessibility settings or in this window"_s,
-        .accessibilitySwitch = u"accessibility"_s,
-        .dataPlace = u"data folder"_s,
+Vocabulary Vocabulary::linuxDesktop() {
+    return {
+        .computer = QCoreApplication::translate("Vocabulary", "computer"),
+        .system = QCoreApplication::translate("Vocabulary", "Linux"),
+        .accessibilitySettings =
+            QCoreApplication::translate("Vocabulary", "your desktop’s accessibility settings"),
+        .accessibilityAsker = QCoreApplication::translate("Vocabulary", "Your desktop"),
+        .accessibilityPlace =
+            QCoreApplication::translate("Vocabulary", "its accessibility settings or in this window"),
+        .accessibilitySwitch = QCoreApplication::translate("Vocabulary", "accessibility"),
+        .dataPlace = QCoreApplication::translate("Vocabulary", "data folder"),
     };
-    return vocabulary;
 }
 
-const Vocabulary& Vocabulary::here() {
+Vocabulary Vocabulary::here() {
 #ifdef Q_OS_MACOS
     return macOS();
 #else

@@ -15,10 +15,11 @@ struct Vocabulary {
     QString accessibilitySwitch;   ///< what is turned on there
     QString dataPlace;             ///< where everything that was learned is: "your …"
 
-    static const Vocabulary& macOS();
-    static const Vocabulary& linuxDesktop();
+    /// In the language that is spoken now, all of them.
+    static Vocabulary macOS();
+    static Vocabulary linuxDesktop();
     /// Of the platform that this program was built for.
-    static const Vocabulary& here();
+    static Vocabulary here();
 };
 
 } // namespace quillon

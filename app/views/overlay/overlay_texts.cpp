@@ -25,10 +25,10 @@ OverlayMessage needsAccessibility(const Vocabulary& vocabulary) {
     };
 }
 
-OverlayMessage noSheet(const QString& triggerGlyph) {
+OverlayMessage noSheet(const QString& trigger) {
     return {
         .symbol = Symbol::keyboard,
-        .title = QCoreApplication::translate("Overlay", "Switch to an app, then hold %1").arg(triggerGlyph),
+        .title = QCoreApplication::translate("Overlay", "Switch to an app, then hold %1").arg(trigger),
         .body = {},
         .action = {},
     };
@@ -56,11 +56,11 @@ OverlayMessage noShortcuts(const QString& appName, const Vocabulary& vocabulary)
 
 } // namespace
 
-OverlayMessage message(
-    OverlayState state, const QString& appName, const QString& triggerGlyph, const Vocabulary& vocabulary) {
+OverlayMessage
+message(OverlayState state, const QString& appName, const QString& trigger, const Vocabulary& vocabulary) {
     switch (state) {
     case OverlayState::needsAccessibility: return needsAccessibility(vocabulary);
-    case OverlayState::noSheet: return noSheet(triggerGlyph);
+    case OverlayState::noSheet: return noSheet(trigger);
     case OverlayState::reading: return reading(appName);
     case OverlayState::noShortcuts: return noShortcuts(appName, vocabulary);
     case OverlayState::noAnswer: {
@@ -100,11 +100,11 @@ QString searchPrompt() {
     return QCoreApplication::translate("Overlay", "Search shortcuts");
 }
 
-QString closingHint(bool sticky, const QString& triggerGlyph) {
+QString closingHint(bool sticky, const QString& trigger) {
     if (sticky)
         return QCoreApplication::translate("Overlay", "Esc closes");
     return QCoreApplication::translate("Overlay", "Let go of %1 to close · click to keep it open")
-        .arg(triggerGlyph);
+        .arg(trigger);
 }
 
 QString mostClicked() {

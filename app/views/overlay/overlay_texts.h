@@ -28,8 +28,8 @@ struct OverlayMessage {
 namespace OverlayTexts {
 
 /// Of every state but `shortcuts`.
-OverlayMessage message(
-    OverlayState state, const QString& appName, const QString& triggerGlyph, const Vocabulary& vocabulary);
+OverlayMessage
+message(OverlayState state, const QString& appName, const QString& trigger, const Vocabulary& vocabulary);
 /// In place of the columns when the query finds nothing.
 OverlayMessage nothingMatches(const QString& query);
 
@@ -41,7 +41,7 @@ QString someShortcuts(std::size_t found, std::size_t count);
 QString searchPrompt();
 
 /// How the overlay is closed.
-QString closingHint(bool sticky, const QString& triggerGlyph);
+QString closingHint(bool sticky, const QString& trigger);
 /// Ahead of the command's title and keys.
 QString mostClicked();
 

@@ -2,6 +2,7 @@
 
 #include "overlay_texts.h"
 
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/app/views/components/accessible_roles.h>
 #include <quillon/app/views/components/text.h>
 #include <quillon/app/views/components/thin_scroll_bar.h>
@@ -106,8 +107,8 @@ void OverlayView::connectParts() {
     });
 }
 
-QString OverlayView::triggerGlyph() const {
-    return text(glyph(m_model.trigger()));
+QString OverlayView::triggerLabel() const {
+    return modifierLabel(modifier(m_model.trigger()), m_model.keyLabels());
 }
 
 void OverlayView::modelChanged(ModelField field) {
@@ -178,7 +179,7 @@ void OverlayView::refreshMain() {
         return;
     }
     m_message->setMessage(
-        OverlayTexts::message(m_state, sheet().appName, triggerGlyph(), Vocabulary::here()));
+        OverlayTexts::message(m_state, sheet().appName, triggerLabel(), Vocabulary::here()));
     showInMain(m_message);
 }
 
@@ -203,7 +204,7 @@ void OverlayView::refreshShortcuts() {
 }
 
 void OverlayView::refreshFooter() {
-    m_footer->setHint(OverlayTexts::closingHint(m_model.overlaySticky(), triggerGlyph()));
+    m_footer->setHint(OverlayTexts::closingHint(m_model.overlaySticky(), triggerLabel()));
     if (const PreparedEntry* entry = m_sheet.mostClicked())
         m_footer->setMostClicked(OverlayFooter::MostClicked{entry->title, entry->shortcut});
     else

@@ -60,7 +60,7 @@ class OverlayView : public ThemedWidget {
     void refreshShortcuts();
     void refreshFooter();
     void showInMain(QWidget* page);
-    QString triggerGlyph() const;
+    QString triggerLabel() const;
     bool keepOpen();
 
     AppModel& m_model;

@@ -5,6 +5,7 @@
 #include "area_tips.h"
 #include "overlay_texts.h"
 
+#include <quillon/app/views/components/keys_view.h>
 #include <quillon/app/views/components/styled_menu.h>
 #include <quillon/app/views/components/text.h>
 #include <quillon/app/views/components/thin_scroll_bar.h>
@@ -234,7 +235,7 @@ QString ShortcutArea::spokenRow(std::size_t row) const {
         parts.append(OverlayTexts::spokenBadge(entry.clicked));
     if (!entry.note.isEmpty())
         parts.append(entry.note);
-    parts.append(text(entry.shortcut.display()));
+    parts.append(keysText(entry.shortcut, m_themes.theme()));
     return parts.join(u", "_s);
 }
 

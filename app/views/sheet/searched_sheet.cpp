@@ -53,7 +53,7 @@ const PreparedEntry* SearchedSheet::mostClicked() const {
 
 void SearchedSheet::prepareSearch() {
     if (std::exchange(m_indexIsStale, false))
-        m_index = m_source ? SearchIndex(m_source->entries, m_notes) : SearchIndex();
+        m_index = m_source ? SearchIndex(m_source->entries, m_notes, m_words) : SearchIndex();
 }
 
 std::vector<std::size_t> SearchedSheet::matches(std::string_view query) {

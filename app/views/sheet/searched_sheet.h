@@ -2,6 +2,7 @@
 
 #include "prepared_sheet.h"
 
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/kit/menu/shortcut_search.h>
 
 #include <cstddef>
@@ -12,7 +13,8 @@
 
 namespace quillon {
 
-/// A sheet prepared to be drawn and to be searched. Prepares anew only what became another one since.
+/// A sheet prepared to be drawn and to be searched, by symbols and names of keys alike. Prepares anew only
+/// what became another one since.
 class SearchedSheet {
   public:
     /// Says that the sheet, or what is known of its commands, may have become another one. Without it the
@@ -43,6 +45,7 @@ class SearchedSheet {
     bool m_recordsMayDiffer = true;
     bool m_indexIsStale = true; ///< the sheet or the notes became others
     Notes m_notes;              ///< those that the index is made with
+    KeyWords m_words = translatedKeyWords();
     SearchIndex m_index;
 };
 

@@ -16,6 +16,9 @@ namespace quillon {
 
 namespace {
 
+/// In logical pixels: so small are no keys that a keyboard has.
+constexpr double smallestKeys = 6;
+
 /// A text whose box ends at the line that it stands on.
 void paintText(
     QPainter& painter, const QRectF& box, const QString& text, const QFont& font, const QColor& colour) {
@@ -51,10 +54,17 @@ void NudgeToastView::showNudge() {
 void NudgeToastView::setEntry(MenuEntry entry) {
     m_entry = std::move(entry);
     m_keys->setShortcut(m_entry->shortcut);
-    setAccessibleName(ToastTexts::spoken(text(m_entry->shortcut.spoken()), foreignLine(m_entry->title())));
+    name();
     arrange();
     if (isVisible())
         tellAgain();
+}
+
+void NudgeToastView::name() {
+    if (!m_entry)
+        return;
+    const std::string keys = spokenWith(m_entry->shortcut, theme().keyNames.get());
+    setAccessibleName(ToastTexts::spoken(text(keys), foreignLine(m_entry->title())));
 }
 
 /// Screen readers read a notice when it begins to show; one that shows already has to begin anew.
@@ -65,12 +75,22 @@ void NudgeToastView::tellAgain() {
     }
 }
 
+/// As large as they are meant to be; names that are wider than the toast are smaller.
+void NudgeToastView::fitKeys() {
+    double size = m_fonts.keys;
+    m_keys->setSize(size);
+    while (m_keys->sizeHint().width() > ToastLayout::room() && size > smallestKeys)
+        m_keys->setSize(--size);
+}
+
 void NudgeToastView::arrange() {
+    fitKeys();
     m_arrangement = ToastLayout::of(
         {.fonts = m_fonts,
          .keys = m_keys->sizeHint(),
          .keysLine = m_keys->baseline(),
-         .title = m_entry ? foreignLine(m_entry->title()) : QString()},
+         .title = m_entry ? foreignLine(m_entry->title()) : QString(),
+         .isNamed = theme().keyNames != nullptr},
         layoutDirection());
     m_symbol->setGeometry(m_arrangement.symbol);
     m_keys->setGeometry(m_arrangement.keys);
@@ -79,7 +99,7 @@ void NudgeToastView::arrange() {
 
 void NudgeToastView::themeChanged() {
     m_fonts = ToastFonts::of(theme());
-    m_keys->setSize(m_fonts.keys);
+    name();
     arrange();
     ThemedWidget::themeChanged();
 }

@@ -39,6 +39,8 @@ class NudgeToastView : public ThemedWidget {
 
   private:
     void showNudge();
+    void name();
+    void fitKeys();
     void arrange();
     void tellAgain();
 

@@ -16,6 +16,10 @@ constexpr int spacing = 14;
 /// From the line that the caption stands on down to the keys.
 constexpr int captionGap = 8;
 constexpr int titleGap = 10;
+/// Where the title stands below the keys everything is closer together.
+constexpr int closeGap = 7;
+/// The title keeps at least this part of the room beside names; else it moves below them.
+constexpr double titleShare = 0.4;
 /// The largest text with which the widest keys leave a title some room.
 constexpr double largestText = 16;
 constexpr double largestCaption = 14;
@@ -50,24 +54,34 @@ ToastFonts ToastFonts::of(const Theme& theme) {
     return fonts;
 }
 
-/// Caption and keys are in the middle of the height by what is seen of them.
+int ToastLayout::room() {
+    return size.width() - 2 * padding - symbolSize - spacing;
+}
+
+/// What is below each other is in the middle of the height by what is seen of it.
 ToastLayout ToastLayout::of(const ToastMeasures& measures, Qt::LayoutDirection direction) {
     ToastLayout layout;
     layout.symbol = {padding, (size.height() - symbolSize) / 2, symbolSize, symbolSize};
 
     const int x = padding + symbolSize + spacing;
-    const double capitals = QFontMetricsF(measures.fonts.caption).capHeight();
-    const double seen = capitals + captionGap + measures.keys.height();
-    const int captionLine = static_cast<int>(std::lround((size.height() - seen) / 2 + capitals));
+    const QFontMetricsF caption(measures.fonts.caption);
+    const QFontMetricsF title(measures.fonts.title);
+    const int besideKeys = std::max(0, room() - measures.keys.width() - titleGap);
+    const bool isBelow = measures.isNamed && besideKeys < titleShare * room()
+                         && title.horizontalAdvance(measures.title) > besideKeys;
+    const int gap = isBelow ? closeGap : captionGap;
+    const double seen =
+        caption.capHeight() + gap + measures.keys.height() + (isBelow ? closeGap + title.capHeight() : 0);
+    const int captionLine = static_cast<int>(std::lround((size.height() - seen) / 2 + caption.capHeight()));
     layout.caption = onLine(measures.fonts.caption, ToastTexts::caption(), x, captionLine);
 
-    layout.keys = {QPoint(x, captionLine + captionGap), measures.keys};
-    const int titleX = x + measures.keys.width() + titleGap;
-    const int titleRoom = std::max(0, size.width() - padding - titleX);
-    layout.shownTitle =
-        QFontMetricsF(measures.fonts.title).elidedText(measures.title, Qt::ElideRight, titleRoom);
-    layout.title =
-        onLine(measures.fonts.title, layout.shownTitle, titleX, layout.keys.y() + measures.keysLine);
+    layout.keys = {QPoint(x, captionLine + gap), measures.keys};
+    layout.shownTitle = title.elidedText(measures.title, Qt::ElideRight, isBelow ? room() : besideKeys);
+    const int titleX = isBelow ? x : x + measures.keys.width() + titleGap;
+    const double line =
+        isBelow ? std::round(layout.keys.y() + measures.keys.height() + closeGap + title.capHeight())
+                : layout.keys.y() + measures.keysLine;
+    layout.title = onLine(measures.fonts.title, layout.shownTitle, titleX, line);
 
     if (direction == Qt::RightToLeft)
         mirror(layout);

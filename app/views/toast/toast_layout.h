@@ -25,6 +25,7 @@ struct ToastMeasures {
     QSize keys;
     double keysLine = 0; ///< from the top of the keys down to the line that their text stands on
     QString title;
+    bool isNamed = false; ///< the keys are shown by names, which may leave no room beside them
 };
 
 /// Where the parts of the toast are, in logical pixels from its top left corner. A text's box is as wide as
@@ -32,11 +33,13 @@ struct ToastMeasures {
 struct ToastLayout {
     static constexpr QSize size{360, 92};
     static constexpr int symbolSize = 38;
+    /// The width that keys and title share.
+    static int room();
 
     QRect symbol;
     QRectF caption;
-    QRect keys; ///< always whole
-    QRectF title;
+    QRect keys;         ///< always whole
+    QRectF title;       ///< beside the keys; below them where names leave it too little room
     QString shownTitle; ///< shortened where the whole does not fit
 
     /// Mirrored where the interface reads from right to left.

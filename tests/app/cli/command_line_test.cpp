@@ -71,6 +71,21 @@ TEST(CommandLine, ASheetIsPrintedAsMarkdown) {
     EXPECT_EQ(parse({"sheet", "--format", "markdown"}), Command(expected));
 }
 
+TEST(CommandLine, KeysAreShownAsSymbolsOrByName) {
+    SheetCommand sheet;
+    sheet.keys = KeyLabels::names;
+    EXPECT_EQ(parse({"sheet", "--keys", "names"}), Command(sheet));
+    EXPECT_EQ(parse({"sheet", "--keys", "symbols"}), Command(SheetCommand{}));
+    StatsCommand stats;
+    stats.keys = KeyLabels::names;
+    EXPECT_EQ(parse({"stats", "--keys", "names"}), Command(stats));
+    for (const char* command : {"sheet", "stats"})
+        EXPECT_EQ(
+            errorOf(parse({command, "--keys", "words"})),
+            "--keys is symbols or names, not 'words'; see quillon --help");
+    EXPECT_NE(errorOf(parse({"apps", "--keys", "names"})), "no error");
+}
+
 TEST(CommandLine, APracticeRoundTakesACountAndASeed) {
     SheetCommand expected;
     expected.practice = PracticeRequest{10, std::nullopt};

@@ -28,6 +28,24 @@ TEST(SheetText, GroupsByMenuAndAlignsTheKeys) {
                                   "  Find › Find Next  ⌃G   (disabled)\n");
 }
 
+TEST(SheetText, ShowsKeysByTheirNamesInOneColumn) {
+    const AppSheet sheet{
+        "org.example.sketch",
+        "Sketch",
+        {entry({"File", "New"}, Modifiers::control, "N", false),
+         entry({"File", "Save As…"}, Modifiers::control | Modifiers::shift, "S", false)},
+        distantPast};
+    const KeyNames& names = KeyNames::english();
+    EXPECT_EQ(
+        sheetText(sheet, &names).bytes(), "Sketch (org.example.sketch): 2 shortcuts\n"
+                                          "\n"
+                                          "File\n"
+                                          "  New       Ctrl N        (disabled)\n"
+                                          "  Save As…  Ctrl Shift S  (disabled)\n");
+    EXPECT_TRUE(practiceText(sheet.entries, &names).bytes().starts_with("1.  File › New       Ctrl N\n"));
+    EXPECT_NE(markdownText(sheet, {}, &names).bytes().find("- **Ctrl Shift S** Save As…"), std::string::npos);
+}
+
 TEST(SheetText, CountsOneShortcutAsOne) {
     const AppSheet sheet{"a", "A", {entry({"File", "New"}, Modifiers::control, "N")}, distantPast};
     EXPECT_EQ(sheetText(sheet).bytes().substr(0, 17), "A (a): 1 shortcut");

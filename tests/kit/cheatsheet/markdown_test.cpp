@@ -24,6 +24,13 @@ TEST(CheatSheetMarkdown, ListsTheCommandsOfEachMenu) {
     EXPECT_EQ(markdown(oneCommand, {}), "# Sketchpad shortcuts\n\n## File\n\n- **⌘S** Save\n");
 }
 
+TEST(CheatSheetMarkdown, ShowsKeysByTheirNamesWhereItIsGivenThem) {
+    const KeyNames& names = KeyNames::english();
+    EXPECT_EQ(
+        markdown(oneCommand, {{"File › Save", {.pinned = true}}}, &names),
+        "# Sketchpad shortcuts\n\n## Pinned\n\n- **Super S** Save\n\n## File\n\n- **Super S** Save\n");
+}
+
 TEST(CheatSheetMarkdown, StartsWithWhatIsPinned) {
     EXPECT_EQ(
         markdown(oneCommand, {{"File › Save", {.pinned = true}}}),

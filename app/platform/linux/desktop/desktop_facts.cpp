@@ -1,207 +1,272 @@
 #include "desktop_facts.h"
 
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
 namespace quillon {
 
 namespace {
 
 using Result = Check::Result;
 
+/// Where the tools for translators find its sentences.
+struct Doctor {
+    Q_DECLARE_TR_FUNCTIONS(Doctor)
+};
+
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+Check checked(const QString& subject, Result result, const QString& finding, const QString& remedy) {
+    return {subject.toStdString(), result, finding.toStdString(), remedy.toStdString()};
+}
+
 Check sessionBus(const DesktopFacts& facts) {
     switch (facts.sessionBus) {
-    case BusState::answers: return {"Session bus", Result::good, "answers", ""};
+    case BusState::answers:
+        return checked(Doctor::tr("Session bus"), Result::good, Doctor::tr("answers"), QString());
     case BusState::silent:
-        return {
-            "Session bus", Result::missing, "takes connections and does not answer",
-            "Log out and in again; every program of this session waits for it."};
+        return checked(
+            Doctor::tr("Session bus"), Result::missing, Doctor::tr("takes connections and does not answer"),
+            Doctor::tr("Log out and in again; every program of this session waits for it."));
     case BusState::absent: break;
     }
-    return {
-        "Session bus", Result::missing, "cannot be reached",
-        "Start Quillon from a desktop session, or with dbus-run-session."};
+    return checked(
+        Doctor::tr("Session bus"), Result::missing, Doctor::tr("cannot be reached"),
+        Doctor::tr("Start Quillon from a desktop session, or with dbus-run-session."));
 }
 
 Check accessibilityBus(const DesktopFacts& facts) {
     if (facts.accessibilityBus)
-        return {"Accessibility bus", Result::good, "answers", ""};
-    return {
-        "Accessibility bus", Result::missing, "cannot be reached",
-        "Install the package at-spi2-core and log in again."};
+        return checked(Doctor::tr("Accessibility bus"), Result::good, Doctor::tr("answers"), QString());
+    return checked(
+        Doctor::tr("Accessibility bus"), Result::missing, Doctor::tr("cannot be reached"),
+        Doctor::tr("Install the package at-spi2-core and log in again."));
 }
 
 Check accessibilitySwitch(const DesktopFacts& facts) {
     if (!facts.accessibilityBus)
-        return {"Accessibility", Result::missing, "unknown without its bus", ""};
+        return checked(
+            Doctor::tr("Accessibility"), Result::missing, Doctor::tr("unknown without its bus"), QString());
     if (!facts.accessibilityOn)
-        return {"Accessibility", Result::good, "has no switch on this desktop", ""};
+        return checked(
+            Doctor::tr("Accessibility"), Result::good, Doctor::tr("has no switch on this desktop"),
+            QString());
     if (*facts.accessibilityOn)
-        return {"Accessibility", Result::good, "is on", ""};
-    return {
-        "Accessibility", Result::missing, "is off",
-        "Choose “Allow Accessibility…” in Quillon’s menu, or turn it on in the desktop’s settings; "
-        "applications already running may have to be restarted."};
+        return checked(Doctor::tr("Accessibility"), Result::good, Doctor::tr("is on"), QString());
+    return checked(
+        Doctor::tr("Accessibility"), Result::missing, Doctor::tr("is off"),
+        Doctor::tr("Choose “Allow Accessibility…” in Quillon’s menu, or turn it on in the desktop’s "
+                   "settings; applications already running may have to be restarted."));
 }
 
 Check display(const DesktopFacts& facts) {
     if (facts.display && facts.waylandSession)
-        return {
-            "Display", Result::limited, "Wayland, with an X server for older applications",
-            "Holding a key works over X applications only; `quillon show` works everywhere. Log in to an X11 "
-            "session for the rest."};
+        return checked(
+            Doctor::tr("Display"), Result::limited,
+            Doctor::tr("Wayland, with an X server for older applications"),
+            Doctor::tr("Holding a key works over X applications only; `quillon show` works everywhere. Log "
+                       "in to an X11 session for the rest."));
     if (facts.display)
-        return {"Display", Result::good, "X11", ""};
+        return checked(Doctor::tr("Display"), Result::good, Doctor::tr("X11"), QString());
     if (facts.waylandSession)
-        return {
-            "Display", Result::limited, "Wayland without an X server",
-            "Holding a key cannot be noticed; use `quillon show` and `quillon sheet`."};
-    return {
-        "Display", Result::missing, "cannot be reached",
-        "Start Quillon in a graphical session, or set DISPLAY."};
+        return checked(
+            Doctor::tr("Display"), Result::limited, Doctor::tr("Wayland without an X server"),
+            Doctor::tr("Holding a key cannot be noticed; use `quillon show` and `quillon sheet`."));
+    return checked(
+        Doctor::tr("Display"), Result::missing, Doctor::tr("cannot be reached"),
+        Doctor::tr("Start Quillon in a graphical session, or set DISPLAY."));
 }
 
 Check inputExtension(const DesktopFacts& facts) {
     if (facts.inputExtension)
-        return {"XInput", Result::good, "version " + *facts.inputExtension, ""};
-    return {
-        "XInput", Result::missing, "is older than version 2.2 or absent",
-        "Use an X server that offers XInput 2.2; without it a click or a key does not spoil a hold."};
+        return checked(
+            Doctor::tr("XInput"), Result::good, Doctor::tr("version %1").arg(text(*facts.inputExtension)),
+            QString());
+    return checked(
+        Doctor::tr("XInput"), Result::missing, Doctor::tr("is older than version 2.2 or absent"),
+        Doctor::tr(
+            "Use an X server that offers XInput 2.2; without it a click or a key does not spoil a hold."));
 }
 
 Check keyboardExtension(const DesktopFacts& facts) {
     if (facts.keyboardExtension)
-        return {"XKB", Result::good, "is there", ""};
-    return {
-        "XKB", Result::missing, "is absent",
-        "Use an X server that offers XKB; without it a held key cannot be noticed."};
+        return checked(Doctor::tr("XKB"), Result::good, Doctor::tr("is there"), QString());
+    return checked(
+        Doctor::tr("XKB"), Result::missing, Doctor::tr("is absent"),
+        Doctor::tr("Use an X server that offers XKB; without it a held key cannot be noticed."));
 }
 
 Check shapeExtension(const DesktopFacts& facts) {
     if (facts.shapeExtension)
-        return {"SHAPE", Result::good, "is there", ""};
-    return {"SHAPE", Result::limited, "is absent", "Panels have square corners without a compositor."};
+        return checked(Doctor::tr("SHAPE"), Result::good, Doctor::tr("is there"), QString());
+    return checked(
+        Doctor::tr("SHAPE"), Result::limited, Doctor::tr("is absent"),
+        Doctor::tr("Panels have square corners without a compositor."));
 }
 
 Check windowManager(const DesktopFacts& facts) {
     if (facts.windowManager)
-        return {"Window manager", Result::good, *facts.windowManager, ""};
-    return {
-        "Window manager", Result::limited, "none that tells the active window",
-        "Quillon takes the application that has the keyboard; start a window manager for more."};
+        return checked(Doctor::tr("Window manager"), Result::good, text(*facts.windowManager), QString());
+    return checked(
+        Doctor::tr("Window manager"), Result::limited, Doctor::tr("none that tells the active window"),
+        Doctor::tr("Quillon takes the application that has the keyboard; start a window manager for more."));
 }
 
 Check compositor(const DesktopFacts& facts) {
     if (facts.compositor)
-        return {"Compositor", Result::good, "runs", ""};
-    return {
-        "Compositor", Result::limited, "none runs", "Panels are cut out without shadows; nothing is lost."};
+        return checked(Doctor::tr("Compositor"), Result::good, Doctor::tr("runs"), QString());
+    return checked(
+        Doctor::tr("Compositor"), Result::limited, Doctor::tr("none runs"),
+        Doctor::tr("Panels are cut out without shadows; nothing is lost."));
 }
 
 Check trayHost(const DesktopFacts& facts) {
     if (facts.trayHost)
-        return {"Tray", Result::good, "shows icons", ""};
-    return {
-        "Tray", Result::limited, "there is none",
-        "Start quillon again to reach its menu, or use `quillon show` and `quillon quit`."};
+        return checked(Doctor::tr("Tray"), Result::good, Doctor::tr("shows icons"), QString());
+    return checked(
+        Doctor::tr("Tray"), Result::limited, Doctor::tr("there is none"),
+        Doctor::tr("Start quillon again to reach its menu, or use `quillon show` and `quillon quit`."));
 }
 
 Check gtk2Programs(const DesktopFacts& facts) {
-    std::string names;
+    QStringList names;
     for (const std::string& name : facts.silentGtk2Programs)
-        names += (names.empty() ? "" : ", ") + name;
-    return {
-        "GTK 2", Result::limited, names + " cannot be read",
-        "Install the package libatk-adaptor, set GTK_MODULES=gail:atk-bridge for the whole session, and "
-        "start "
-        "the programs again."};
+        names.append(text(name));
+    return checked(
+        Doctor::tr("GTK 2"), Result::limited,
+        Doctor::tr("%1 cannot be read").arg(names.join(QStringLiteral(", "))),
+        Doctor::tr("Install the package libatk-adaptor, set GTK_MODULES=gail:atk-bridge for the whole "
+                   "session, and start the programs again."));
 }
 
 Check frontApplication(const DesktopFacts& facts) {
     if (!facts.front)
-        return {"Front application", Result::limited, "none", "Bring an application's window to the front."};
+        return checked(
+            Doctor::tr("Front application"), Result::limited, Doctor::tr("none"),
+            Doctor::tr("Bring an application's window to the front."));
     const RunningApp& app = *facts.front;
-    return {
-        "Front application", Result::good,
-        app.name + " (" + app.bundleID + ", process " + std::to_string(app.pid) + ")", ""};
+    return checked(
+        Doctor::tr("Front application"), Result::good,
+        Doctor::tr("%1 (%2, process %3)").arg(text(app.name), text(app.bundleID), QString::number(app.pid)),
+        QString());
 }
 
-/// What is noticed of one kind of use.
-struct Watcher {
-    std::string subject;
-    std::string object;  ///< what it notices
-    std::string lacking; ///< what of the desktop it would need; "" when all is there
-    std::string remedy;  ///< against that
-    bool Watching::*isOn;
-    std::string switchedOnBy; ///< where it is not on although it could be
+/// The sentences about one kind of use that is noticed.
+struct WatcherTexts {
+    QString subject;
+    QString notices;   ///< the program notices it
+    QString noticesX;  ///< in X applications only
+    QString canNotice; ///< the program does not run, but could
+    QString canNoticeX;
+    QString isOff;        ///< the running program does not notice it
+    QString switchedOnBy; ///< against that
 };
 
-Check watcherCheck(const Watcher& watcher, const DesktopFacts& facts) {
-    if (!watcher.lacking.empty())
-        return {
-            watcher.subject, Result::limited, watcher.object + " are not noticed: " + watcher.lacking,
-            watcher.remedy};
-    if (facts.watching && !((*facts.watching).*watcher.isOn))
-        return {
-            watcher.subject, Result::limited, "does not notice " + watcher.object + " now",
-            watcher.switchedOnBy};
-    const std::string finding = (facts.watching ? "notices " : "can notice ") + watcher.object;
+/// What of the desktop it would need, and the remedy.
+struct Lack {
+    QString finding;
+    QString remedy;
+};
+
+Check watcherCheck(
+    const WatcherTexts& texts, const std::optional<Lack>& lack, bool Watching::*isOn,
+    const DesktopFacts& facts) {
+    if (lack)
+        return checked(texts.subject, Result::limited, lack->finding, lack->remedy);
+    if (facts.watching && !((*facts.watching).*isOn))
+        return checked(texts.subject, Result::limited, texts.isOff, texts.switchedOnBy);
     if (facts.waylandSession)
-        return {
-            watcher.subject, Result::limited, finding + " in X applications only",
-            "Log in to an X11 session for the rest."};
-    return {watcher.subject, Result::good, finding, ""};
+        return checked(
+            texts.subject, Result::limited, facts.watching ? texts.noticesX : texts.canNoticeX,
+            Doctor::tr("Log in to an X11 session for the rest."));
+    return checked(texts.subject, Result::good, facts.watching ? texts.notices : texts.canNotice, QString());
 }
 
 Check holdWatcher(const DesktopFacts& facts) {
     const bool can = facts.display && facts.keyboardExtension;
-    return watcherCheck(
-        {.subject = "Hold watcher",
-         .object = "held keys",
-         .lacking = can ? "" : "there is no X server that tells them",
-         .remedy = "Use `quillon show`, or log in to an X11 session.",
-         .isOn = &Watching::holds,
-         .switchedOnBy = "Start Quillon again."},
-        facts);
+    const WatcherTexts texts{
+        .subject = Doctor::tr("Hold watcher"),
+        .notices = Doctor::tr("notices held keys"),
+        .noticesX = Doctor::tr("notices held keys in X applications only"),
+        .canNotice = Doctor::tr("can notice held keys"),
+        .canNoticeX = Doctor::tr("can notice held keys in X applications only"),
+        .isOff = Doctor::tr("does not notice held keys now"),
+        .switchedOnBy = Doctor::tr("Start Quillon again.")};
+    const Lack noServer{
+        Doctor::tr("held keys are not noticed: there is no X server that tells them"),
+        Doctor::tr("Use `quillon show`, or log in to an X11 session.")};
+    return watcherCheck(texts, can ? std::nullopt : std::optional(noServer), &Watching::holds, facts);
 }
 
 bool menusAreReadable(const DesktopFacts& facts) {
     return facts.accessibilityBus && facts.accessibilityOn.value_or(true);
 }
 
+std::optional<Lack> lackForClicks(const DesktopFacts& facts) {
+    if (!facts.display || !facts.inputExtension)
+        return Lack{
+            Doctor::tr("clicks on menu commands are not noticed: there is no X server with XInput 2.2"),
+            Doctor::tr("Log in to an X11 session.")};
+    if (!menusAreReadable(facts))
+        return Lack{
+            Doctor::tr("clicks on menu commands are not noticed: menus cannot be read"),
+            Doctor::tr("See Accessibility above.")};
+    return std::nullopt;
+}
+
 Check clickWatcher(const DesktopFacts& facts) {
-    const bool input = facts.display && facts.inputExtension;
-    return watcherCheck(
-        {.subject = "Click watcher",
-         .object = "clicks on menu commands",
-         .lacking = !input                     ? "there is no X server with XInput 2.2"
-                    : !menusAreReadable(facts) ? "menus cannot be read"
-                                               : "",
-         .remedy = input ? "See Accessibility above." : "Log in to an X11 session.",
-         .isOn = &Watching::clicks,
-         .switchedOnBy = "Allow accessibility in Quillon’s menu, and have nudgesOn be true in its settings."},
-        facts);
+    const WatcherTexts texts{
+        .subject = Doctor::tr("Click watcher"),
+        .notices = Doctor::tr("notices clicks on menu commands"),
+        .noticesX = Doctor::tr("notices clicks on menu commands in X applications only"),
+        .canNotice = Doctor::tr("can notice clicks on menu commands"),
+        .canNoticeX = Doctor::tr("can notice clicks on menu commands in X applications only"),
+        .isOff = Doctor::tr("does not notice clicks on menu commands now"),
+        .switchedOnBy =
+            Doctor::tr("Allow accessibility in Quillon’s menu, and have nudgesOn be true in its settings.")};
+    return watcherCheck(texts, lackForClicks(facts), &Watching::clicks, facts);
+}
+
+std::optional<Lack> lackForTyping(const DesktopFacts& facts) {
+    if (!facts.display || !facts.inputExtension || !facts.keyboardExtension)
+        return Lack{
+            Doctor::tr("typed shortcuts are not noticed: there is no X server with XInput 2.2 and XKB"),
+            Doctor::tr("Log in to an X11 session.")};
+    if (!facts.keymap)
+        return Lack{
+            Doctor::tr("typed shortcuts are not noticed: the keyboard’s map cannot be read"),
+            Doctor::tr("Choose a keyboard layout, such as with `setxkbmap us`.")};
+    if (!menusAreReadable(facts))
+        return Lack{
+            Doctor::tr("typed shortcuts are not noticed: menus cannot be read"),
+            Doctor::tr("See Accessibility above.")};
+    return std::nullopt;
 }
 
 Check typedWatcher(const DesktopFacts& facts) {
-    const bool input = facts.display && facts.inputExtension && facts.keyboardExtension;
-    return watcherCheck(
-        {.subject = "Typed watcher",
-         .object = "typed shortcuts",
-         .lacking = !input                     ? "there is no X server with XInput 2.2 and XKB"
-                    : !facts.keymap            ? "the keyboard’s map cannot be read"
-                    : !menusAreReadable(facts) ? "menus cannot be read"
-                                               : "",
-         .remedy = !input          ? "Log in to an X11 session."
-                   : !facts.keymap ? "Choose a keyboard layout, such as with `setxkbmap us`."
-                                   : "See Accessibility above.",
-         .isOn = &Watching::typing,
-         .switchedOnBy =
-             "Allow accessibility in Quillon’s menu, and have countTyped be true in its settings."},
-        facts);
+    const WatcherTexts texts{
+        .subject = Doctor::tr("Typed watcher"),
+        .notices = Doctor::tr("notices typed shortcuts"),
+        .noticesX = Doctor::tr("notices typed shortcuts in X applications only"),
+        .canNotice = Doctor::tr("can notice typed shortcuts"),
+        .canNoticeX = Doctor::tr("can notice typed shortcuts in X applications only"),
+        .isOff = Doctor::tr("does not notice typed shortcuts now"),
+        .switchedOnBy = Doctor::tr(
+            "Allow accessibility in Quillon’s menu, and have countTyped be true in its settings.")};
+    return watcherCheck(texts, lackForTyping(facts), &Watching::typing, facts);
 }
 
 Check instance(const DesktopFacts& facts) {
     if (facts.instanceRunning)
-        return {"Quillon", Result::good, "runs", ""};
-    return {"Quillon", Result::limited, "does not run", "Start it with `quillon`."};
+        return checked(Doctor::tr("Quillon"), Result::good, Doctor::tr("runs"), QString());
+    return checked(
+        Doctor::tr("Quillon"), Result::limited, Doctor::tr("does not run"),
+        Doctor::tr("Start it with `quillon`."));
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
 #include <quillon/app/platform/qt/system_clock.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <chrono>
 
@@ -98,19 +100,29 @@ ListedApp appWithoutWindows(const atspi::SharingApp& sharing, const DesktopEntri
     return listed;
 }
 
+std::string said(const QString& text) {
+    return text.toStdString();
+}
+
 } // namespace
 
 std::optional<std::string> LinuxApplicationList::obstacle() {
     switch (m_session.found().state) {
-    case BusState::absent: return "there is no session bus; run this inside of a desktop session";
-    case BusState::silent: return "the session bus does not answer; see quillon doctor";
+    case BusState::absent:
+        return said(QCoreApplication::translate(
+            "CommandLine", "there is no session bus; run this inside of a desktop session"));
+    case BusState::silent:
+        return said(QCoreApplication::translate(
+            "CommandLine", "the session bus does not answer; see quillon doctor"));
     case BusState::answers: break;
     }
     const atspi::AccessibilityBusState bus = atspi::probeAccessibilityBus();
     if (!bus.hasAccessibilityBus)
-        return "the accessibility bus cannot be reached; install at-spi2-core and log in again";
+        return said(QCoreApplication::translate(
+            "CommandLine", "the accessibility bus cannot be reached; install at-spi2-core and log in again"));
     if (bus.isEnabled && !*bus.isEnabled)
-        return "accessibility is off; choose “Allow Accessibility…” in Quillon’s menu";
+        return said(QCoreApplication::translate(
+            "CommandLine", "accessibility is off; choose “Allow Accessibility…” in Quillon’s menu"));
     return std::nullopt;
 }
 

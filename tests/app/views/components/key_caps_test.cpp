@@ -26,13 +26,13 @@ class KeyCapsTest : public testing::Test {
 
 TEST_F(KeyCapsTest, AllModifiersComeInTheirFixedOrderBeforeTheKey) {
     EXPECT_EQ(
-        capTexts({everyModifier, Key::character("K")}),
+        capTexts({everyModifier, Key::character("K")}, nullptr),
         (QStringList{u"⌃"_s, u"⌥"_s, u"⇧"_s, u"⌘"_s, u"K"_s}));
 }
 
 TEST_F(KeyCapsTest, AKeyAloneIsOneCap) {
-    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::f5)}), QStringList{u"F5"_s});
-    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::delete_)}), QStringList{u"⌫"_s});
+    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::f5)}, nullptr), QStringList{u"F5"_s});
+    EXPECT_EQ(capTexts({{}, Key::special(SpecialKey::delete_)}, nullptr), QStringList{u"⌫"_s});
 }
 
 TEST_F(KeyCapsTest, CapsAreThreeApartAndNeverHigherThanWide) {
@@ -62,7 +62,7 @@ TEST_F(KeyCapsTest, DigitsAreAllOfOneWidth) {
 TEST_F(KeyCapsTest, EveryGlyphThatAKeyCanShowHasAFont) {
     const QFont font = themes.theme().styles.body;
     for (const SpecialKey key : allSpecialKeys) {
-        const QString cap = capTexts({everyModifier, Key::special(key)}).last();
+        const QString cap = capTexts({everyModifier, Key::special(key)}, nullptr).last();
         QTextLayout layout(cap, font);
         layout.beginLayout();
         layout.createLine();
@@ -120,6 +120,43 @@ TEST_F(KeyCapsTest, TheViewIsOneTextToScreenReaders) {
     EXPECT_EQ(element->childCount(), 0);
     view.setShortcut(save);
     EXPECT_EQ(element->text(QAccessible::Name), u"⌘S"_s);
+}
+
+TEST_F(KeyCapsTest, TheViewShowsAndReadsNamesAsSoonAsTheyAreChosen) {
+    KeysView view(themes, Shortcut{Modifiers::control | Modifiers::shift, Key::character(",")}, 13);
+    const int symbols = view.sizeHint().width();
+    themes.setKeyLabels(KeyLabels::names);
+    EXPECT_GT(view.sizeHint().width(), symbols);
+    EXPECT_EQ(view.accessibleName(), u"Ctrl Shift Comma"_s);
+    view.setShortcut(save);
+    EXPECT_EQ(view.accessibleName(), u"Super S"_s);
+    themes.setKeyLabels(KeyLabels::symbols);
+    EXPECT_EQ(view.accessibleName(), u"⌘S"_s);
+}
+
+TEST_F(KeyCapsTest, NamesAreWrittenAndArrowsAreDrawn) {
+    const KeyNames& names = KeyNames::english();
+    EXPECT_EQ(
+        capTexts({everyModifier, Key::special(SpecialKey::left)}, &names),
+        (QStringList{u"Ctrl"_s, u"Alt"_s, u"Shift"_s, u"Super"_s, u"←"_s}));
+    EXPECT_EQ(
+        capTexts({Modifiers::control, Key::special(SpecialKey::backTab)}, &names),
+        (QStringList{u"Ctrl"_s, u"Shift"_s, u"Tab"_s}));
+}
+
+TEST_F(KeyCapsTest, NamesAreAsHighAsSymbolsAndStandOnTheSameLine) {
+    const KeyCaps symbols(themes.theme(), 13);
+    themes.setKeyLabels(KeyLabels::names);
+    const KeyCaps names(themes.theme(), 13);
+    EXPECT_EQ(names.height(), symbols.height());
+    EXPECT_EQ(names.baseline(), symbols.baseline());
+}
+
+TEST_F(KeyCapsTest, AnotherLookKeepsTheNames) {
+    themes.setKeyLabels(KeyLabels::names);
+    appearance.set({ColourScheme::dark, {}, 14});
+    ASSERT_TRUE(themes.theme().keyNames);
+    EXPECT_EQ(themes.theme().keyNames->nameOf(Modifiers::control).shown, "Ctrl");
 }
 
 TEST_F(KeyCapsTest, TheViewGrowsWithAnotherThemesFont) {

@@ -2,6 +2,7 @@
 #include "scenes.h"
 #include "symbol_pictures.h"
 
+#include <quillon/app/languages/translations.h>
 #include <quillon/app/views/components/text.h>
 
 #include <QApplication>
@@ -39,8 +40,9 @@ QPixmap onDesktop(QWidget& panel, ColourScheme scheme) {
     return picture;
 }
 
-bool draw(const Scene& scene, const Look& look, const QString& path) {
+bool draw(const Scene& scene, const Look& look, KeyLabels keys, const QString& path) {
     ViewDesk desk;
+    desk.settings.setKeyLabels(keys);
     desk.desktop.appearance.set(look);
     scene.show(desk);
     QApplication::processEvents();
@@ -48,7 +50,7 @@ bool draw(const Scene& scene, const Look& look, const QString& path) {
     return panel && onDesktop(*panel, look.scheme).save(path);
 }
 
-int drawAll(const QString& folder, const QString& only, Look look) {
+int drawAll(const QString& folder, const QString& only, KeyLabels keys, Look look) {
     std::vector<Scene> scenes = overlayScenes();
     std::ranges::move(toastScenes(), std::back_inserter(scenes));
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
@@ -58,7 +60,7 @@ int drawAll(const QString& folder, const QString& only, Look look) {
             if (!scene.name.contains(only))
                 continue;
             const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);
-            if (!draw(scene, look, path)) {
+            if (!draw(scene, look, keys, path)) {
                 QTextStream(stderr) << "cannot draw " << path << Qt::endl;
                 return 1;
             }
@@ -111,14 +113,17 @@ int main(int argc, char** argv) {
     const QCommandLineOption only(u"only"_s, u"Only pictures whose name contains this."_s, u"text"_s);
     const QCommandLineOption family(u"font"_s, u"The desktop's interface font."_s, u"family"_s);
     const QCommandLineOption points(u"points"_s, u"Its size."_s, u"points"_s);
+    const QCommandLineOption keys(u"keys"_s, u"How keys are shown."_s, u"symbols|names"_s, u"symbols"_s);
+    const QCommandLineOption language(u"language"_s, u"What is spoken: de."_s, u"language"_s, u"en"_s);
     const QCommandLineOption caps(u"caps"_s, u"Only the key caps, enlarged, at four scales."_s);
     const QCommandLineOption symbols(u"symbols"_s, u"Only the symbols, enlarged, at two scales."_s);
-    parser.addOptions({only, family, points, caps, symbols});
+    parser.addOptions({only, family, points, keys, language, caps, symbols});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1 || !QDir().mkpath(parser.positionalArguments().first()))
         parser.showHelp(2);
 
+    const Translations translations({parser.value(language)});
     Look look;
     if (parser.isSet(family))
         look.fontFamily = utf8(parser.value(family));
@@ -128,5 +133,7 @@ int main(int argc, char** argv) {
         return drawCaps(parser.positionalArguments().first(), look);
     if (parser.isSet(symbols))
         return drawSymbols(parser.positionalArguments().first(), look);
-    return drawAll(parser.positionalArguments().first(), parser.value(only), look);
+    return drawAll(
+        parser.positionalArguments().first(), parser.value(only),
+        parser.value(keys) == "names"_L1 ? KeyLabels::names : KeyLabels::symbols, look);
 }

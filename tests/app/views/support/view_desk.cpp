@@ -9,6 +9,13 @@
 
 namespace quillon {
 
+ViewDesk::ViewDesk() {
+    m_keyLabels = settings.changed.subscribe([this](Setting setting) {
+        if (setting == Setting::keyLabels)
+            themes.setKeyLabels(settings.keyLabels());
+    });
+}
+
 void ViewDesk::trust() {
     desktop.front.setCurrent(ownApp());
     desktop.access.setTrusted(true);

@@ -19,6 +19,8 @@ class ViewDesk {
     /// This program; while it is in front the model keeps the sheet that it is shown.
     static RunningApp ownApp() { return {ownPid, "app.quillon.Quillon", "Quillon", {}}; }
 
+    ViewDesk();
+
     /// Lets the model read menus.
     void trust();
     /// The sample application with what its user has done so far.
@@ -44,6 +46,8 @@ class ViewDesk {
   private:
     PanelContent overlayContent();
     PanelContent toastContent();
+
+    Subscription m_keyLabels;
 };
 
 } // namespace quillon

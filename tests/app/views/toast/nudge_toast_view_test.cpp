@@ -101,6 +101,42 @@ TEST_F(NudgeToastViewTest, AFontThatGrowsWhileItShowsFitsToo) {
     EXPECT_EQ(later.arrangement().title, shown().title);
 }
 
+TEST_F(NudgeToastViewTest, ATitleStandsBelowNamesThatLeaveItNoRoom) {
+    desk.settings.setKeyLabels(KeyLabels::names);
+    view.setEntry(command(longTitle, {everyModifier, Key::special(SpecialKey::pageDown)}));
+    EXPECT_GT(shown().title.top(), shown().keys.center().y());
+    EXPECT_EQ(shown().title.x(), shown().keys.x());
+    EXPECT_GT(shown().title.width(), 200);
+    expectAllInside();
+    view.setEntry(command("Save", {Modifiers::control, Key::character("S")}));
+    EXPECT_LT(shown().keys.right(), shown().title.x()) << "beside short keys";
+    expectAllInside();
+}
+
+TEST_F(NudgeToastViewTest, EveryKeyFitsByItsNameWithTheLargestInterfaceFont) {
+    desk.settings.setKeyLabels(KeyLabels::names);
+    for (const double points : {9.0, 72.0}) {
+        desk.desktop.appearance.set({ColourScheme::light, {}, points});
+        for (const SpecialKey key : allSpecialKeys) {
+            view.setEntry(command(longTitle, {everyModifier, Key::special(key)}));
+            EXPECT_LE(keys().sizeHint().width(), keys().width());
+            expectAllInside();
+        }
+    }
+}
+
+TEST_F(NudgeToastViewTest, ShownKeysBecomeNamesAtOnce) {
+    view.setEntry(command("Save", {{Modifiers::shift, Modifiers::control}, Key::character("S")}));
+    const int symbols = shown().keys.width();
+    desk.settings.setKeyLabels(KeyLabels::names);
+    EXPECT_GT(shown().keys.width(), symbols);
+    EXPECT_EQ(view.accessibleName(), u"Next time: Ctrl Shift S for Save"_s);
+    expectAllInside();
+    desk.settings.setKeyLabels(KeyLabels::symbols);
+    EXPECT_EQ(shown().keys.width(), symbols);
+    EXPECT_EQ(view.accessibleName(), u"Next time: Control Shift S for Save"_s);
+}
+
 TEST_F(NudgeToastViewTest, ATitleFromRightToLeftStandsBesideItsKeys) {
     view.setEntry(command("שמירה בשם…"));
     EXPECT_DOUBLE_EQ(shown().title.x(), shown().keys.right() + 1 + 10);

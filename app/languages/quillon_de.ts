@@ -1,0 +1,908 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Usage: quillon [--verbose] [COMMAND]
+
+Teaches the keyboard shortcuts of the applications you already use. Hold the
+trigger key (Super) in any application to see its shortcuts.
+
+Commands:
+  (none)      start the program, or bring up the one that runs
+  show        open the overlay and keep it open
+                --sample          with a made-up drawing application
+  sheet       print an application's shortcuts
+                --app NAME        the application with this id or name
+                --pid N           the application of this process
+                --front           the front application (default)
+                --query Q         only the shortcuts that match Q
+                --format FORMAT   text (default), json or markdown
+                --keys KEYS       symbols (default), or names as they are printed
+                                  on the keyboard; JSON is the same with both
+                --practice N      a practice round of N commands instead, in the
+                                  order in which they are asked
+                --seed S          the same round every time
+  apps        list the running applications that share their menus
+  stats       print what was counted: clicks and typed uses of each command,
+              the most clicked first. "learned" are those typed 5 times more
+              than clicked; "clicks replaced" are the typed uses of commands
+              that were clicked as well
+                --app NAME        of the application with this id or name only
+                --format FORMAT   text (default) or json
+                --keys KEYS       as for sheet
+  doctor      say what works on this desktop and how to mend what does not
+  quit        end the running program
+
+Options:
+  --help      print this text
+  --verbose   before the command: tell on standard error what is read, in
+              front and shown; never what is typed
+  --version   print the version
+
+Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
+4 accessibility is absent or off, 5 the application shares no menu shortcuts.
+</source>
+        <translation>Aufruf: quillon [--verbose] [BEFEHL]
+
+Bringt Ihnen die Tastenkürzel der Anwendungen bei, die Sie schon benutzen.
+Halten Sie in einer Anwendung die Auslösetaste (Super), um sie zu sehen.
+
+Befehle:
+  (keiner)    das Programm starten oder das laufende hervorholen
+  show        die Übersicht öffnen und offen halten
+                --sample          mit einem erfundenen Zeichenprogramm
+  sheet       die Tastenkürzel einer Anwendung ausgeben
+                --app NAME        die Anwendung dieses Namens, auch als Kennung
+                --pid N           die Anwendung dieses Prozesses
+                --front           die Anwendung im Vordergrund (Vorgabe)
+                --query Q         nur die Tastenkürzel, die zu Q passen
+                --format FORMAT   text (Vorgabe), json oder markdown
+                --keys TASTEN     symbols (Vorgabe: Zeichen) oder names, wie auf
+                                  der Tastatur; JSON ist mit beiden gleich
+                --practice N      stattdessen eine Übungsrunde von N Befehlen,
+                                  geordnet, wie sie gefragt werden
+                --seed S          jedes Mal dieselbe Runde
+  apps        die laufenden Anwendungen auflisten, die ihre Menüs freigeben
+  stats       ausgeben, was gezählt wurde: Klicks und Tippen je Befehl, die am
+              meisten geklickten zuerst. „gelernt“ sind solche, die 5-mal öfter
+              getippt als geklickt wurden; „ersetzt“ zählt, wie oft Befehle
+              getippt wurden, die auch geklickt wurden
+                --app NAME        nur die Anwendung mit diesem Namen (Kennung)
+                --format FORMAT   text (Vorgabe) oder json
+                --keys TASTEN     wie bei sheet
+  doctor      sagen, was auf diesem Desktop geht und wie der Rest zu beheben ist
+  quit        das laufende Programm beenden
+
+Optionen:
+  --help      diesen Text ausgeben
+  --verbose   vor dem Befehl: auf der Fehlerausgabe sagen, was gelesen wird,
+              vorn ist und gezeigt wird; nie, was getippt wird
+  --version   die Version ausgeben
+
+Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
+4 Barrierefreiheit fehlt oder ist aus, 5 keine Menü-Tastenkürzel freigegeben.
+</translation>
+    </message>
+    <message>
+        <source>%1; see quillon --help</source>
+        <translation>%1; siehe quillon --help</translation>
+    </message>
+    <message>
+        <source>unexpected argument '%1'</source>
+        <translation>unerwartetes Argument „%1“</translation>
+    </message>
+    <message>
+        <source>--keys is symbols or names, not '%1'</source>
+        <translation>--keys ist symbols oder names, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--seed needs --practice</source>
+        <translation>--seed braucht --practice</translation>
+    </message>
+    <message>
+        <source>--practice is printed as text or json</source>
+        <translation>--practice wird als text oder json ausgegeben</translation>
+    </message>
+    <message>
+        <source>--practice takes a positive number, not '%1'</source>
+        <translation>--practice nimmt eine positive Zahl, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--seed takes a number from 0 to 2^64-1, not '%1'</source>
+        <translation>--seed nimmt eine Zahl von 0 bis 2^64-1, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--app, --pid and --front exclude each other</source>
+        <translation>--app, --pid und --front schließen einander aus</translation>
+    </message>
+    <message>
+        <source>--pid takes a process number, not '%1'</source>
+        <translation>--pid nimmt eine Prozessnummer, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--format is text, json or markdown, not '%1'</source>
+        <translation>--format ist text, json oder markdown, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--format is text or json, not '%1'</source>
+        <translation>--format ist text oder json, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>unknown command '%1'</source>
+        <translation>unbekannter Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>the output was lost: %1</source>
+        <translation>die Ausgabe ging verloren: %1</translation>
+    </message>
+    <message>
+        <source>1 shortcut</source>
+        <translation>1 Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>(disabled)</source>
+        <translation>(nicht verfügbar)</translation>
+    </message>
+    <message>
+        <source>clicked %1, typed %2, clicks replaced by typing %3</source>
+        <translation>%1-mal geklickt, %2-mal getippt, %3 Klicks durch Tippen ersetzt</translation>
+    </message>
+    <message>
+        <source>learned</source>
+        <translation>gelernt</translation>
+    </message>
+    <message>
+        <source>clicked %1</source>
+        <translation>geklickt %1</translation>
+    </message>
+    <message>
+        <source>typed %1</source>
+        <translation>getippt %1</translation>
+    </message>
+    <message>
+        <source>there is no running instance</source>
+        <translation>das Programm läuft nicht</translation>
+    </message>
+    <message>
+        <source>the running instance does not answer</source>
+        <translation>das laufende Programm antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the session cannot be reached; see quillon doctor</source>
+        <translation>die Sitzung ist nicht erreichbar; siehe quillon doctor</translation>
+    </message>
+    <message>
+        <source>process %1 is no application that shares its menus; see quillon apps</source>
+        <translation>Prozess %1 ist keine Anwendung, die ihre Menüs freigibt; siehe quillon apps</translation>
+    </message>
+    <message>
+        <source>no running application is called '%1'; see quillon apps</source>
+        <translation>keine laufende Anwendung heißt „%1“; siehe quillon apps</translation>
+    </message>
+    <message>
+        <source>no application is in front; name one with --app, see quillon apps</source>
+        <translation>keine Anwendung ist im Vordergrund; nennen Sie eine mit --app, siehe quillon apps</translation>
+    </message>
+    <message>
+        <source>%1 does not answer; try again when it does</source>
+        <translation>%1 antwortet nicht; versuchen Sie es wieder, wenn es antwortet</translation>
+    </message>
+    <message>
+        <source>%1 shares no menu shortcuts; if it was started before accessibility was on, restart it</source>
+        <translation>%1 gibt keine Menü-Tastenkürzel frei; wurde es vor dem Einschalten der Barrierefreiheit gestartet, starten Sie es neu</translation>
+    </message>
+    <message>
+        <source>%1 stopped answering; the sheet is not complete</source>
+        <translation>%1 antwortet nicht mehr; die Übersicht ist unvollständig</translation>
+    </message>
+    <message>
+        <source>%1 has more menu items than are read</source>
+        <translation>%1 hat mehr Menüeinträge, als gelesen werden</translation>
+    </message>
+    <message>
+        <source>no shortcut of %1 matches '%2'</source>
+        <translation>kein Tastenkürzel von %1 passt zu „%2“</translation>
+    </message>
+    <message>
+        <source>there is no home folder that could hold anything; set HOME</source>
+        <translation>es gibt keinen persönlichen Ordner, der etwas enthalten könnte; setzen Sie HOME</translation>
+    </message>
+    <message>
+        <source>nothing was counted of an application called '%1'</source>
+        <translation>von einer Anwendung namens „%1“ wurde nichts gezählt</translation>
+    </message>
+    <message>
+        <source>nothing was counted yet</source>
+        <translation>es wurde noch nichts gezählt</translation>
+    </message>
+    <message>
+        <source>there is no session bus; run this inside of a desktop session</source>
+        <translation>es gibt keinen Sitzungsbus; führen Sie dies in einer grafischen Sitzung aus</translation>
+    </message>
+    <message>
+        <source>the session bus does not answer; see quillon doctor</source>
+        <translation>der Sitzungsbus antwortet nicht; siehe quillon doctor</translation>
+    </message>
+    <message>
+        <source>the accessibility bus cannot be reached; install at-spi2-core and log in again</source>
+        <translation>der Bus der Barrierefreiheit ist nicht erreichbar; installieren Sie at-spi2-core und melden Sie sich neu an</translation>
+    </message>
+    <message>
+        <source>accessibility is off; choose “Allow Accessibility…” in Quillon’s menu</source>
+        <translation>die Barrierefreiheit ist ausgeschaltet; wählen Sie „Barrierefreiheit erlauben …“ in Quillons Menü</translation>
+    </message>
+    <message>
+        <source>the session bus cannot be reached; menus cannot be read, see quillon doctor</source>
+        <translation>der Sitzungsbus ist nicht erreichbar; Menüs können nicht gelesen werden, siehe quillon doctor</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 Tastenkürzel</numerusform><numerusform>%1 Tastenkürzel</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>Doctor</name>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>limited</source>
+        <translation>begrenzt</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Learned data</source>
+        <translation>Gelerntes</translation>
+    </message>
+    <message>
+        <source>Quillon keeps it as it was and began a new one. Mend it and put it back while Quillon does not run, or remove it.</source>
+        <translation>Quillon bewahrt die Datei auf, wie sie war, und hat eine neue begonnen. Reparieren Sie sie und legen Sie sie zurück, während Quillon nicht läuft, oder entfernen Sie sie.</translation>
+    </message>
+    <message>
+        <source>Mend or remove it while Quillon does not run; until then it counts as empty.</source>
+        <translation>Reparieren oder entfernen Sie die Datei, während Quillon nicht läuft; bis dahin gilt sie als leer.</translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep it in</source>
+        <translation>es gibt keinen persönlichen Ordner dafür</translation>
+    </message>
+    <message>
+        <source>Set HOME.</source>
+        <translation>Setzen Sie HOME.</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>Sitzungsbus</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>antwortet</translation>
+    </message>
+    <message>
+        <source>takes connections and does not answer</source>
+        <translation>nimmt Verbindungen an und antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Log out and in again; every program of this session waits for it.</source>
+        <translation>Melden Sie sich ab und wieder an; jedes Programm dieser Sitzung wartet darauf.</translation>
+    </message>
+    <message>
+        <source>cannot be reached</source>
+        <translation>ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Start Quillon from a desktop session, or with dbus-run-session.</source>
+        <translation>Starten Sie Quillon in einer grafischen Sitzung oder mit dbus-run-session.</translation>
+    </message>
+    <message>
+        <source>Accessibility bus</source>
+        <translation>Bus der Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>Install the package at-spi2-core and log in again.</source>
+        <translation>Installieren Sie das Paket at-spi2-core und melden Sie sich neu an.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>unknown without its bus</source>
+        <translation>ohne ihren Bus unbekannt</translation>
+    </message>
+    <message>
+        <source>has no switch on this desktop</source>
+        <translation>hat auf diesem Desktop keinen Schalter</translation>
+    </message>
+    <message>
+        <source>is on</source>
+        <translation>ist eingeschaltet</translation>
+    </message>
+    <message>
+        <source>is off</source>
+        <translation>ist ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>Choose “Allow Accessibility…” in Quillon’s menu, or turn it on in the desktop’s settings; applications already running may have to be restarted.</source>
+        <translation>Wählen Sie „Barrierefreiheit erlauben …“ in Quillons Menü oder schalten Sie sie in den Einstellungen des Desktops ein; schon laufende Anwendungen müssen eventuell neu gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Wayland, with an X server for older applications</source>
+        <translation>Wayland, mit einem X-Server für ältere Anwendungen</translation>
+    </message>
+    <message>
+        <source>Holding a key works over X applications only; `quillon show` works everywhere. Log in to an X11 session for the rest.</source>
+        <translation>Das Halten einer Taste wirkt nur über X-Anwendungen; `quillon show` wirkt überall. Melden Sie sich für alles andere in einer X11-Sitzung an.</translation>
+    </message>
+    <message>
+        <source>X11</source>
+        <translation>X11</translation>
+    </message>
+    <message>
+        <source>Wayland without an X server</source>
+        <translation>Wayland ohne X-Server</translation>
+    </message>
+    <message>
+        <source>Holding a key cannot be noticed; use `quillon show` and `quillon sheet`.</source>
+        <translation>Das Halten einer Taste kann nicht bemerkt werden; verwenden Sie `quillon show` und `quillon sheet`.</translation>
+    </message>
+    <message>
+        <source>Start Quillon in a graphical session, or set DISPLAY.</source>
+        <translation>Starten Sie Quillon in einer grafischen Sitzung oder setzen Sie DISPLAY.</translation>
+    </message>
+    <message>
+        <source>XInput</source>
+        <translation>XInput</translation>
+    </message>
+    <message>
+        <source>version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>is older than version 2.2 or absent</source>
+        <translation>ist älter als Version 2.2 oder fehlt</translation>
+    </message>
+    <message>
+        <source>Use an X server that offers XInput 2.2; without it a click or a key does not spoil a hold.</source>
+        <translation>Verwenden Sie einen X-Server mit XInput 2.2; ohne es bricht kein Klick und keine Taste ein Halten ab.</translation>
+    </message>
+    <message>
+        <source>XKB</source>
+        <translation>XKB</translation>
+    </message>
+    <message>
+        <source>is there</source>
+        <translation>ist vorhanden</translation>
+    </message>
+    <message>
+        <source>is absent</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Use an X server that offers XKB; without it a held key cannot be noticed.</source>
+        <translation>Verwenden Sie einen X-Server mit XKB; ohne es kann eine gehaltene Taste nicht bemerkt werden.</translation>
+    </message>
+    <message>
+        <source>SHAPE</source>
+        <translation>SHAPE</translation>
+    </message>
+    <message>
+        <source>Panels have square corners without a compositor.</source>
+        <translation>Ohne Compositor haben Fenster der Übersicht eckige Ecken.</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>Fensterverwaltung</translation>
+    </message>
+    <message>
+        <source>none that tells the active window</source>
+        <translation>keine, die das aktive Fenster nennt</translation>
+    </message>
+    <message>
+        <source>Quillon takes the application that has the keyboard; start a window manager for more.</source>
+        <translation>Quillon nimmt die Anwendung, die die Tastatur hat; starten Sie für mehr eine Fensterverwaltung.</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>Compositor</translation>
+    </message>
+    <message>
+        <source>runs</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>none runs</source>
+        <translation>keiner läuft</translation>
+    </message>
+    <message>
+        <source>Panels are cut out without shadows; nothing is lost.</source>
+        <translation>Die Übersicht wird ohne Schatten ausgeschnitten; es geht nichts verloren.</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Systemleiste</translation>
+    </message>
+    <message>
+        <source>shows icons</source>
+        <translation>zeigt Symbole</translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation>es gibt keine</translation>
+    </message>
+    <message>
+        <source>Start quillon again to reach its menu, or use `quillon show` and `quillon quit`.</source>
+        <translation>Starten Sie quillon noch einmal, um sein Menü zu erreichen, oder verwenden Sie `quillon show` und `quillon quit`.</translation>
+    </message>
+    <message>
+        <source>GTK 2</source>
+        <translation>GTK 2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>Install the package libatk-adaptor, set GTK_MODULES=gail:atk-bridge for the whole session, and start the programs again.</source>
+        <translation>Installieren Sie das Paket libatk-adaptor, setzen Sie GTK_MODULES=gail:atk-bridge für die ganze Sitzung und starten Sie die Programme neu.</translation>
+    </message>
+    <message>
+        <source>Front application</source>
+        <translation>Anwendung im Vordergrund</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Bring an application's window to the front.</source>
+        <translation>Holen Sie das Fenster einer Anwendung in den Vordergrund.</translation>
+    </message>
+    <message>
+        <source>%1 (%2, process %3)</source>
+        <translation>%1 (%2, Prozess %3)</translation>
+    </message>
+    <message>
+        <source>Log in to an X11 session for the rest.</source>
+        <translation>Melden Sie sich für alles andere in einer X11-Sitzung an.</translation>
+    </message>
+    <message>
+        <source>Hold watcher</source>
+        <translation>Gehaltene Tasten</translation>
+    </message>
+    <message>
+        <source>notices held keys</source>
+        <translation>werden bemerkt</translation>
+    </message>
+    <message>
+        <source>notices held keys in X applications only</source>
+        <translation>werden nur in X-Anwendungen bemerkt</translation>
+    </message>
+    <message>
+        <source>can notice held keys</source>
+        <translation>können bemerkt werden</translation>
+    </message>
+    <message>
+        <source>can notice held keys in X applications only</source>
+        <translation>können nur in X-Anwendungen bemerkt werden</translation>
+    </message>
+    <message>
+        <source>does not notice held keys now</source>
+        <translation>werden jetzt nicht bemerkt</translation>
+    </message>
+    <message>
+        <source>Start Quillon again.</source>
+        <translation>Starten Sie Quillon neu.</translation>
+    </message>
+    <message>
+        <source>held keys are not noticed: there is no X server that tells them</source>
+        <translation>werden nicht bemerkt: kein X-Server meldet sie</translation>
+    </message>
+    <message>
+        <source>Use `quillon show`, or log in to an X11 session.</source>
+        <translation>Verwenden Sie `quillon show` oder melden Sie sich in einer X11-Sitzung an.</translation>
+    </message>
+    <message>
+        <source>clicks on menu commands are not noticed: there is no X server with XInput 2.2</source>
+        <translation>werden nicht bemerkt: es gibt keinen X-Server mit XInput 2.2</translation>
+    </message>
+    <message>
+        <source>Log in to an X11 session.</source>
+        <translation>Melden Sie sich in einer X11-Sitzung an.</translation>
+    </message>
+    <message>
+        <source>clicks on menu commands are not noticed: menus cannot be read</source>
+        <translation>werden nicht bemerkt: Menüs können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>See Accessibility above.</source>
+        <translation>Siehe Barrierefreiheit weiter oben.</translation>
+    </message>
+    <message>
+        <source>Click watcher</source>
+        <translation>Klicks auf Menübefehle</translation>
+    </message>
+    <message>
+        <source>notices clicks on menu commands</source>
+        <translation>werden bemerkt</translation>
+    </message>
+    <message>
+        <source>notices clicks on menu commands in X applications only</source>
+        <translation>werden nur in X-Anwendungen bemerkt</translation>
+    </message>
+    <message>
+        <source>can notice clicks on menu commands</source>
+        <translation>können bemerkt werden</translation>
+    </message>
+    <message>
+        <source>can notice clicks on menu commands in X applications only</source>
+        <translation>können nur in X-Anwendungen bemerkt werden</translation>
+    </message>
+    <message>
+        <source>does not notice clicks on menu commands now</source>
+        <translation>werden jetzt nicht bemerkt</translation>
+    </message>
+    <message>
+        <source>Allow accessibility in Quillon’s menu, and have nudgesOn be true in its settings.</source>
+        <translation>Erlauben Sie die Barrierefreiheit in Quillons Menü und lassen Sie nudgesOn in seinen Einstellungen true sein.</translation>
+    </message>
+    <message>
+        <source>typed shortcuts are not noticed: there is no X server with XInput 2.2 and XKB</source>
+        <translation>werden nicht bemerkt: es gibt keinen X-Server mit XInput 2.2 und XKB</translation>
+    </message>
+    <message>
+        <source>typed shortcuts are not noticed: the keyboard’s map cannot be read</source>
+        <translation>werden nicht bemerkt: die Belegung der Tastatur kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout, such as with `setxkbmap us`.</source>
+        <translation>Wählen Sie eine Tastaturbelegung, etwa mit `setxkbmap de`.</translation>
+    </message>
+    <message>
+        <source>typed shortcuts are not noticed: menus cannot be read</source>
+        <translation>werden nicht bemerkt: Menüs können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Typed watcher</source>
+        <translation>Getippte Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>notices typed shortcuts</source>
+        <translation>werden bemerkt</translation>
+    </message>
+    <message>
+        <source>notices typed shortcuts in X applications only</source>
+        <translation>werden nur in X-Anwendungen bemerkt</translation>
+    </message>
+    <message>
+        <source>can notice typed shortcuts</source>
+        <translation>können bemerkt werden</translation>
+    </message>
+    <message>
+        <source>can notice typed shortcuts in X applications only</source>
+        <translation>können nur in X-Anwendungen bemerkt werden</translation>
+    </message>
+    <message>
+        <source>does not notice typed shortcuts now</source>
+        <translation>werden jetzt nicht bemerkt</translation>
+    </message>
+    <message>
+        <source>Allow accessibility in Quillon’s menu, and have countTyped be true in its settings.</source>
+        <translation>Erlauben Sie die Barrierefreiheit in Quillons Menü und lassen Sie countTyped in seinen Einstellungen true sein.</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>does not run</source>
+        <translation>läuft nicht</translation>
+    </message>
+    <message>
+        <source>Start it with `quillon`.</source>
+        <translation>Starten Sie es mit `quillon`.</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>Ctrl</source>
+        <extracomment>Keys are named as they are printed on a keyboard of the language. Behind the name that is shown, parted by |, stand other names by which people may search for the key, in small or large letters.</extracomment>
+        <translation>Strg|Steuerung</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt|Umsch|Hochstell</translation>
+    </message>
+    <message>
+        <source>Super|Windows|Win|Meta</source>
+        <translation>Super|Windows|Win|Meta</translation>
+    </message>
+    <message>
+        <source>Enter|Return</source>
+        <translation>Eingabe|Enter|Return|Eingabetaste</translation>
+    </message>
+    <message>
+        <source>Num Enter|Enter|Keypad Enter</source>
+        <translation>Num Eingabe|Eingabe|Enter|Num Enter</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab|Tabulator</translation>
+    </message>
+    <message>
+        <source>Space|Spacebar</source>
+        <translation>Leertaste|Leer|Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rücktaste|Rück|Rückschritt</translation>
+    </message>
+    <message>
+        <source>Delete|Del</source>
+        <translation>Entf|Entfernen</translation>
+    </message>
+    <message>
+        <source>Esc|Escape</source>
+        <translation>Esc|Escape</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>←|Left|Left Arrow</source>
+        <translation>←|Links|Pfeil links|Pfeil nach links</translation>
+    </message>
+    <message>
+        <source>→|Right|Right Arrow</source>
+        <translation>→|Rechts|Pfeil rechts|Pfeil nach rechts</translation>
+    </message>
+    <message>
+        <source>↑|Up|Up Arrow</source>
+        <translation>↑|Hoch|Auf|Pfeil hoch|Pfeil auf|Pfeil nach oben</translation>
+    </message>
+    <message>
+        <source>↓|Down|Down Arrow</source>
+        <translation>↓|Runter|Ab|Pfeil runter|Pfeil ab|Pfeil nach unten</translation>
+    </message>
+    <message>
+        <source>Page Up|PgUp</source>
+        <translation>Bild auf|Bild hoch|Bild ↑</translation>
+    </message>
+    <message>
+        <source>Page Down|PgDn|PgDown</source>
+        <translation>Bild ab|Bild runter|Bild ↓</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pos1|Anfang</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Eject</source>
+        <translation>Auswerfen</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Slash</source>
+        <translation>Schrägstrich</translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation>Strichpunkt</translation>
+    </message>
+    <message>
+        <source>Quote</source>
+        <translation>Hochkomma</translation>
+    </message>
+    <message>
+        <source>Left Bracket</source>
+        <translation>Eckige Klammer auf</translation>
+    </message>
+    <message>
+        <source>Right Bracket</source>
+        <translation>Eckige Klammer zu</translation>
+    </message>
+    <message>
+        <source>Backslash</source>
+        <translation>Umgekehrter Schrägstrich</translation>
+    </message>
+    <message>
+        <source>Minus</source>
+        <translation>Minus</translation>
+    </message>
+    <message>
+        <source>Equals</source>
+        <translation>Gleich</translation>
+    </message>
+    <message>
+        <source>Grave</source>
+        <translation>Gravis</translation>
+    </message>
+    <message>
+        <source>Plus</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Question Mark</source>
+        <translation>Fragezeichen</translation>
+    </message>
+</context>
+<context>
+    <name>Overlay</name>
+    <message>
+        <source>Quillon needs Accessibility to read menus</source>
+        <translation>Quillon braucht die Barrierefreiheit, um Menüs zu lesen</translation>
+    </message>
+    <message>
+        <source>Allow it once in %1. Nothing leaves your %2.</source>
+        <translation>Erlauben Sie sie einmal in %1. Nichts verlässt Ihren %2.</translation>
+    </message>
+    <message>
+        <source>Show Me How</source>
+        <translation>Zeigen, wie</translation>
+    </message>
+    <message>
+        <source>Switch to an app, then hold %1</source>
+        <translation>Wechseln Sie zu einer Anwendung und halten Sie %1</translation>
+    </message>
+    <message>
+        <source>Reading %1’s menus…</source>
+        <translation>Die Menüs von %1 werden gelesen …</translation>
+    </message>
+    <message>
+        <source>No menu shortcuts in %1</source>
+        <translation>Keine Menü-Tastenkürzel in %1</translation>
+    </message>
+    <message>
+        <source>Some apps draw their own menus, which %1 doesn’t share.</source>
+        <translation>Manche Anwendungen zeichnen eigene Menüs, die %1 nicht weitergibt.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer now.</source>
+        <translation>%1 antwortet jetzt nicht.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”</source>
+        <translation>Nichts passt zu „%1“</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts from its menus</source>
+        <translation><numerusform>%1 Tastenkürzel aus den Menüs</numerusform><numerusform>%1 Tastenkürzel aus den Menüs</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 shortcuts</source>
+        <translation><numerusform>%1 von %2 Tastenkürzel</numerusform><numerusform>%1 von %2 Tastenkürzeln</numerusform></translation>
+    </message>
+    <message>
+        <source>Search shortcuts</source>
+        <translation>Tastenkürzel suchen</translation>
+    </message>
+    <message>
+        <source>Esc closes</source>
+        <translation>Esc schließt</translation>
+    </message>
+    <message>
+        <source>Let go of %1 to close · click to keep it open</source>
+        <translation>%1 loslassen schließt · ein Klick hält offen</translation>
+    </message>
+    <message>
+        <source>You click this one most:</source>
+        <translation>Das klicken Sie am häufigsten:</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Angeheftet</translation>
+    </message>
+    <message numerus="yes">
+        <source>clicked %1 times</source>
+        <translation><numerusform>%1-mal geklickt</numerusform><numerusform>%1-mal geklickt</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>You clicked this in the menu %1 times</source>
+        <translation><numerusform>Sie haben das %1-mal im Menü geklickt</numerusform><numerusform>Sie haben das %1-mal im Menü geklickt</numerusform></translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Nicht mehr anheften</translation>
+    </message>
+    <message>
+        <source>Open in Library</source>
+        <translation>In der Bibliothek öffnen</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>Shortcuts for %1</source>
+        <translation>Tastenkürzel von %1</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+</context>
+<context>
+    <name>SearchBox</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Suche leeren</translation>
+    </message>
+</context>
+<context>
+    <name>Toast</name>
+    <message>
+        <source>Next time</source>
+        <translation>Nächstes Mal</translation>
+    </message>
+    <message>
+        <source>Next time: %1 for %2</source>
+        <translation>Nächstes Mal: %1 für %2</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility…</source>
+        <translation>Barrierefreiheit erlauben …</translation>
+    </message>
+    <message>
+        <source>Show Shortcuts</source>
+        <translation>Tastenkürzel zeigen</translation>
+    </message>
+    <message>
+        <source>Show Shortcuts for %1</source>
+        <translation>Tastenkürzel von %1 zeigen</translation>
+    </message>
+    <message>
+        <source>Or hold %1 in any app</source>
+        <translation>Oder %1 in einer Anwendung halten</translation>
+    </message>
+    <message>
+        <source>Quit Quillon</source>
+        <translation>Quillon beenden</translation>
+    </message>
+</context>
+</TS>

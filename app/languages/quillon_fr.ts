@@ -1,0 +1,908 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Usage: quillon [--verbose] [COMMAND]
+
+Teaches the keyboard shortcuts of the applications you already use. Hold the
+trigger key (Super) in any application to see its shortcuts.
+
+Commands:
+  (none)      start the program, or bring up the one that runs
+  show        open the overlay and keep it open
+                --sample          with a made-up drawing application
+  sheet       print an application's shortcuts
+                --app NAME        the application with this id or name
+                --pid N           the application of this process
+                --front           the front application (default)
+                --query Q         only the shortcuts that match Q
+                --format FORMAT   text (default), json or markdown
+                --keys KEYS       symbols (default), or names as they are printed
+                                  on the keyboard; JSON is the same with both
+                --practice N      a practice round of N commands instead, in the
+                                  order in which they are asked
+                --seed S          the same round every time
+  apps        list the running applications that share their menus
+  stats       print what was counted: clicks and typed uses of each command,
+              the most clicked first. "learned" are those typed 5 times more
+              than clicked; "clicks replaced" are the typed uses of commands
+              that were clicked as well
+                --app NAME        of the application with this id or name only
+                --format FORMAT   text (default) or json
+                --keys KEYS       as for sheet
+  doctor      say what works on this desktop and how to mend what does not
+  quit        end the running program
+
+Options:
+  --help      print this text
+  --verbose   before the command: tell on standard error what is read, in
+              front and shown; never what is typed
+  --version   print the version
+
+Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
+4 accessibility is absent or off, 5 the application shares no menu shortcuts.
+</source>
+        <translation>Usage : quillon [--verbose] [COMMANDE]
+
+Vous apprend les raccourcis clavier des applications que vous utilisez déjà.
+Maintenez la touche de déclenchement (Super) dans une application pour les voir.
+
+Commandes :
+  (aucune)    lancer le programme, ou montrer celui qui est lancé
+  show        ouvrir le panneau et le garder ouvert
+                --sample          avec une application de dessin inventée
+  sheet       afficher les raccourcis d’une application
+                --app NOM         l’application de cet identifiant ou de ce nom
+                --pid N           l’application de ce processus
+                --front           l’application au premier plan (par défaut)
+                --query Q         seulement les raccourcis correspondant à Q
+                --format FORMAT   text (par défaut), json ou markdown
+                --keys TOUCHES    symbols (par défaut), ou names, les noms
+                                  sur le clavier ; le JSON est le même
+                --practice N      plutôt une série d’exercices de N commandes,
+                                  dans l’ordre où elles sont demandées
+                --seed S          la même série à chaque fois
+  apps        lister les applications lancées qui partagent leurs menus
+  stats       afficher ce qui a été compté : clics et frappes par commande, les
+              plus cliquées d’abord. « acquis » : tapées 5 fois de plus que
+              cliquées ; « remplacés » : les frappes de commandes qui ont aussi
+              été cliquées
+                --app NOM         seulement de l’application ainsi nommée
+                --format FORMAT   text (par défaut) ou json
+                --keys TOUCHES    comme pour sheet
+  doctor      dire ce qui marche sur ce bureau et comment réparer le reste
+  quit        arrêter le programme lancé
+
+Options :
+  --help      afficher ce texte
+  --verbose   avant la commande : dire sur la sortie d’erreur ce qui est lu, au
+              premier plan et montré ; jamais ce qui est tapé
+  --version   afficher la version
+
+Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue,
+4 accessibilité absente ou désactivée, 5 aucun raccourci de menu partagé.
+</translation>
+    </message>
+    <message>
+        <source>%1; see quillon --help</source>
+        <translation>%1 ; voir quillon --help</translation>
+    </message>
+    <message>
+        <source>unexpected argument '%1'</source>
+        <translation>argument inattendu « %1 »</translation>
+    </message>
+    <message>
+        <source>--keys is symbols or names, not '%1'</source>
+        <translation>--keys vaut symbols ou names, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--seed needs --practice</source>
+        <translation>--seed demande --practice</translation>
+    </message>
+    <message>
+        <source>--practice is printed as text or json</source>
+        <translation>--practice s’affiche en text ou en json</translation>
+    </message>
+    <message>
+        <source>--practice takes a positive number, not '%1'</source>
+        <translation>--practice prend un nombre positif, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--seed takes a number from 0 to 2^64-1, not '%1'</source>
+        <translation>--seed prend un nombre de 0 à 2^64-1, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--app, --pid and --front exclude each other</source>
+        <translation>--app, --pid et --front s’excluent</translation>
+    </message>
+    <message>
+        <source>--pid takes a process number, not '%1'</source>
+        <translation>--pid prend un numéro de processus, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--format is text, json or markdown, not '%1'</source>
+        <translation>--format vaut text, json ou markdown, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--format is text or json, not '%1'</source>
+        <translation>--format vaut text ou json, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>unknown command '%1'</source>
+        <translation>commande inconnue « %1 »</translation>
+    </message>
+    <message>
+        <source>the output was lost: %1</source>
+        <translation>la sortie a été perdue : %1</translation>
+    </message>
+    <message>
+        <source>1 shortcut</source>
+        <translation>1 raccourci</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 raccourci</numerusform><numerusform>%1 raccourcis</numerusform></translation>
+    </message>
+    <message>
+        <source>(disabled)</source>
+        <translation>(indisponible)</translation>
+    </message>
+    <message>
+        <source>clicked %1, typed %2, clicks replaced by typing %3</source>
+        <translation>cliqués : %1, tapés : %2, clics remplacés par la frappe : %3</translation>
+    </message>
+    <message>
+        <source>learned</source>
+        <translation>acquis</translation>
+    </message>
+    <message>
+        <source>clicked %1</source>
+        <translation>cliqué %1</translation>
+    </message>
+    <message>
+        <source>typed %1</source>
+        <translation>tapé %1</translation>
+    </message>
+    <message>
+        <source>there is no running instance</source>
+        <translation>le programme n’est pas lancé</translation>
+    </message>
+    <message>
+        <source>the running instance does not answer</source>
+        <translation>le programme lancé ne répond pas</translation>
+    </message>
+    <message>
+        <source>the session cannot be reached; see quillon doctor</source>
+        <translation>la session est inaccessible ; voir quillon doctor</translation>
+    </message>
+    <message>
+        <source>process %1 is no application that shares its menus; see quillon apps</source>
+        <translation>le processus %1 n’est pas une application qui partage ses menus ; voir quillon apps</translation>
+    </message>
+    <message>
+        <source>no running application is called '%1'; see quillon apps</source>
+        <translation>aucune application lancée ne s’appelle « %1 » ; voir quillon apps</translation>
+    </message>
+    <message>
+        <source>no application is in front; name one with --app, see quillon apps</source>
+        <translation>aucune application n’est au premier plan ; indiquez-en une avec --app, voir quillon apps</translation>
+    </message>
+    <message>
+        <source>%1 does not answer; try again when it does</source>
+        <translation>%1 ne répond pas ; réessayez quand ce sera le cas</translation>
+    </message>
+    <message>
+        <source>%1 shares no menu shortcuts; if it was started before accessibility was on, restart it</source>
+        <translation>%1 ne partage aucun raccourci de menu ; s’il a été lancé avant l’activation de l’accessibilité, relancez-le</translation>
+    </message>
+    <message>
+        <source>%1 stopped answering; the sheet is not complete</source>
+        <translation>%1 a cessé de répondre ; la liste est incomplète</translation>
+    </message>
+    <message>
+        <source>%1 has more menu items than are read</source>
+        <translation>%1 a plus d’éléments de menu qu’il n’en est lu</translation>
+    </message>
+    <message>
+        <source>no shortcut of %1 matches '%2'</source>
+        <translation>aucun raccourci de %1 ne correspond à « %2 »</translation>
+    </message>
+    <message>
+        <source>there is no home folder that could hold anything; set HOME</source>
+        <translation>il n’y a pas de dossier personnel qui puisse contenir quoi que ce soit ; définissez HOME</translation>
+    </message>
+    <message>
+        <source>nothing was counted of an application called '%1'</source>
+        <translation>rien n’a été compté d’une application nommée « %1 »</translation>
+    </message>
+    <message>
+        <source>nothing was counted yet</source>
+        <translation>rien n’a encore été compté</translation>
+    </message>
+    <message>
+        <source>there is no session bus; run this inside of a desktop session</source>
+        <translation>il n’y a pas de bus de session ; lancez ceci dans une session graphique</translation>
+    </message>
+    <message>
+        <source>the session bus does not answer; see quillon doctor</source>
+        <translation>le bus de session ne répond pas ; voir quillon doctor</translation>
+    </message>
+    <message>
+        <source>the accessibility bus cannot be reached; install at-spi2-core and log in again</source>
+        <translation>le bus d’accessibilité est inaccessible ; installez at-spi2-core et reconnectez-vous</translation>
+    </message>
+    <message>
+        <source>accessibility is off; choose “Allow Accessibility…” in Quillon’s menu</source>
+        <translation>l’accessibilité est désactivée ; choisissez « Autoriser l’accessibilité… » dans le menu de Quillon</translation>
+    </message>
+    <message>
+        <source>the session bus cannot be reached; menus cannot be read, see quillon doctor</source>
+        <translation>le bus de session est inaccessible ; les menus ne peuvent pas être lus, voir quillon doctor</translation>
+    </message>
+</context>
+<context>
+    <name>Doctor</name>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>limited</source>
+        <translation>limité</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>absent</translation>
+    </message>
+    <message>
+        <source>Learned data</source>
+        <translation>Données apprises</translation>
+    </message>
+    <message>
+        <source>Quillon keeps it as it was and began a new one. Mend it and put it back while Quillon does not run, or remove it.</source>
+        <translation>Quillon la garde telle quelle et en a commencé une nouvelle. Réparez-la et remettez-la en place pendant que Quillon est arrêté, ou supprimez-la.</translation>
+    </message>
+    <message>
+        <source>Mend or remove it while Quillon does not run; until then it counts as empty.</source>
+        <translation>Réparez-la ou supprimez-la pendant que Quillon est arrêté ; d’ici là, elle compte comme vide.</translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep it in</source>
+        <translation>il n’y a pas de dossier personnel où les garder</translation>
+    </message>
+    <message>
+        <source>Set HOME.</source>
+        <translation>Définissez HOME.</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>dans %1</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>Bus de session</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <translation>répond</translation>
+    </message>
+    <message>
+        <source>takes connections and does not answer</source>
+        <translation>accepte les connexions et ne répond pas</translation>
+    </message>
+    <message>
+        <source>Log out and in again; every program of this session waits for it.</source>
+        <translation>Déconnectez-vous puis reconnectez-vous ; tous les programmes de cette session l’attendent.</translation>
+    </message>
+    <message>
+        <source>cannot be reached</source>
+        <translation>est inaccessible</translation>
+    </message>
+    <message>
+        <source>Start Quillon from a desktop session, or with dbus-run-session.</source>
+        <translation>Lancez Quillon depuis une session graphique, ou avec dbus-run-session.</translation>
+    </message>
+    <message>
+        <source>Accessibility bus</source>
+        <translation>Bus d’accessibilité</translation>
+    </message>
+    <message>
+        <source>Install the package at-spi2-core and log in again.</source>
+        <translation>Installez le paquet at-spi2-core et reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accessibilité</translation>
+    </message>
+    <message>
+        <source>unknown without its bus</source>
+        <translation>inconnue sans son bus</translation>
+    </message>
+    <message>
+        <source>has no switch on this desktop</source>
+        <translation>n’a pas d’interrupteur sur ce bureau</translation>
+    </message>
+    <message>
+        <source>is on</source>
+        <translation>est activée</translation>
+    </message>
+    <message>
+        <source>is off</source>
+        <translation>est désactivée</translation>
+    </message>
+    <message>
+        <source>Choose “Allow Accessibility…” in Quillon’s menu, or turn it on in the desktop’s settings; applications already running may have to be restarted.</source>
+        <translation>Choisissez « Autoriser l’accessibilité… » dans le menu de Quillon, ou activez-la dans les réglages du bureau ; les applications déjà lancées devront peut-être être relancées.</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Wayland, with an X server for older applications</source>
+        <translation>Wayland, avec un serveur X pour les applications anciennes</translation>
+    </message>
+    <message>
+        <source>Holding a key works over X applications only; `quillon show` works everywhere. Log in to an X11 session for the rest.</source>
+        <translation>Maintenir une touche ne fonctionne que sur les applications X ; `quillon show` fonctionne partout. Ouvrez une session X11 pour le reste.</translation>
+    </message>
+    <message>
+        <source>X11</source>
+        <translation>X11</translation>
+    </message>
+    <message>
+        <source>Wayland without an X server</source>
+        <translation>Wayland sans serveur X</translation>
+    </message>
+    <message>
+        <source>Holding a key cannot be noticed; use `quillon show` and `quillon sheet`.</source>
+        <translation>Le maintien d’une touche ne peut pas être détecté ; utilisez `quillon show` et `quillon sheet`.</translation>
+    </message>
+    <message>
+        <source>Start Quillon in a graphical session, or set DISPLAY.</source>
+        <translation>Lancez Quillon dans une session graphique, ou définissez DISPLAY.</translation>
+    </message>
+    <message>
+        <source>XInput</source>
+        <translation>XInput</translation>
+    </message>
+    <message>
+        <source>version %1</source>
+        <translation>version %1</translation>
+    </message>
+    <message>
+        <source>is older than version 2.2 or absent</source>
+        <translation>est antérieure à la version 2.2 ou absente</translation>
+    </message>
+    <message>
+        <source>Use an X server that offers XInput 2.2; without it a click or a key does not spoil a hold.</source>
+        <translation>Utilisez un serveur X qui offre XInput 2.2 ; sans cela, ni clic ni touche n’interrompt un maintien.</translation>
+    </message>
+    <message>
+        <source>XKB</source>
+        <translation>XKB</translation>
+    </message>
+    <message>
+        <source>is there</source>
+        <translation>est présente</translation>
+    </message>
+    <message>
+        <source>is absent</source>
+        <translation>est absente</translation>
+    </message>
+    <message>
+        <source>Use an X server that offers XKB; without it a held key cannot be noticed.</source>
+        <translation>Utilisez un serveur X qui offre XKB ; sans cela, une touche maintenue ne peut pas être détectée.</translation>
+    </message>
+    <message>
+        <source>SHAPE</source>
+        <translation>SHAPE</translation>
+    </message>
+    <message>
+        <source>Panels have square corners without a compositor.</source>
+        <translation>Sans compositeur, les panneaux ont des coins carrés.</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>Gestionnaire de fenêtres</translation>
+    </message>
+    <message>
+        <source>none that tells the active window</source>
+        <translation>aucun qui indique la fenêtre active</translation>
+    </message>
+    <message>
+        <source>Quillon takes the application that has the keyboard; start a window manager for more.</source>
+        <translation>Quillon prend l’application qui a le clavier ; lancez un gestionnaire de fenêtres pour davantage.</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>Compositeur</translation>
+    </message>
+    <message>
+        <source>runs</source>
+        <translation>est lancé</translation>
+    </message>
+    <message>
+        <source>none runs</source>
+        <translation>aucun n’est lancé</translation>
+    </message>
+    <message>
+        <source>Panels are cut out without shadows; nothing is lost.</source>
+        <translation>Les panneaux sont découpés sans ombre ; rien n’est perdu.</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Zone de notification</translation>
+    </message>
+    <message>
+        <source>shows icons</source>
+        <translation>affiche des icônes</translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation>il n’y en a pas</translation>
+    </message>
+    <message>
+        <source>Start quillon again to reach its menu, or use `quillon show` and `quillon quit`.</source>
+        <translation>Relancez quillon pour accéder à son menu, ou utilisez `quillon show` et `quillon quit`.</translation>
+    </message>
+    <message>
+        <source>GTK 2</source>
+        <translation>GTK 2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>illisible : %1</translation>
+    </message>
+    <message>
+        <source>Install the package libatk-adaptor, set GTK_MODULES=gail:atk-bridge for the whole session, and start the programs again.</source>
+        <translation>Installez le paquet libatk-adaptor, définissez GTK_MODULES=gail:atk-bridge pour toute la session et relancez les programmes.</translation>
+    </message>
+    <message>
+        <source>Front application</source>
+        <translation>Application au premier plan</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>Bring an application's window to the front.</source>
+        <translation>Placez la fenêtre d’une application au premier plan.</translation>
+    </message>
+    <message>
+        <source>%1 (%2, process %3)</source>
+        <translation>%1 (%2, processus %3)</translation>
+    </message>
+    <message>
+        <source>Log in to an X11 session for the rest.</source>
+        <translation>Ouvrez une session X11 pour le reste.</translation>
+    </message>
+    <message>
+        <source>Hold watcher</source>
+        <translation>Touches maintenues</translation>
+    </message>
+    <message>
+        <source>notices held keys</source>
+        <translation>sont détectées</translation>
+    </message>
+    <message>
+        <source>notices held keys in X applications only</source>
+        <translation>ne sont détectées que dans les applications X</translation>
+    </message>
+    <message>
+        <source>can notice held keys</source>
+        <translation>peuvent être détectées</translation>
+    </message>
+    <message>
+        <source>can notice held keys in X applications only</source>
+        <translation>ne peuvent être détectées que dans les applications X</translation>
+    </message>
+    <message>
+        <source>does not notice held keys now</source>
+        <translation>ne sont pas détectées en ce moment</translation>
+    </message>
+    <message>
+        <source>Start Quillon again.</source>
+        <translation>Relancez Quillon.</translation>
+    </message>
+    <message>
+        <source>held keys are not noticed: there is no X server that tells them</source>
+        <translation>ne sont pas détectées : aucun serveur X ne les indique</translation>
+    </message>
+    <message>
+        <source>Use `quillon show`, or log in to an X11 session.</source>
+        <translation>Utilisez `quillon show`, ou ouvrez une session X11.</translation>
+    </message>
+    <message>
+        <source>clicks on menu commands are not noticed: there is no X server with XInput 2.2</source>
+        <translation>ne sont pas détectés : il n’y a pas de serveur X avec XInput 2.2</translation>
+    </message>
+    <message>
+        <source>Log in to an X11 session.</source>
+        <translation>Ouvrez une session X11.</translation>
+    </message>
+    <message>
+        <source>clicks on menu commands are not noticed: menus cannot be read</source>
+        <translation>ne sont pas détectés : les menus ne peuvent pas être lus</translation>
+    </message>
+    <message>
+        <source>See Accessibility above.</source>
+        <translation>Voir Accessibilité plus haut.</translation>
+    </message>
+    <message>
+        <source>Click watcher</source>
+        <translation>Clics dans les menus</translation>
+    </message>
+    <message>
+        <source>notices clicks on menu commands</source>
+        <translation>sont détectés</translation>
+    </message>
+    <message>
+        <source>notices clicks on menu commands in X applications only</source>
+        <translation>ne sont détectés que dans les applications X</translation>
+    </message>
+    <message>
+        <source>can notice clicks on menu commands</source>
+        <translation>peuvent être détectés</translation>
+    </message>
+    <message>
+        <source>can notice clicks on menu commands in X applications only</source>
+        <translation>ne peuvent être détectés que dans les applications X</translation>
+    </message>
+    <message>
+        <source>does not notice clicks on menu commands now</source>
+        <translation>ne sont pas détectés en ce moment</translation>
+    </message>
+    <message>
+        <source>Allow accessibility in Quillon’s menu, and have nudgesOn be true in its settings.</source>
+        <translation>Autorisez l’accessibilité dans le menu de Quillon, et donnez à nudgesOn la valeur true dans ses réglages.</translation>
+    </message>
+    <message>
+        <source>typed shortcuts are not noticed: there is no X server with XInput 2.2 and XKB</source>
+        <translation>ne sont pas détectés : il n’y a pas de serveur X avec XInput 2.2 et XKB</translation>
+    </message>
+    <message>
+        <source>typed shortcuts are not noticed: the keyboard’s map cannot be read</source>
+        <translation>ne sont pas détectés : la disposition du clavier ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout, such as with `setxkbmap us`.</source>
+        <translation>Choisissez une disposition de clavier, par exemple avec `setxkbmap fr`.</translation>
+    </message>
+    <message>
+        <source>typed shortcuts are not noticed: menus cannot be read</source>
+        <translation>ne sont pas détectés : les menus ne peuvent pas être lus</translation>
+    </message>
+    <message>
+        <source>Typed watcher</source>
+        <translation>Raccourcis tapés</translation>
+    </message>
+    <message>
+        <source>notices typed shortcuts</source>
+        <translation>sont détectés</translation>
+    </message>
+    <message>
+        <source>notices typed shortcuts in X applications only</source>
+        <translation>ne sont détectés que dans les applications X</translation>
+    </message>
+    <message>
+        <source>can notice typed shortcuts</source>
+        <translation>peuvent être détectés</translation>
+    </message>
+    <message>
+        <source>can notice typed shortcuts in X applications only</source>
+        <translation>ne peuvent être détectés que dans les applications X</translation>
+    </message>
+    <message>
+        <source>does not notice typed shortcuts now</source>
+        <translation>ne sont pas détectés en ce moment</translation>
+    </message>
+    <message>
+        <source>Allow accessibility in Quillon’s menu, and have countTyped be true in its settings.</source>
+        <translation>Autorisez l’accessibilité dans le menu de Quillon, et donnez à countTyped la valeur true dans ses réglages.</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>does not run</source>
+        <translation>n’est pas lancé</translation>
+    </message>
+    <message>
+        <source>Start it with `quillon`.</source>
+        <translation>Lancez-le avec `quillon`.</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>Ctrl</source>
+        <extracomment>Keys are named as they are printed on a keyboard of the language. Behind the name that is shown, parted by |, stand other names by which people may search for the key, in small or large letters.</extracomment>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj|Majuscule</translation>
+    </message>
+    <message>
+        <source>Super|Windows|Win|Meta</source>
+        <translation>Super|Windows|Win|Meta</translation>
+    </message>
+    <message>
+        <source>Enter|Return</source>
+        <translation>Entrée|Entree|Retour</translation>
+    </message>
+    <message>
+        <source>Num Enter|Enter|Keypad Enter</source>
+        <translation>Entrée Num|Entrée|Entree|Entree Num</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab|Tabulation</translation>
+    </message>
+    <message>
+        <source>Space|Spacebar</source>
+        <translation>Espace|Barre d’espace</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Retour arrière|Retour arriere|Effacement</translation>
+    </message>
+    <message>
+        <source>Delete|Del</source>
+        <translation>Suppr|Supprimer</translation>
+    </message>
+    <message>
+        <source>Esc|Escape</source>
+        <translation>Échap|Echap|Échappement</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear|Effacer</translation>
+    </message>
+    <message>
+        <source>←|Left|Left Arrow</source>
+        <translation>←|Gauche|Flèche gauche|Fleche gauche</translation>
+    </message>
+    <message>
+        <source>→|Right|Right Arrow</source>
+        <translation>→|Droite|Flèche droite|Fleche droite</translation>
+    </message>
+    <message>
+        <source>↑|Up|Up Arrow</source>
+        <translation>↑|Haut|Flèche haut|Fleche haut</translation>
+    </message>
+    <message>
+        <source>↓|Down|Down Arrow</source>
+        <translation>↓|Bas|Flèche bas|Fleche bas</translation>
+    </message>
+    <message>
+        <source>Page Up|PgUp</source>
+        <translation>Page préc|Page prec|Page haut|Page précédente|PgPréc</translation>
+    </message>
+    <message>
+        <source>Page Down|PgDn|PgDown</source>
+        <translation>Page suiv|Page bas|Page suivante|PgSuiv</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Début|Debut|Origine</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Eject</source>
+        <translation>Éjecter|Ejecter</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Virgule</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Slash</source>
+        <translation>Barre oblique</translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation>Point-virgule</translation>
+    </message>
+    <message>
+        <source>Quote</source>
+        <translation>Apostrophe</translation>
+    </message>
+    <message>
+        <source>Left Bracket</source>
+        <translation>Crochet ouvrant</translation>
+    </message>
+    <message>
+        <source>Right Bracket</source>
+        <translation>Crochet fermant</translation>
+    </message>
+    <message>
+        <source>Backslash</source>
+        <translation>Barre oblique inverse</translation>
+    </message>
+    <message>
+        <source>Minus</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>Equals</source>
+        <translation>Égal</translation>
+    </message>
+    <message>
+        <source>Grave</source>
+        <translation>Accent grave</translation>
+    </message>
+    <message>
+        <source>Plus</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Question Mark</source>
+        <translation>Point d’interrogation</translation>
+    </message>
+</context>
+<context>
+    <name>Overlay</name>
+    <message>
+        <source>Quillon needs Accessibility to read menus</source>
+        <translation>Quillon a besoin de l’accessibilité pour lire les menus</translation>
+    </message>
+    <message>
+        <source>Allow it once in %1. Nothing leaves your %2.</source>
+        <translation>Autorisez-la une fois dans %1. Rien ne quitte votre %2.</translation>
+    </message>
+    <message>
+        <source>Show Me How</source>
+        <translation>Me montrer comment</translation>
+    </message>
+    <message>
+        <source>Switch to an app, then hold %1</source>
+        <translation>Passez à une application, puis maintenez %1</translation>
+    </message>
+    <message>
+        <source>Reading %1’s menus…</source>
+        <translation>Lecture des menus de %1…</translation>
+    </message>
+    <message>
+        <source>No menu shortcuts in %1</source>
+        <translation>Aucun raccourci de menu dans %1</translation>
+    </message>
+    <message>
+        <source>Some apps draw their own menus, which %1 doesn’t share.</source>
+        <translation>Certaines applications dessinent leurs propres menus, que %1 ne partage pas.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer now.</source>
+        <translation>%1 ne répond pas en ce moment.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”</source>
+        <translation>Rien ne correspond à « %1 »</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts from its menus</source>
+        <translation><numerusform>%1 raccourci de ses menus</numerusform><numerusform>%1 raccourcis de ses menus</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 shortcuts</source>
+        <translation><numerusform>%1 raccourci sur %2</numerusform><numerusform>%1 raccourcis sur %2</numerusform></translation>
+    </message>
+    <message>
+        <source>Search shortcuts</source>
+        <translation>Rechercher un raccourci</translation>
+    </message>
+    <message>
+        <source>Esc closes</source>
+        <translation>Échap ferme</translation>
+    </message>
+    <message>
+        <source>Let go of %1 to close · click to keep it open</source>
+        <translation>Relâchez %1 pour fermer · cliquez pour garder ouvert</translation>
+    </message>
+    <message>
+        <source>You click this one most:</source>
+        <translation>Votre clic le plus fréquent :</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Épinglés</translation>
+    </message>
+    <message numerus="yes">
+        <source>clicked %1 times</source>
+        <translation><numerusform>%1 clic</numerusform><numerusform>%1 clics</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>You clicked this in the menu %1 times</source>
+        <translation><numerusform>Vous avez cliqué %1 fois dans le menu</numerusform><numerusform>Vous avez cliqué %1 fois dans le menu</numerusform></translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Épingler</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Ne plus épingler</translation>
+    </message>
+    <message>
+        <source>Open in Library</source>
+        <translation>Ouvrir dans la bibliothèque</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>Shortcuts for %1</source>
+        <translation>Raccourcis de %1</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+</context>
+<context>
+    <name>SearchBox</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>Toast</name>
+    <message>
+        <source>Next time</source>
+        <translation>La prochaine fois</translation>
+    </message>
+    <message>
+        <source>Next time: %1 for %2</source>
+        <translation>La prochaine fois : %1 pour %2</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility…</source>
+        <translation>Autoriser l’accessibilité…</translation>
+    </message>
+    <message>
+        <source>Show Shortcuts</source>
+        <translation>Afficher les raccourcis</translation>
+    </message>
+    <message>
+        <source>Show Shortcuts for %1</source>
+        <translation>Afficher les raccourcis de %1</translation>
+    </message>
+    <message>
+        <source>Or hold %1 in any app</source>
+        <translation>Ou maintenez %1 dans une application</translation>
+    </message>
+    <message>
+        <source>Quit Quillon</source>
+        <translation>Quitter Quillon</translation>
+    </message>
+</context>
+</TS>
