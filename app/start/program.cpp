@@ -5,7 +5,6 @@
 #include "toast_content.h"
 
 #include <QApplication>
-#include <QCursor>
 
 #include <unistd.h>
 
@@ -41,7 +40,12 @@ Program::Program(Platform& platform)
                                                  .dataFolder = platform.dataFolder(),
                                                  .ownPid = getpid(),
                                              }),
-      m_tray(m_model, m_themes, [] { QApplication::quit(); }) {}
+      m_tray(
+          m_model, m_desktop->tray(),
+          {.showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
+           .openWindow = [this](WindowName name) { m_model.requestWindow(name); },
+           .checkForUpdates = [] {},
+           .quit = [] { QApplication::quit(); }}) {}
 
 Program::~Program() {
     m_model.savePending();
@@ -85,7 +89,7 @@ void Program::showOverlayOnceTrusted() {
 }
 
 void Program::activate() {
-    m_tray.popUp(QCursor::pos());
+    m_desktop->tray().popUpMenu();
 }
 
 void Program::showSample() {

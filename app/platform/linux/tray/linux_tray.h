@@ -1,0 +1,57 @@
+#pragma once
+
+#include <quillon/app/platform/linux/session/session_kind.h>
+#include <quillon/app/ports/appearance.h>
+#include <quillon/app/ports/tray.h>
+
+#include <QDBusConnection>
+
+#include <memory>
+#include <optional>
+
+namespace quillon {
+
+class MenuServer;
+class NotifierItem;
+class PopUpMenu;
+class StatusNotifier;
+
+/// The tray of a Linux desktop: an item on the session bus, where a tray shows such items. The menu
+/// opens without a tray too.
+class LinuxTray final : public Tray {
+  public:
+    /// `bus` may be one that is not connected. `appearance` outlives the tray.
+    LinuxTray(
+        const QDBusConnection& bus, Appearance& appearance,
+        const Environment& environment = processEnvironment);
+    ~LinuxTray() override;
+
+    void show(TrayPresence presence) override;
+    void setMenu(std::vector<TrayMenuItem> items) override;
+    void popUpMenu() override;
+    bool isShown() const override { return m_isShown; }
+    Subscription onShownChanged(std::function<void()> callback) override {
+        return m_shownChanged.subscribe(std::move(callback));
+    }
+
+  private:
+    void choose(int id) const;
+    void secondaryClick() const;
+    void notifierChanged();
+
+    QDBusConnection m_bus;
+    Appearance& m_appearance;
+    std::string m_currentDesktop;
+    std::optional<TrayPresence> m_presence;
+    std::vector<TrayMenuItem> m_items;
+    std::unique_ptr<PopUpMenu> m_menu; ///< made when it opens first
+    std::unique_ptr<MenuServer> m_menuServer;
+    std::unique_ptr<NotifierItem> m_item;
+    std::unique_ptr<StatusNotifier> m_notifier;
+    bool m_isShown = false;
+    Event<> m_shownChanged;
+    Subscription m_notifierChange;
+    Subscription m_lookChange;
+};
+
+} // namespace quillon
