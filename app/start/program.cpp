@@ -60,6 +60,7 @@ InstanceRequests Program::requests() {
         .showSample = [this] { showSample(); },
         .quit = [] { QApplication::quit(); },
         .watching = [this] { return m_model.watching(); },
+        .isInTray = [this] { return m_desktop->tray().isShown(); },
     };
 }
 

@@ -96,10 +96,13 @@ Check compositor(const DesktopFacts& facts) {
 }
 
 Check trayHost(const DesktopFacts& facts) {
-    if (facts.trayHost)
-        return {"Tray", Result::good, "shows icons", ""};
+    if (facts.inTray == true)
+        return {"Tray", Result::good, "shows Quillon’s icon", ""};
+    if (facts.trayHost && !facts.inTray)
+        return {"Tray", Result::good, "can show Quillon’s icon", ""};
     return {
-        "Tray", Result::limited, "there is none",
+        "Tray", Result::limited,
+        facts.trayHost ? "there is one, which does not show Quillon’s icon" : "there is none",
         "Start quillon again to reach its menu, or use `quillon show` and `quillon quit`."};
 }
 

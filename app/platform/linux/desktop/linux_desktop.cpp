@@ -60,7 +60,7 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
       m_brake(m_x11 ? std::make_unique<RootEventBrake>() : nullptr),
       m_input(m_x11 ? std::make_shared<RawInput>(m_x11) : nullptr),
       m_panelWindows(panelWindows(m_x11, m_input)), m_panels(*m_panelWindows),
-      m_tray(std::make_unique<LinuxTray>(sessionBus, *m_appearance)) {
+      m_tray(std::make_unique<LinuxTray>(sessionBus, m_x11, *m_appearance)) {
     if (!m_x11) {
         qCInfo(logInput) << "there is no X server: held keys are not noticed";
         return;

@@ -1,5 +1,6 @@
 #include "linux_tray.h"
 
+#include "docked_icon.h"
 #include "menu_server.h"
 #include "notifier_item.h"
 #include "status_notifier.h"
@@ -12,28 +13,76 @@
 
 namespace quillon {
 
-LinuxTray::LinuxTray(const QDBusConnection& bus, Appearance& appearance, const Environment& environment)
-    : m_bus(bus), m_appearance(appearance), m_currentDesktop(environment("XDG_CURRENT_DESKTOP")) {}
+LinuxTray::LinuxTray(
+    const QDBusConnection& bus, std::shared_ptr<X11Connection> x11, Appearance& appearance,
+    const Environment& environment)
+    : m_bus(bus), m_x11(std::move(x11)), m_appearance(appearance),
+      m_currentDesktop(environment("XDG_CURRENT_DESKTOP")) {}
 
 LinuxTray::~LinuxTray() = default;
 
 void LinuxTray::show(TrayPresence presence) {
     m_presence = std::move(presence);
-    if (!m_bus.isConnected())
-        return;
+    m_lookChange = m_appearance.onChanged([this] { lookChanged(); });
+    if (m_bus.isConnected())
+        showOnBus();
+    follow();
+}
+
+void LinuxTray::showOnBus() {
     traybus::registerTypes();
-    const auto look = [this] { return trayLookOf(m_currentDesktop, m_appearance.look().scheme); };
     m_menuServer = std::make_unique<MenuServer>(m_bus, [this](int id) { choose(id); });
     m_menuServer->setItems(m_items);
     m_item = std::make_unique<NotifierItem>(
         m_bus, *m_presence,
-        NotifierClicks{
-            .openMenu = [this] { popUpMenu(); }, .secondary = [this] { secondaryClick(); }},
+        NotifierClicks{.openMenu = [this] { popUpMenu(); }, .secondary = [this] { secondaryClick(); }},
         look());
-    m_lookChange = m_appearance.onChanged([this, look] { m_item->setLook(look()); });
     // Last: whoever is told of the item can call it.
     m_notifier = std::make_unique<StatusNotifier>(m_bus);
-    m_notifierChange = m_notifier->onChanged([this] { notifierChanged(); });
+    m_notifierChange = m_notifier->onChanged([this] { follow(); });
+}
+
+TrayLook LinuxTray::look() const {
+    return trayLookOf(m_currentDesktop, m_appearance.look().scheme);
+}
+
+void LinuxTray::lookChanged() {
+    if (m_item)
+        m_item->setLook(look());
+    if (m_docked)
+        m_docked->schemeChanged();
+}
+
+// Docked only once it is known that no tray on the bus shows the item: two icons would be one too many.
+void LinuxTray::follow() {
+    const bool onBus = m_notifier && m_notifier->isShown();
+    if (onBus)
+        m_docked.reset();
+    else if (m_x11 && !m_docked && (!m_notifier || m_notifier->isSettled()))
+        dock();
+    const bool isNowShown = onBus || (m_docked && m_docked->isShown());
+    if (std::exchange(m_isShown, isNowShown) != isNowShown)
+        m_shownChanged.emit();
+}
+
+void LinuxTray::dock() {
+    m_docked = std::make_unique<DockedIcon>(
+        m_x11, DockedIconContent{
+                   .name = m_presence->name,
+                   .draw = m_presence->draw,
+                   .windowScheme = [this] { return m_appearance.look().scheme; },
+                   .clicked = [this](int button) { dockedClick(button); }});
+    m_dockedChange = m_docked->onShownChanged([this] { follow(); });
+}
+
+void LinuxTray::dockedClick(int button) {
+    constexpr int left = 1;
+    constexpr int middle = 2;
+    constexpr int right = 3;
+    if (button == middle)
+        secondaryClick();
+    else if (button == left || button == right)
+        popUpMenu();
 }
 
 void LinuxTray::setMenu(std::vector<TrayMenuItem> items) {
@@ -60,11 +109,6 @@ void LinuxTray::choose(int id) const {
 void LinuxTray::secondaryClick() const {
     if (m_presence)
         m_presence->secondaryClick();
-}
-
-void LinuxTray::notifierChanged() {
-    if (std::exchange(m_isShown, m_notifier->isShown()) != m_isShown)
-        m_shownChanged.emit();
 }
 
 } // namespace quillon
