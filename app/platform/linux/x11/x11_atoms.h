@@ -14,6 +14,8 @@ enum class X11Name {
     netActiveWindow,
     netClientList,
     netClientListStacking,
+    netStartupInfo,
+    netStartupInfoBegin,
     netSupported,
     netSupportingWmCheck,
     netSystemTrayColors,
@@ -41,13 +43,15 @@ enum class X11Name {
     xembedInfo,
 };
 
-inline constexpr std::array<std::string_view, 31> x11Names{
+inline constexpr std::array<std::string_view, 33> x11Names{
     "_GTK_APPLICATION_ID",
     "_GTK_WORKAREAS_D0",
     "MANAGER",
     "_NET_ACTIVE_WINDOW",
     "_NET_CLIENT_LIST",
     "_NET_CLIENT_LIST_STACKING",
+    "_NET_STARTUP_INFO",
+    "_NET_STARTUP_INFO_BEGIN",
     "_NET_SUPPORTED",
     "_NET_SUPPORTING_WM_CHECK",
     "_NET_SYSTEM_TRAY_COLORS",
