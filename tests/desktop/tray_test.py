@@ -8,7 +8,7 @@ import accessible
 import desktop
 from desktop import wait_until
 from gi.repository import GLib
-from quillon import QuillonTestCase, Ran, doctor, request
+from quillon import QuillonTestCase, Ran, doctor, request, write_settings
 from tray_host import TrayWatcher
 
 BELOW_THE_HINT = ["-", "Practice", "Library…", "-", "Settings | Control+comma", "Check for Updates…",
@@ -20,12 +20,6 @@ SHOWN = "ok shows Quillon’s icon"
 def set_accessibility(is_on):
     accessible.ask(accessible.session_bus(), "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
                    GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", is_on))))
-
-
-def write_for_the_test(test, path, text):
-    path.parent.mkdir(parents=True, exist_ok=True)
-    test.addCleanup(path.unlink)
-    path.write_text(text, encoding="utf-8")
 
 
 class TrayTestCase(QuillonTestCase):
@@ -67,8 +61,10 @@ class ItemTest(TrayTestCase):
 
     def test_its_picture_stands_out_in_the_scheme_of_the_desktop(self):
         self.assertLess(self.item.brightness(), 80)
-        write_for_the_test(self, CONFIGURATION / "gtk-3.0/settings.ini",
-                           "[Settings]\ngtk-application-prefer-dark-theme=1\n")
+        settings = CONFIGURATION / "gtk-3.0/settings.ini"
+        settings.parent.mkdir(parents=True, exist_ok=True)
+        self.addCleanup(settings.unlink)
+        settings.write_text("[Settings]\ngtk-application-prefer-dark-theme=1\n", encoding="utf-8")
         wait_until("a light picture on a dark desktop", lambda: self.item.brightness() > 200)
 
     def test_the_checkup_says_that_it_is_shown(self):
@@ -145,7 +141,7 @@ class MenuTest(TrayTestCase):
         self.assertEqual(menu.number("Show Shortcuts for Mousepad"), first)
 
     def test_the_hint_names_the_chosen_key(self):
-        write_for_the_test(self, CONFIGURATION / "app.quillon.Quillon/settings.ini", "[General]\ntrigger=option\n")
+        write_settings(onboarded="true", trigger="option")
         self.assertIn("[Or hold ⌥ in any app]", self.start_in_tray().texts())
 
     def test_while_menus_may_not_be_read_it_begins_with_asking_for_that(self):
@@ -157,11 +153,10 @@ class MenuTest(TrayTestCase):
         wait_until("the question", lambda: menu.texts()[:3] == ["Allow Accessibility…", "-", "Show Shortcuts"])
         self.assertEqual(list(menu.lines)[2], shortcuts, "lines that stay keep their numbers")
         menu.choose("Allow Accessibility…")
-        self.assert_welcomes()
-
-    def assert_welcomes(self):
-        """What the program does when the welcome is asked for."""
-        wait_until("accessibility to be on", lambda: doctor()["Accessibility"] == "ok is on")
+        wait_until("the welcome", lambda: desktop.xdotool("search", "--onlyvisible", "--name", "Welcome to Quillon",
+                                                          check=False))
+        set_accessibility(True)
+        wait_until("the question to go", lambda: menu.texts()[0].startswith("Show Shortcuts"))
 
 
 class ComingAndGoingTest(TrayTestCase):

@@ -65,7 +65,8 @@ QPainterPath drop(double from, double to) {
 /// The upper left loop.
 QPainterPath loop(const Measures& measures) {
     const int end = measures.start + measures.loop;
-    return drop(measures.start, end).subtracted(drop(measures.start + measures.stroke, end - measures.stroke));
+    return drop(measures.start, end)
+        .subtracted(drop(measures.start + measures.stroke, end - measures.stroke));
 }
 
 QPainterPath square(const Measures& measures, int size) {

@@ -42,8 +42,8 @@ const xcb_screen_t& screenOf(const X11Connection& x11) {
 
 /// Whether images of this depth are words of 32 bits in this machine's own order.
 bool isPlain(const X11Connection& x11, std::uint8_t depth) {
-    const auto order = std::endian::native == std::endian::little ? XCB_IMAGE_ORDER_LSB_FIRST
-                                                                  : XCB_IMAGE_ORDER_MSB_FIRST;
+    const auto order =
+        std::endian::native == std::endian::little ? XCB_IMAGE_ORDER_LSB_FIRST : XCB_IMAGE_ORDER_MSB_FIRST;
     return xcb_get_setup(x11.xcb())->image_byte_order == order
            && (depth == trueColourDepth || depth == alphaDepth);
 }
@@ -89,9 +89,8 @@ void DockedIcon::makeWindow() {
                                      | XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE;
     const std::array<std::uint32_t, 4> values{0, 0, events, m_colours};
     xcb_create_window(
-        xcb, m_depth, m_window, m_x11->root(), 0, 0, firstSize, firstSize, 0,
-        XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
-        XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP, values.data());
+        xcb, m_depth, m_window, m_x11->root(), 0, 0, firstSize, firstSize, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+        visual, XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP, values.data());
     m_pen = xcb_generate_id(xcb);
     xcb_create_gc(xcb, m_pen, m_window, 0, nullptr);
     m_width = m_height = firstSize;

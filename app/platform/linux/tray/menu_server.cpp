@@ -90,8 +90,7 @@ QVariantMap menuLineProperties(const TrayMenuItem& item) {
     if (item.kind == TrayMenuItem::Kind::line)
         properties.insert(u"enabled"_s, false);
     if (const std::string* const character = item.key ? item.key->asCharacter() : nullptr)
-        properties.insert(
-            u"shortcut"_s, QVariant::fromValue(Strokes{{u"Control"_s, keyName(*character)}}));
+        properties.insert(u"shortcut"_s, QVariant::fromValue(Strokes{{u"Control"_s, keyName(*character)}}));
     return properties;
 }
 
@@ -126,8 +125,7 @@ void MenuServer::tellChanges(const std::vector<TrayMenuItem>& before) {
     if (!std::ranges::equal(before, m_items, {}, &TrayMenuItem::id, &TrayMenuItem::id))
         emitSignal(u"LayoutUpdated"_s, {++m_revision, rootId});
     if (!updated.isEmpty() || !removed.isEmpty())
-        emitSignal(
-            u"ItemsPropertiesUpdated"_s, {QVariant::fromValue(updated), QVariant::fromValue(removed)});
+        emitSignal(u"ItemsPropertiesUpdated"_s, {QVariant::fromValue(updated), QVariant::fromValue(removed)});
 }
 
 QVariantMap MenuServer::properties() const {

@@ -62,8 +62,8 @@ void later(QObject* context, const std::function<void()>& act) {
 
 NotifierItem::NotifierItem(
     const QDBusConnection& bus, TrayPresence presence, NotifierClicks clicks, TrayLook look)
-    : ServedObject(bus, QLatin1StringView(path), itemInterface, description),
-      m_presence(std::move(presence)), m_clicks(std::move(clicks)), m_look(look) {}
+    : ServedObject(bus, QLatin1StringView(path), itemInterface, description), m_presence(std::move(presence)),
+      m_clicks(std::move(clicks)), m_look(look) {}
 
 void NotifierItem::setLook(TrayLook look) {
     if (look == m_look)

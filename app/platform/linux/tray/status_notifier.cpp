@@ -90,8 +90,7 @@ void StatusNotifier::askForHost() {
         this, m_bus.asyncCall(question, callTimeout),
         [this, round = m_registration.round()](const QDBusPendingCall& finished) {
             const QDBusPendingReply<QDBusVariant> reply = finished;
-            perform(m_registration.hostAnswered(
-                round, reply.isValid() && reply.value().variant().toBool()));
+            perform(m_registration.hostAnswered(round, reply.isValid() && reply.value().variant().toBool()));
             m_changed.emit();
         });
 }

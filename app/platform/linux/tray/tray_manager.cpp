@@ -63,8 +63,8 @@ void TrayManager::look() {
             xcb_intern_atom(m_x11->xcb(), 0, static_cast<std::uint16_t>(name.size()), name.data()));
         m_selection = atom ? atom->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
     }
-    const auto owner = m_x11->reply<xcb_get_selection_owner_reply_t>(
-        xcb_get_selection_owner(m_x11->xcb(), m_selection));
+    const auto owner =
+        m_x11->reply<xcb_get_selection_owner_reply_t>(xcb_get_selection_owner(m_x11->xcb(), m_selection));
     m_hasToLook = m_x11->isLate(); // then once it answers
     if (owner)
         adopt(owner->owner);

@@ -10,7 +10,7 @@ namespace quillon {
 enum class X11Name {
     gtkApplicationID,
     gtkWorkAreas, ///< of the first workspace
-    manager, ///< a message: another client manages something now
+    manager,      ///< a message: another client manages something now
     netActiveWindow,
     netClientList,
     netClientListStacking,

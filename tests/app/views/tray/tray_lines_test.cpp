@@ -63,8 +63,10 @@ TEST(TrayLines, NameTheCurrentApplication) {
 }
 
 TEST(TrayLines, TheHintNamesTheTriggerKey) {
-    EXPECT_EQ(read({.trusted = true, .appName = {}, .trigger = TriggerKey::option})[1], "[Or hold ⌥ in any app]");
-    EXPECT_EQ(read({.trusted = true, .appName = {}, .trigger = TriggerKey::control})[1], "[Or hold ⌃ in any app]");
+    EXPECT_EQ(
+        read({.trusted = true, .appName = {}, .trigger = TriggerKey::option})[1], "[Or hold ⌥ in any app]");
+    EXPECT_EQ(
+        read({.trusted = true, .appName = {}, .trigger = TriggerKey::control})[1], "[Or hold ⌃ in any app]");
 }
 
 TEST(TrayLines, EveryLineKeepsAnIdOfItsOwn) {

@@ -66,7 +66,8 @@ class FakeManager {
     std::uint32_t pixel(xcb_window_t window, std::int16_t x, std::int16_t y) {
         const X11Reply<xcb_get_image_reply_t> image(xcb_get_image_reply(
             m_xcb, xcb_get_image(m_xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, window, x, y, 1, 1, ~0U), nullptr));
-        return image ? *reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(image.get())) & 0xffffff : 1;
+        return image ? *reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(image.get())) & 0xffffff
+                     : 1;
     }
 
   private:

@@ -32,7 +32,8 @@ TEST(MenuLineProperties, SayWhatDiffersFromAPlainCommand) {
     EXPECT_EQ(menuLineProperties(items[0]), (QVariantMap{{u"label"_s, u"Draw a__b & c"_s}}));
     EXPECT_EQ(menuLineProperties(items[1]), (QVariantMap{{u"label"_s, u"Or hold"_s}, {u"enabled"_s, false}}));
     EXPECT_EQ(menuLineProperties(items[2]), (QVariantMap{{u"type"_s, u"separator"_s}}));
-    EXPECT_EQ(menuLineProperties(items[3])[u"shortcut"_s].value<Strokes>(), (Strokes{{u"Control"_s, u"comma"_s}}));
+    EXPECT_EQ(
+        menuLineProperties(items[3])[u"shortcut"_s].value<Strokes>(), (Strokes{{u"Control"_s, u"comma"_s}}));
 }
 
 /// A tray that asks for the menu and listens to it.
@@ -40,15 +41,17 @@ class ListeningTray final : public QObject {
     Q_OBJECT
 
   public:
-    explicit ListeningTray(QDBusConnection bus, QString menu) : m_bus(std::move(bus)), m_menu(std::move(menu)) {
-        for (const auto& [signal, slot] : {std::pair{u"LayoutUpdated"_s, SLOT(layoutUpdated(uint, int))},
-                                           std::pair{u"ItemsPropertiesUpdated"_s, SLOT(propertiesUpdated(QDBusMessage))}})
+    explicit ListeningTray(QDBusConnection bus, QString menu)
+        : m_bus(std::move(bus)), m_menu(std::move(menu)) {
+        for (const auto& [signal, slot] :
+             {std::pair{u"LayoutUpdated"_s, SLOT(layoutUpdated(uint, int))},
+              std::pair{u"ItemsPropertiesUpdated"_s, SLOT(propertiesUpdated(QDBusMessage))}})
             m_bus.connect(m_menu, u"/MenuBar"_s, u"com.canonical.dbusmenu"_s, signal, this, slot);
     }
 
     QDBusMessage ask(const QString& method, const QVariantList& arguments) {
-        auto message = QDBusMessage::createMethodCall(
-            m_menu, u"/MenuBar"_s, u"com.canonical.dbusmenu"_s, method);
+        auto message =
+            QDBusMessage::createMethodCall(m_menu, u"/MenuBar"_s, u"com.canonical.dbusmenu"_s, method);
         message.setArguments(arguments);
         const QDBusPendingCall call = m_bus.asyncCall(message);
         EXPECT_TRUE(waitFor([&] { return call.isFinished(); }));
@@ -80,7 +83,8 @@ class MenuServerTest : public testing::Test {
     /// Until everything that was told has arrived.
     void settle() { tray.ask(u"AboutToShow"_s, {0}); }
     QList<MenuNode> lines() {
-        return qdbus_cast<MenuNode>(tray.ask(u"GetLayout"_s, {0, -1, QStringList()}).arguments().at(1)).children;
+        return qdbus_cast<MenuNode>(tray.ask(u"GetLayout"_s, {0, -1, QStringList()}).arguments().at(1))
+            .children;
     }
 
     PrivateBus bus;
@@ -97,8 +101,8 @@ TEST_F(MenuServerTest, TheLayoutHasEveryLineInOrder) {
     EXPECT_THAT(ids, ElementsAre(3, 5, 7, 9));
     const auto onlyLabels = tray.ask(u"GetLayout"_s, {0, 1, QStringList{u"label"_s}});
     EXPECT_TRUE(qdbus_cast<MenuNode>(onlyLabels.arguments().at(1)).children[2].properties.isEmpty());
-    EXPECT_TRUE(
-        qdbus_cast<MenuNode>(tray.ask(u"GetLayout"_s, {0, 0, QStringList()}).arguments().at(1)).children.isEmpty());
+    EXPECT_TRUE(qdbus_cast<MenuNode>(tray.ask(u"GetLayout"_s, {0, 0, QStringList()}).arguments().at(1))
+                    .children.isEmpty());
 }
 
 TEST_F(MenuServerTest, ALineThatReadsDifferentlyKeepsItsPlace) {

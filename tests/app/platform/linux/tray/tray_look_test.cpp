@@ -15,7 +15,8 @@ TEST(TrayLook, ElsewhereTheTrayIsAsTheWindowsAre) {
     EXPECT_EQ(trayLookOf("KDE", ColourScheme::light), (TrayLook{ColourScheme::light, true}));
     EXPECT_EQ(trayLookOf("KDE", ColourScheme::dark), (TrayLook{ColourScheme::dark, true}));
     for (const auto desktop : {"XFCE", "", ":", "sway", "NOTGNOME", "LXQt:GNOMEs"})
-        EXPECT_EQ(trayLookOf(desktop, ColourScheme::light), (TrayLook{ColourScheme::light, false})) << desktop;
+        EXPECT_EQ(trayLookOf(desktop, ColourScheme::light), (TrayLook{ColourScheme::light, false}))
+            << desktop;
 }
 
 } // namespace

@@ -18,9 +18,10 @@ class PopUpMenuTest : public testing::Test {
         std::vector<std::string> read;
         for (const QAction* action : menu.menu().actions())
             read.push_back(
-                action->isSeparator() ? "-"
-                                      : (action->isEnabled() ? "" : "disabled ") + action->text().toStdString()
-                                            + action->shortcut().toString().toStdString());
+                action->isSeparator()
+                    ? "-"
+                    : (action->isEnabled() ? "" : "disabled ") + action->text().toStdString()
+                          + action->shortcut().toString().toStdString());
         return read;
     }
 
@@ -46,7 +47,8 @@ TEST_F(PopUpMenuTest, ChangesWhileItIsOpen) {
     menu.menu().setActiveAction(menu.menu().actions().constLast());
     menu.setItems({told, line, first, quit});
     EXPECT_THAT(texts(), ElementsAre("disabled told", "-", "Fish && Chips ", "Quit Ctrl+Q"));
-    EXPECT_EQ(menu.menu().activeAction(), menu.menu().actions().constLast()) << "what is highlighted stays so";
+    EXPECT_EQ(menu.menu().activeAction(), menu.menu().actions().constLast())
+        << "what is highlighted stays so";
     EXPECT_EQ(menu.menu().size(), menu.menu().sizeHint()) << "every line has its place";
     menu.setItems({quit});
     EXPECT_THAT(texts(), ElementsAre("Quit Ctrl+Q"));
