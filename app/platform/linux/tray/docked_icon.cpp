@@ -170,7 +170,7 @@ bool DockedIcon::handleOwn(const xcb_generic_event_t& event) {
     case XCB_BUTTON_RELEASE: {
         const auto& release = reinterpret_cast<const xcb_button_release_event_t&>(event);
         if (release.event == m_window)
-            m_clicked = release.detail;
+            m_clicks.push_back(release.detail);
         return false;
     }
     default: return false;
@@ -186,8 +186,9 @@ void DockedIcon::reparented(xcb_window_t parent) {
 void DockedIcon::drained() {
     if (std::exchange(m_hasToPaint, false))
         paint();
+    m_x11->flush();
     tellShown();
-    if (const int button = std::exchange(m_clicked, 0); button != 0)
+    for (const int button : std::exchange(m_clicks, {}))
         m_content.clicked(button);
 }
 
@@ -251,7 +252,7 @@ void DockedIcon::dropWindow() {
     xcb_free_colormap(m_x11->xcb(), m_colours);
     m_window = XCB_NONE;
     m_isTakenIn = m_isMapped = m_hasToPaint = false;
-    m_clicked = 0;
+    m_clicks.clear();
 }
 
 } // namespace quillon

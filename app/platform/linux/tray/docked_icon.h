@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quillon {
 
@@ -64,7 +65,7 @@ class DockedIcon {
     bool m_isTakenIn = false;
     bool m_isMapped = false;
     bool m_hasToPaint = false;
-    int m_clicked = 0; ///< button that was let go; 0 for none
+    std::vector<int> m_clicks; ///< the buttons that were let go since that was told
     bool m_wasShown = false;
     Event<> m_shownChanged;
     Subscription m_managerChange;
