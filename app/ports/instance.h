@@ -15,6 +15,7 @@ struct InstanceRequests {
     std::function<void()> showSample;
     std::function<void()> quit;
     std::function<Watching()> watching;
+    std::function<bool()> isInTray; ///< a tray shows its icon
 };
 
 /// Keeps this program the only one of its kind in the session, and passes on what others ask of it.

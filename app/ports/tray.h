@@ -4,7 +4,7 @@
 #include "appearance.h"
 
 #include <quillon/kit/base/subscription.h>
-#include <quillon/kit/shortcut/shortcut.h>
+#include <quillon/kit/shortcut/key.h>
 
 #include <functional>
 #include <optional>
@@ -21,18 +21,23 @@ struct TrayMenuItem {
         separator
     };
 
+    int id = 0; ///< positive, of no other line of the menu; the same for as long as the line is the same
     Kind kind = Kind::command;
-    std::string label = {};                ///< shown as it is; an ampersand is nothing special
-    std::optional<Shortcut> shortcut = {}; ///< shown beside a command; absent for none
-    std::function<void()> chosen = [] {};  ///< what a command does
+    std::string label = {}; ///< shown as it is; an ampersand or an underscore is nothing special
+    /// Shown beside a command, with the platform's own modifier for commands (Ctrl, or ⌘ on macOS); absent
+    /// for none.
+    std::optional<Key> key = {};
+
+    bool operator==(const TrayMenuItem&) const = default;
 };
 
-/// What stands in the tray.
+/// What stands in the tray, and what is done with it there.
 struct TrayPresence {
     std::string name;      ///< of the program, for a tip and for screen readers
     std::string themeIcon; ///< in the icon theme, where trays colour it themselves
     /// The icon for a tray of this scheme, a square of so many device pixels.
     std::function<IconPixels(ColourScheme tray, int size)> draw;
+    std::function<void(int id)> chosen;   ///< a command of the menu, by its `id`
     std::function<void()> secondaryClick; ///< the middle button
 };
 
@@ -42,6 +47,7 @@ class Tray {
   public:
     virtual ~Tray() = default;
 
+    /// Once.
     virtual void show(TrayPresence presence) = 0;
     /// The menu from now on, also while it is open.
     virtual void setMenu(std::vector<TrayMenuItem> items) = 0;

@@ -5,7 +5,6 @@
 #include "toast_content.h"
 
 #include <QApplication>
-#include <QCursor>
 
 #include <unistd.h>
 
@@ -41,7 +40,12 @@ Program::Program(Platform& platform)
                                               .dataFolder = platform.dataFolder(),
                                               .ownPid = getpid(),
                                           }),
-      m_tray(m_model, m_themes, [] { QApplication::quit(); }),
+      m_tray(
+          m_model, m_desktop->tray(),
+          {.showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
+           .openWindow = [this](WindowName name) { m_model.requestWindow(name); },
+           .checkForUpdates = [] {},
+           .quit = [] { QApplication::quit(); }}),
       m_windowOffers(offerWindows(m_windows, {m_model, m_themes, m_icons, *m_desktop})),
       m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {
     const auto applyKeyLabels = [this] { m_themes.setKeyLabels(m_settings.keyLabels()); };
@@ -65,6 +69,7 @@ InstanceRequests Program::requests() {
         .showSample = [this] { showSample(); },
         .quit = [] { QApplication::quit(); },
         .watching = [this] { return m_model.watching(); },
+        .isInTray = [this] { return m_desktop->tray().isShown(); },
     };
 }
 
@@ -89,7 +94,7 @@ void Program::activate() {
     if (m_welcome.isDue())
         return;
     if (m_model.onboarded() && m_model.trusted())
-        m_tray.popUp(QCursor::pos());
+        m_desktop->tray().popUpMenu();
     else
         m_model.requestWindow(WindowName::welcome);
 }

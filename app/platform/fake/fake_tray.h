@@ -24,6 +24,8 @@ class FakeTray final : public Tray {
         if (std::exchange(m_isThere, there) != there)
             m_changed.emit();
     }
+    /// The user chooses a command of the menu.
+    void choose(int id) const { m_presence->chosen(id); }
     const std::optional<TrayPresence>& presence() const { return m_presence; }
     const std::vector<TrayMenuItem>& menu() const { return m_menu; }
     int poppedUp() const { return m_poppedUp; }

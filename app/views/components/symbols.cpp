@@ -115,8 +115,4 @@ QPixmap productMark(int size, double ratio) {
     return kept(key, [&] { return rendered(u":/quillon/app.quillon.Quillon.svg"_s, size, ratio); });
 }
 
-QPixmap traySign(int size, const QColor& colour) {
-    return tinted(rendered(u":/quillon/app.quillon.Quillon-symbolic.svg"_s, size, 1), colour);
-}
-
 } // namespace quillon

@@ -74,7 +74,4 @@ QPixmap symbolPixmap(
 /// The program's mark in its own colours, `size` logical pixels square. Drawn once and then kept.
 QPixmap productMark(int size, double ratio);
 
-/// The program's sign for the tray in one colour, `size` device pixels square.
-QPixmap traySign(int size, const QColor& colour);
-
 } // namespace quillon

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <quillon/app/views/components/palette.h>
-
-#include <QIcon>
+#include <quillon/app/ports/app_icons.h>
+#include <quillon/app/ports/appearance.h>
 
 namespace quillon {
 
-/// The program's sign in the tray: from the icon theme where it is installed, so that the panel may colour
-/// it; else drawn to stand out in this colour scheme.
-QIcon trayIcon(ColourScheme scheme);
+/// The program's sign in the icon theme, for trays that colour it themselves.
+inline constexpr const char* trayIconName = "app.quillon.Quillon-symbolic";
 
-/// The program's mark in colour.
-QIcon productIcon();
+/// The program's sign, `size` device pixels square, to stand out in a tray of this scheme.
+IconPixels trayIcon(ColourScheme tray, int size);
 
 } // namespace quillon

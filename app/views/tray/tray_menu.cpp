@@ -1,61 +1,60 @@
 #include "tray_menu.h"
 
+#include "tray_icon.h"
 #include "tray_texts.h"
 
-#include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/text.h>
 
 #include <utility>
 
 namespace quillon {
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-/// In a menu an ampersand marks the next letter; two stand for one.
-QString menuText(QString text) {
-    return text.replace(u'&', u"&&"_s);
+TrayMenu::TrayMenu(AppModel& model, Tray& tray, TrayActions actions)
+    : m_model(model), m_tray(tray), m_actions(std::move(actions)) {
+    m_modelChange = model.changed.subscribe([this](ModelField field) {
+        if (field == ModelField::trusted || field == ModelField::current || field == ModelField::trigger)
+            update();
+    });
+    update();
 }
 
-} // namespace
-
-TrayMenu::TrayMenu(AppModel& model, ThemeSource& themes, std::function<void()> quit)
-    : m_model(model), m_quit(std::move(quit)),
-      m_item(
-          m_menu, themes,
-          {.openMenu = [this](QPoint place) { popUp(place); },
-           .showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); }}) {
-    build();
-    m_modelChange = model.changed.subscribe([this](ModelField) { modelChanged(); });
-    modelChanged();
+void TrayMenu::show() {
+    m_tray.show({
+        .name = utf8(TrayTexts::programName()),
+        .themeIcon = trayIconName,
+        .draw = trayIcon,
+        .chosen = [this](int id) { choose(static_cast<TrayLine>(id)); },
+        .secondaryClick = [this] { m_actions.showOverlay(); },
+    });
 }
 
-TrayMenu::~TrayMenu() = default;
-
-void TrayMenu::build() {
-    m_allow = addWindowItem(TrayTexts::allowAccessibility(), WindowName::welcome);
-    m_allowSeparator = m_menu.addSeparator();
-    m_show = m_menu.addAction(QString(), this, [this] { m_model.showOverlay(Stickiness::sticky); });
-    m_hint = m_menu.addAction(QString());
-    m_hint->setEnabled(false);
-    m_menu.addSeparator();
-    QAction* const quit = m_menu.addAction(TrayTexts::quit(), this, [this] { m_quit(); });
-    quit->setShortcut(QKeySequence::Quit);
-}
-
-QAction* TrayMenu::addWindowItem(const QString& label, WindowName window) {
-    return m_menu.addAction(label, this, [this, window] { m_model.requestWindow(window); });
-}
-
-void TrayMenu::modelChanged() {
-    m_allow->setVisible(!m_model.trusted());
-    m_allowSeparator->setVisible(!m_model.trusted());
+void TrayMenu::update() {
     const auto& current = m_model.current();
-    m_show->setText(
-        current ? TrayTexts::showShortcutsFor(menuText(foreignLine(current->appName)))
-                : TrayTexts::showShortcuts());
-    m_hint->setText(TrayTexts::holdHint(text(glyph(m_model.trigger()))));
+    auto lines = trayLines({
+        .trusted = m_model.trusted(),
+        .appName = current ? std::optional(current->appName) : std::nullopt,
+        .trigger = m_model.trigger(),
+    });
+    if (lines == m_lines)
+        return;
+    m_lines = std::move(lines);
+    m_tray.setMenu(m_lines);
+}
+
+void TrayMenu::choose(TrayLine line) const {
+    switch (line) {
+    case TrayLine::allowAccessibility: m_actions.openWindow(WindowName::welcome); break;
+    case TrayLine::showShortcuts: m_actions.showOverlay(); break;
+    case TrayLine::practice: m_actions.openWindow(WindowName::practice); break;
+    case TrayLine::library: m_actions.openWindow(WindowName::library); break;
+    case TrayLine::settings: m_actions.openWindow(WindowName::settings); break;
+    case TrayLine::checkForUpdates: m_actions.checkForUpdates(); break;
+    case TrayLine::quit: m_actions.quit(); break;
+    case TrayLine::separatorBelowAllow:
+    case TrayLine::holdHint:
+    case TrayLine::separatorBelowShortcuts:
+    case TrayLine::separatorBelowWindows: break;
+    }
 }
 
 } // namespace quillon

@@ -1,48 +1,39 @@
 #pragma once
 
-#include "tray_item.h"
+#include "tray_lines.h"
 
 #include <quillon/app/core/app_model.h>
-#include <quillon/app/views/components/theme_source.h>
-
-#include <QAction>
-#include <QMenu>
-#include <QObject>
+#include <quillon/app/ports/tray.h>
 
 #include <functional>
 
 namespace quillon {
 
-/// The program's menu, and the item in the tray that it belongs to.
-class TrayMenu : public QObject {
-    Q_OBJECT
+/// What the menu's commands do.
+struct TrayActions {
+    std::function<void()> showOverlay; ///< to stay open
+    std::function<void(WindowName)> openWindow;
+    std::function<void()> checkForUpdates;
+    std::function<void()> quit;
+};
 
+/// The program's icon in the tray, and its menu, which follows the model.
+class TrayMenu {
   public:
-    /// `quit` ends the program. Both outlive the menu.
-    TrayMenu(AppModel& model, ThemeSource& themes, std::function<void()> quit);
-    ~TrayMenu() override;
+    /// `model` and `tray` outlive it.
+    TrayMenu(AppModel& model, Tray& tray, TrayActions actions);
 
-    /// Puts the item into the tray.
-    void show() { m_item.show(); }
-    /// Opens the menu at a point of the screen.
-    void popUp(QPoint place) { m_menu.popup(place); }
-
-    QMenu& menu() { return m_menu; }
-    TrayItem& item() { return m_item; }
+    /// Puts the icon into the tray.
+    void show();
 
   private:
-    void build();
-    void modelChanged();
-    QAction* addWindowItem(const QString& label, WindowName window);
+    void update();
+    void choose(TrayLine line) const;
 
     AppModel& m_model;
-    std::function<void()> m_quit;
-    QMenu m_menu;
-    TrayItem m_item;
-    QAction* m_allow = nullptr;
-    QAction* m_allowSeparator = nullptr;
-    QAction* m_show = nullptr;
-    QAction* m_hint = nullptr;
+    Tray& m_tray;
+    TrayActions m_actions;
+    std::vector<TrayMenuItem> m_lines; ///< as the tray has them
     Subscription m_modelChange;
 };
 

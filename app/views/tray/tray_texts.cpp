@@ -24,6 +24,22 @@ QString holdHint(const QString& triggerGlyph) {
     return QCoreApplication::translate("Tray", "Or hold %1 in any app").arg(triggerGlyph);
 }
 
+QString practice() {
+    return QCoreApplication::translate("Tray", "Practice");
+}
+
+QString library() {
+    return QCoreApplication::translate("Tray", "Library…");
+}
+
+QString settings() {
+    return QCoreApplication::translate("Tray", "Settings");
+}
+
+QString checkForUpdates() {
+    return QCoreApplication::translate("Tray", "Check for Updates…");
+}
+
 QString quit() {
     return QCoreApplication::translate("Tray", "Quit Quillon");
 }

@@ -15,6 +15,10 @@ QString showShortcuts();
 QString showShortcutsFor(const QString& appName);
 /// "Or hold ⌘ in any app"
 QString holdHint(const QString& triggerGlyph);
+QString practice();
+QString library();
+QString settings();
+QString checkForUpdates();
 QString quit();
 
 } // namespace TrayTexts

@@ -126,10 +126,14 @@ Check compositor(const DesktopFacts& facts) {
 }
 
 Check trayHost(const DesktopFacts& facts) {
-    if (facts.trayHost)
-        return checked(Doctor::tr("Tray"), Result::good, Doctor::tr("shows icons"), QString());
+    if (facts.inTray == true)
+        return checked(Doctor::tr("Tray"), Result::good, Doctor::tr("shows Quillon’s icon"), QString());
+    if (facts.trayHost && !facts.inTray)
+        return checked(Doctor::tr("Tray"), Result::good, Doctor::tr("can show Quillon’s icon"), QString());
     return checked(
-        Doctor::tr("Tray"), Result::limited, Doctor::tr("there is none"),
+        Doctor::tr("Tray"), Result::limited,
+        facts.trayHost ? Doctor::tr("there is one, which does not show Quillon’s icon")
+                       : Doctor::tr("there is none"),
         Doctor::tr("Start quillon again to reach its menu, or use `quillon show` and `quillon quit`."));
 }
 

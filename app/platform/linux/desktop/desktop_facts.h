@@ -24,7 +24,9 @@ struct DesktopFacts {
     bool shapeExtension = false;
     std::optional<std::string> windowManager; ///< its name; absent when none tells the active window
     bool compositor = false;
-    bool trayHost = false;
+    bool trayHost = false; ///< there is a tray
+    /// The running instance's icon is in a tray that shows it; absent when it does not tell.
+    std::optional<bool> inTray = {};
     /// The names of GTK 2 programs that have windows and are not on the accessibility bus.
     std::vector<std::string> silentGtk2Programs = {};
     std::optional<RunningApp> front;

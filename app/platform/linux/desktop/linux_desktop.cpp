@@ -7,6 +7,7 @@
 #include <quillon/app/platform/linux/applications/xdg_app_icons.h>
 #include <quillon/app/platform/linux/atspi/open_menus.h>
 #include <quillon/app/platform/linux/look/xdg_appearance.h>
+#include <quillon/app/platform/linux/tray/linux_tray.h>
 #include <quillon/app/platform/linux/x11/raw_input.h>
 #include <quillon/app/platform/linux/x11/root_event_brake.h>
 #include <quillon/app/platform/linux/x11/x11_connection.h>
@@ -59,7 +60,8 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
       m_icons(std::make_unique<XdgAppIcons>(m_identifier)), m_x11(X11Connection::open()),
       m_brake(m_x11 ? std::make_unique<RootEventBrake>() : nullptr),
       m_input(m_x11 ? std::make_shared<RawInput>(m_x11) : nullptr),
-      m_panelWindows(panelWindows(m_x11, m_input)), m_panels(*m_panelWindows) {
+      m_panelWindows(panelWindows(m_x11, m_input)), m_panels(*m_panelWindows),
+      m_tray(std::make_unique<LinuxTray>(sessionBus, m_x11, *m_appearance)) {
     if (!m_x11) {
         qCInfo(logInput) << "there is no X server: held keys are not noticed";
         return;

@@ -41,7 +41,7 @@ class LinuxDesktop final : public Desktop {
     Appearance& appearance() override { return *m_appearance; }
     PanelMaker& panels() override { return m_panels; }
     Foreground& foreground() override;
-    Tray& tray() override { return m_none.tray; }
+    Tray& tray() override { return *m_tray; }
     SessionStart& sessionStart() override { return m_none.sessionStart; }
     LauncherKey& launcherKey() override { return m_none.launcherKey; }
     SilentApps& silentApps() override { return m_none.silentApps; }
@@ -65,6 +65,7 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<X11Keyboard> m_keyboard;
     std::unique_ptr<X11TypedKeys> m_typedKeys;
     std::unique_ptr<MenuUse> m_menuUse;
+    std::unique_ptr<Tray> m_tray;
     Subscription m_activations;
 };
 

@@ -73,6 +73,7 @@ std::vector<Check> LinuxDiagnosis::checks() {
         .windowManager = x11.windowManager,
         .compositor = x11.compositor,
         .trayHost = x11.tray || hasTrayHost(m_session.connection()),
+        .inTray = BusRunningProgram(m_session).isInTray(),
         .silentGtk2Programs = silentGtk2Programs(bus),
         .front = m_applications.front(),
         .instanceRunning = m_session.found().isOwned,

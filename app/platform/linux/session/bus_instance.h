@@ -42,6 +42,7 @@ class BusInstance final : public QObject, public Instance {
     Q_SCRIPTABLE bool IsWatching() { return watching().holds; }
     Q_SCRIPTABLE bool IsWatchingClicks() { return watching().clicks; }
     Q_SCRIPTABLE bool IsWatchingTyping() { return watching().typing; }
+    Q_SCRIPTABLE bool IsInTray() { return m_requests.isInTray && m_requests.isInTray(); }
 
   private Q_SLOTS:
     void lookForBus();

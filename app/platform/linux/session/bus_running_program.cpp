@@ -47,6 +47,17 @@ RunningProgram::Answer BusRunningProgram::ask(ProgramRequest request) {
     return isNobodyThere(answer.errorName()) ? Answer::notRunning : Answer::silent;
 }
 
+std::optional<bool> BusRunningProgram::askWhether(const QString& question) const {
+    const QDBusMessage answer = call(question);
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty())
+        return std::nullopt;
+    return answer.arguments().constFirst().toBool();
+}
+
+std::optional<bool> BusRunningProgram::isInTray() const {
+    return m_bus.answers() ? askWhether(QStringLiteral("IsInTray")) : std::nullopt;
+}
+
 std::optional<Watching> BusRunningProgram::watching() const {
     if (!m_bus.answers())
         return std::nullopt;
@@ -57,10 +68,10 @@ std::optional<Watching> BusRunningProgram::watching() const {
         {"IsWatchingTyping", &watching.typing},
     }};
     for (const auto& [question, result] : questions) {
-        const QDBusMessage answer = call(QLatin1StringView(question));
-        if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty())
+        const auto answer = askWhether(QLatin1StringView(question));
+        if (!answer)
             return std::nullopt;
-        *result = answer.arguments().constFirst().toBool();
+        *result = *answer;
     }
     return watching;
 }

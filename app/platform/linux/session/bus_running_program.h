@@ -21,9 +21,12 @@ class BusRunningProgram final : public RunningProgram {
 
     /// What it notices at this moment; absent when it does not run or does not answer. Waits within bounds.
     std::optional<Watching> watching() const;
+    /// Whether a tray shows its icon; absent likewise.
+    std::optional<bool> isInTray() const;
 
   private:
     QDBusMessage call(const QString& operation) const;
+    std::optional<bool> askWhether(const QString& question) const;
 
     const SessionBus& m_bus;
 };

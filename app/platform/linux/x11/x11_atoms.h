@@ -10,6 +10,7 @@ namespace quillon {
 enum class X11Name {
     gtkApplicationID,
     gtkWorkAreas, ///< of the first workspace
+    manager,      ///< a message: another client manages something now
     netActiveWindow,
     netClientList,
     netClientListStacking,
@@ -17,6 +18,9 @@ enum class X11Name {
     netStartupInfoBegin,
     netSupported,
     netSupportingWmCheck,
+    netSystemTrayColors,
+    netSystemTrayOpcode,
+    netSystemTrayVisual,
     netWmDesktop,
     netWmIcon,
     netWmName,
@@ -36,11 +40,13 @@ enum class X11Name {
     netWmWindowTypeTooltip,
     netWorkArea,
     utf8String,
+    xembedInfo,
 };
 
-inline constexpr std::array<std::string_view, 28> x11Names{
+inline constexpr std::array<std::string_view, 33> x11Names{
     "_GTK_APPLICATION_ID",
     "_GTK_WORKAREAS_D0",
+    "MANAGER",
     "_NET_ACTIVE_WINDOW",
     "_NET_CLIENT_LIST",
     "_NET_CLIENT_LIST_STACKING",
@@ -48,6 +54,9 @@ inline constexpr std::array<std::string_view, 28> x11Names{
     "_NET_STARTUP_INFO_BEGIN",
     "_NET_SUPPORTED",
     "_NET_SUPPORTING_WM_CHECK",
+    "_NET_SYSTEM_TRAY_COLORS",
+    "_NET_SYSTEM_TRAY_OPCODE",
+    "_NET_SYSTEM_TRAY_VISUAL",
     "_NET_WM_DESKTOP",
     "_NET_WM_ICON",
     "_NET_WM_NAME",
@@ -67,8 +76,9 @@ inline constexpr std::array<std::string_view, 28> x11Names{
     "_NET_WM_WINDOW_TYPE_TOOLTIP",
     "_NET_WORKAREA",
     "UTF8_STRING",
+    "_XEMBED_INFO",
 };
 
-static_assert(x11Names.size() == static_cast<std::size_t>(X11Name::utf8String) + 1);
+static_assert(x11Names.size() == static_cast<std::size_t>(X11Name::xembedInfo) + 1);
 
 } // namespace quillon

@@ -154,9 +154,8 @@ TEST(Symbols, ColoursSizesAndScreensAreKeptApart) {
     EXPECT_EQ(symbolPixmap(Symbol::pinFill, 20, Qt::red, 1).toImage(), red);
 }
 
-TEST(Symbols, TheProductsMarkAndTheTraysSignAreDrawn) {
+TEST(Symbols, TheProductsMarkIsDrawn) {
     EXPECT_GT(drawnPixels(productMark(42, 1).toImage()), 800);
-    EXPECT_GT(drawnPixels(traySign(22, Qt::white).toImage()), 60);
 }
 
 } // namespace

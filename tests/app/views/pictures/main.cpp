@@ -1,8 +1,10 @@
 #include "cap_pictures.h"
 #include "scenes.h"
 #include "symbol_pictures.h"
+#include "tray_pictures.h"
 
 #include <quillon/app/languages/translations.h>
+#include <quillon/app/platform/qt/menus/pop_up_menu.h>
 #include <quillon/app/views/components/text.h>
 
 #include <QApplication>
@@ -50,21 +52,36 @@ bool draw(const Scene& scene, const Look& look, KeyLabels keys, const QString& p
     return panel && onDesktop(*panel, look.scheme).save(path);
 }
 
+bool drawTrayMenu(const TrayMenuScene& scene, const Look& look, const QString& path) {
+    ViewDesk desk; // gives the toolkit the look
+    desk.desktop.appearance.set(look);
+    PopUpMenu menu([](int) {});
+    menu.setItems(trayLines(scene.facts));
+    menu.popUp({0, 0});
+    QApplication::processEvents();
+    return onDesktop(menu.menu(), look.scheme).save(path);
+}
+
 int drawAll(const QString& folder, const QString& only, KeyLabels keys, Look look) {
     std::vector<Scene> scenes = overlayScenes();
     std::ranges::move(toastScenes(), std::back_inserter(scenes));
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
         look.scheme = scheme;
         const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;
-        for (const Scene& scene : scenes) {
-            if (!scene.name.contains(only))
-                continue;
-            const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);
-            if (!draw(scene, look, keys, path)) {
+        const auto drawEach = [&](const auto& ofKind, auto drawOne) {
+            return std::ranges::all_of(ofKind, [&](const auto& scene) {
+                const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);
+                if (!scene.name.contains(only) || drawOne(scene, look, path))
+                    return true;
                 QTextStream(stderr) << "cannot draw " << path << Qt::endl;
-                return 1;
-            }
-        }
+                return false;
+            });
+        };
+        const auto drawScene = [keys](const Scene& scene, const Look& in, const QString& path) {
+            return draw(scene, in, keys, path);
+        };
+        if (!drawEach(scenes, drawScene) || !drawEach(trayMenuScenes(), drawTrayMenu))
+            return 1;
     }
     return 0;
 }
@@ -79,6 +96,14 @@ int drawCaps(const QString& folder, const Look& look) {
         }
     }
     return 0;
+}
+
+int drawTrayIcons(const QString& folder) {
+    const QString path = QDir(folder).filePath(u"tray-icons.png"_s);
+    if (trayIconPicture(4).save(path))
+        return 0;
+    QTextStream(stderr) << "cannot draw " << path << Qt::endl;
+    return 1;
 }
 
 /// The symbols from left to right in light colours, and from right to left in dark ones.
@@ -117,7 +142,8 @@ int main(int argc, char** argv) {
     const QCommandLineOption language(u"language"_s, u"What is spoken: de."_s, u"language"_s, u"en"_s);
     const QCommandLineOption caps(u"caps"_s, u"Only the key caps, enlarged, at four scales."_s);
     const QCommandLineOption symbols(u"symbols"_s, u"Only the symbols, enlarged, at two scales."_s);
-    parser.addOptions({only, family, points, keys, language, caps, symbols});
+    const QCommandLineOption trayIcons(u"tray-icons"_s, u"Only the tray's icon, enlarged, at all sizes."_s);
+    parser.addOptions({only, family, points, keys, language, caps, symbols, trayIcons});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1 || !QDir().mkpath(parser.positionalArguments().first()))
@@ -133,6 +159,8 @@ int main(int argc, char** argv) {
         return drawCaps(parser.positionalArguments().first(), look);
     if (parser.isSet(symbols))
         return drawSymbols(parser.positionalArguments().first(), look);
+    if (parser.isSet(trayIcons))
+        return drawTrayIcons(parser.positionalArguments().first());
     return drawAll(
         parser.positionalArguments().first(), parser.value(only),
         parser.value(keys) == "names"_L1 ? KeyLabels::names : KeyLabels::symbols, look);

@@ -1,122 +1,89 @@
-#include <quillon/app/views/tray/tray_icon.h>
 #include <quillon/app/views/tray/tray_menu.h>
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/tests/app/views/support/many_entries.h>
-#include <quillon/tests/app/views/support/printing.h>
 #include <quillon/tests/app/views/support/view_desk.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QApplication>
-
 namespace quillon {
 namespace {
 
-using namespace Qt::StringLiterals;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class TrayMenuTest : public testing::Test {
   protected:
-    /// What the open menu reads; separators as "-", items that cannot be chosen in brackets.
-    QStringList items() {
-        QStringList read;
-        for (const QAction* action : tray.menu().actions()) {
-            if (!action->isVisible())
-                continue;
-            if (action->isSeparator())
-                read.append(u"-"_s);
-            else
-                read.append(action->isEnabled() ? action->text() : u"["_s + action->text() + u"]"_s);
-        }
-        return read;
+    std::string label(TrayLine line) const {
+        for (const TrayMenuItem& item : desk.desktop.tray.menu())
+            if (item.id == static_cast<int>(line))
+                return item.label;
+        return "no such line";
     }
-    void choose(const QString& item) {
-        for (QAction* action : tray.menu().actions()) {
-            if (action->text() == item && action->isVisible()) {
-                action->trigger();
-                return;
-            }
-        }
-        FAIL() << "no item " << item.toStdString();
-    }
+    void choose(TrayLine line) { desk.desktop.tray.choose(static_cast<int>(line)); }
 
     ViewDesk desk;
-    int quits = 0;
-    TrayMenu tray{desk.model, desk.themes, [this] { ++quits; }};
+    std::vector<std::string> done;
+    std::vector<WindowName> opened;
+    TrayMenu tray{
+        desk.model,
+        desk.desktop.tray,
+        {.showOverlay = [this] { done.emplace_back("overlay"); },
+         .openWindow = [this](WindowName name) { opened.push_back(name); },
+         .checkForUpdates = [this] { done.emplace_back("updates"); },
+         .quit = [this] { done.emplace_back("quit"); }}};
 };
 
-TEST_F(TrayMenuTest, WithoutPermissionItBeginsWithAskingForIt) {
-    EXPECT_THAT(
-        items(), ElementsAre(
-                     u"Allow Accessibility…"_s, u"-"_s, u"Show Shortcuts"_s, u"[Or hold ⌘ in any app]"_s,
-                     u"-"_s, u"Quit Quillon"_s));
-    choose(u"Allow Accessibility…"_s);
-    EXPECT_THAT(desk.desktop.windows.opened(), ElementsAre(WindowName::welcome));
-}
-
-TEST_F(TrayMenuTest, NamesTheApplicationInFront) {
-    desk.trust();
-    EXPECT_THAT(
-        items(), ElementsAre(u"Show Shortcuts"_s, u"[Or hold ⌘ in any app]"_s, u"-"_s, u"Quit Quillon"_s));
-    desk.showSample();
-    EXPECT_EQ(items().first(), u"Show Shortcuts for Sketchpad"_s);
-    desk.show(emptySheet("Drag & Drop"));
-    EXPECT_EQ(items().first(), u"Show Shortcuts for Drag && Drop"_s) << "drawn with one ampersand";
-}
-
-TEST_F(TrayMenuTest, TheHintFollowsTheTriggerKey) {
-    desk.model.setTrigger(TriggerKey::option);
-    EXPECT_THAT(items(), testing::Contains(u"[Or hold ⌥ in any app]"_s));
-}
-
-TEST_F(TrayMenuTest, ShowsTheOverlayToStay) {
-    desk.trust();
-    desk.showSample();
-    choose(u"Show Shortcuts for Sketchpad"_s);
-    EXPECT_TRUE(desk.model.overlayVisible());
-    EXPECT_TRUE(desk.model.overlaySticky());
-}
-
-TEST_F(TrayMenuTest, QuitsOnlyOnRequest) {
+TEST_F(TrayMenuTest, TheTrayHasTheMenuBeforeTheIcon) {
+    EXPECT_EQ(desk.desktop.tray.menu(), trayLines({.trusted = false, .appName = {}}));
+    EXPECT_FALSE(desk.desktop.tray.presence());
     tray.show();
-    QApplication::processEvents();
-    EXPECT_EQ(quits, 0) << "even without a tray";
-    choose(u"Quit Quillon"_s);
-    EXPECT_EQ(quits, 1);
+    ASSERT_TRUE(desk.desktop.tray.presence());
+    EXPECT_EQ(desk.desktop.tray.presence()->name, "Quillon");
+    EXPECT_EQ(desk.desktop.tray.presence()->themeIcon, "app.quillon.Quillon-symbolic");
 }
 
-TEST_F(TrayMenuTest, TheIconStandsOutInBothSchemes) {
-    const auto lightest = [](ColourScheme scheme) {
-        const QImage image = trayIcon(scheme).pixmap(22, 22).toImage();
-        int most = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (qAlpha(image.pixel(x, y)) > 200)
-                    most = std::max(most, qGray(image.pixel(x, y)));
-            }
-        }
-        return most;
-    };
-    EXPECT_GT(lightest(ColourScheme::dark), 200);
-    EXPECT_LT(lightest(ColourScheme::light), 80);
-}
-
-TEST_F(TrayMenuTest, AClickOpensTheMenu) {
-    tray.item().clicked(QSystemTrayIcon::Trigger);
-    EXPECT_TRUE(tray.menu().isVisible());
-    tray.menu().close();
-    tray.item().clicked(QSystemTrayIcon::Context);
-    EXPECT_FALSE(tray.menu().isVisible()) << "the tray does it";
-}
-
-TEST_F(TrayMenuTest, AClickWithTheMiddleButtonShowsTheOverlayToStay) {
+TEST_F(TrayMenuTest, FollowsThePermissionTheApplicationAndTheTriggerAtOnce) {
     desk.trust();
+    EXPECT_EQ(label(TrayLine::allowAccessibility), "no such line");
+    EXPECT_EQ(label(TrayLine::showShortcuts), "Show Shortcuts");
     desk.showSample();
-    tray.item().clicked(QSystemTrayIcon::MiddleClick);
-    EXPECT_TRUE(desk.model.overlayVisible());
-    EXPECT_TRUE(desk.model.overlaySticky());
-    EXPECT_FALSE(tray.menu().isVisible());
+    EXPECT_EQ(label(TrayLine::showShortcuts), "Show Shortcuts for Sketchpad");
+    desk.show(emptySheet("Terminal"));
+    EXPECT_EQ(label(TrayLine::showShortcuts), "Show Shortcuts for Terminal");
+    desk.model.setTrigger(TriggerKey::option);
+    EXPECT_EQ(label(TrayLine::holdHint), "Or hold ⌥ in any app");
+    desk.desktop.access.setTrusted(false);
+    desk.model.refreshTrust();
+    EXPECT_EQ(label(TrayLine::allowAccessibility), "Allow Accessibility…");
+}
+
+TEST_F(TrayMenuTest, EveryCommandDoesItsWork) {
+    tray.show();
+    for (const TrayLine line :
+         {TrayLine::allowAccessibility, TrayLine::practice, TrayLine::library, TrayLine::settings})
+        choose(line);
+    EXPECT_THAT(
+        opened,
+        ElementsAre(WindowName::welcome, WindowName::practice, WindowName::library, WindowName::settings));
+    EXPECT_THAT(done, IsEmpty());
+    for (const TrayLine line : {TrayLine::showShortcuts, TrayLine::checkForUpdates, TrayLine::quit})
+        choose(line);
+    EXPECT_THAT(done, ElementsAre("overlay", "updates", "quit"));
+}
+
+TEST_F(TrayMenuTest, WhatIsNoCommandDoesNothing) {
+    tray.show();
+    for (const int id : {-1, 0, 1000, static_cast<int>(TrayLine::holdHint)})
+        desk.desktop.tray.choose(id);
+    EXPECT_THAT(done, IsEmpty());
+    EXPECT_THAT(opened, IsEmpty());
+}
+
+TEST_F(TrayMenuTest, AClickWithTheMiddleButtonShowsTheOverlay) {
+    tray.show();
+    desk.desktop.tray.presence()->secondaryClick();
+    EXPECT_THAT(done, ElementsAre("overlay"));
 }
 
 } // namespace

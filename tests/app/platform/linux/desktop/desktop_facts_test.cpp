@@ -20,6 +20,7 @@ DesktopFacts wellDesktop() {
         .windowManager = "Openbox",
         .compositor = true,
         .trayHost = true,
+        .inTray = true,
         .front = RunningApp{10, "geany", "Geany", {}},
         .instanceRunning = true,
         .watching = Watching{.holds = true, .clicks = true, .typing = true},
@@ -82,6 +83,7 @@ TEST(Diagnosis, ADesktopWithoutExtrasIsStillWell) {
     DesktopFacts facts = wellDesktop();
     facts.compositor = false;
     facts.trayHost = false;
+    facts.inTray.reset();
     facts.windowManager.reset();
     facts.front.reset();
     facts.instanceRunning = false;
@@ -89,6 +91,20 @@ TEST(Diagnosis, ADesktopWithoutExtrasIsStillWell) {
         EXPECT_NE(check.result, Check::Result::missing) << check.subject;
     for (const std::string subject : {"Compositor", "Tray", "Window manager", "Front application", "Quillon"})
         EXPECT_NE(checkOf(facts, subject).remedy, "") << subject;
+}
+
+TEST(Diagnosis, OfTheTrayTellsWhatItShowsAndNotWhatItCould) {
+    DesktopFacts facts = wellDesktop();
+    EXPECT_EQ(checkOf(facts, "Tray"), (Check{"Tray", Check::Result::good, "shows Quillon’s icon", ""}));
+    facts.inTray = false;
+    EXPECT_EQ(checkOf(facts, "Tray").result, Check::Result::limited);
+    EXPECT_EQ(checkOf(facts, "Tray").finding, "there is one, which does not show Quillon’s icon");
+    facts.trayHost = false;
+    EXPECT_EQ(checkOf(facts, "Tray").finding, "there is none");
+    facts.inTray.reset();
+    EXPECT_EQ(checkOf(facts, "Tray").finding, "there is none");
+    facts.trayHost = true;
+    EXPECT_EQ(checkOf(facts, "Tray"), (Check{"Tray", Check::Result::good, "can show Quillon’s icon", ""}));
 }
 
 TEST(Diagnosis, AnOldInputExtensionIsMissing) {

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <quillon/app/ports/tray.h>
+
+#include <QMenu>
+#include <QPoint>
+
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace quillon {
+
+/// The tray's menu as a window of our own, for where no tray shows it. Looks as the toolkit's palette says.
+class PopUpMenu {
+  public:
+    /// `chosen` is called with the id of a command, after the menu has closed.
+    explicit PopUpMenu(std::function<void(int id)> chosen);
+
+    /// Lines that stay keep the highlight, should the menu be open.
+    void setItems(const std::vector<TrayMenuItem>& items);
+    /// Opens it at a point of the screen; one that is open moves there.
+    void popUp(QPoint place);
+
+    QMenu& menu() { return m_menu; }
+
+  private:
+    QAction& actionOf(const TrayMenuItem& item);
+    void arrange(const std::vector<TrayMenuItem>& items);
+
+    std::function<void(int)> m_chosen;
+    std::map<int, QAction*> m_actions; ///< by their items' ids; of `m_menu`
+    std::vector<int> m_order;
+    QMenu m_menu;
+};
+
+} // namespace quillon
