@@ -8,6 +8,7 @@ namespace quillon {
 class NoLauncherKey final : public LauncherKey {
   public:
     Modifiers modifier() const override { return {}; }
+    Subscription onChanged(std::function<void()>) override { return {}; }
 };
 
 } // namespace quillon

@@ -258,18 +258,10 @@ void OverlayView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void OverlayView::themeChanged() {
-    m_background.reset();
-    ThemedWidget::themeChanged();
-}
-
 void OverlayView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Palette& palette = theme().palette;
-    if (!m_background || m_background->ratio() != devicePixelRatioF())
-        m_background = roundedBox(cornerRadius, devicePixelRatioF(), palette.window, palette.windowBorder);
-    painter.fillRect(m_background->inside(painter, rect()), palette.window);
-    m_background->paintFrame(painter, rect());
+    m_background.paint(painter, rect(), palette.window, palette.windowBorder);
 }
 
 } // namespace quillon

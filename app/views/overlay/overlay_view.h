@@ -7,12 +7,11 @@
 #include "shortcut_area.h"
 
 #include <quillon/app/core/app_model.h>
-#include <quillon/app/views/components/nine_patch.h>
+#include <quillon/app/views/components/rounded_background.h>
 #include <quillon/app/views/sheet/searched_sheet.h>
 
 #include <QTimer>
 
-#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -46,7 +45,6 @@ class OverlayView : public ThemedWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void themeChanged() override;
 
   private:
     void layOut();
@@ -74,7 +72,7 @@ class OverlayView : public ThemedWidget {
     QTimer m_prepareSearch;
     Subscription m_modelChange;
     Subscription m_recordChange;
-    std::optional<NinePatch> m_background;
+    RoundedBackground m_background{cornerRadius};
 
     SearchedSheet m_sheet;
     std::vector<std::size_t> m_matches;

@@ -78,7 +78,6 @@ void NudgeToastView::arrange() {
 }
 
 void NudgeToastView::themeChanged() {
-    m_background.reset();
     m_fonts = ToastFonts::of(theme());
     m_keys->setSize(m_fonts.keys);
     arrange();
@@ -92,22 +91,13 @@ void NudgeToastView::changeEvent(QEvent* event) {
 }
 
 void NudgeToastView::paintEvent(QPaintEvent*) {
-    const bool isOtherScreen = m_background && m_background->ratio() != devicePixelRatioF();
-    if (isOtherScreen)
+    if (m_background.ratio().value_or(devicePixelRatioF()) != devicePixelRatioF())
         arrange();
     QPainter painter(this);
-    paintBackground(painter);
     const Palette& palette = theme().palette;
+    m_background.paint(painter, rect(), palette.window, palette.windowBorder);
     paintText(painter, m_arrangement.caption, ToastTexts::caption(), m_fonts.caption, palette.secondary);
     paintText(painter, m_arrangement.title, m_arrangement.shownTitle, m_fonts.title, palette.primary);
-}
-
-void NudgeToastView::paintBackground(QPainter& painter) {
-    const Palette& palette = theme().palette;
-    if (!m_background || m_background->ratio() != devicePixelRatioF())
-        m_background = roundedBox(cornerRadius, devicePixelRatioF(), palette.window, palette.windowBorder);
-    painter.fillRect(m_background->inside(painter, rect()), palette.window);
-    m_background->paintFrame(painter, rect());
 }
 
 } // namespace quillon

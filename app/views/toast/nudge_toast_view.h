@@ -4,7 +4,7 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/views/components/keys_view.h>
-#include <quillon/app/views/components/nine_patch.h>
+#include <quillon/app/views/components/rounded_background.h>
 #include <quillon/app/views/components/symbol_view.h>
 #include <quillon/app/views/components/themed_widget.h>
 #include <quillon/kit/menu/menu_entry.h>
@@ -41,7 +41,6 @@ class NudgeToastView : public ThemedWidget {
     void showNudge();
     void arrange();
     void tellAgain();
-    void paintBackground(QPainter& painter);
 
     AppModel& m_model;
     ToastFonts m_fonts;
@@ -49,7 +48,7 @@ class NudgeToastView : public ThemedWidget {
     KeysView* m_keys;
     std::optional<MenuEntry> m_entry;
     ToastLayout m_arrangement;
-    std::optional<NinePatch> m_background;
+    RoundedBackground m_background{cornerRadius};
     Subscription m_modelChange;
 };
 
