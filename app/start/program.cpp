@@ -41,6 +41,14 @@ Program::Program(Platform& platform)
                                                  .dataFolder = platform.dataFolder(),
                                                  .ownPid = getpid(),
                                              }),
+      m_updates({
+          .clock = m_clock,
+          .timers = m_timers,
+          .background = m_background,
+          .themes = m_themes,
+          .pages = m_desktop->softwarePages(),
+          .settingsFile = QString::fromStdString(platform.settingsFile().string()),
+      }),
       m_tray(m_model, m_themes, [] { QApplication::quit(); }) {}
 
 Program::~Program() {
@@ -62,6 +70,7 @@ InstanceRequests Program::requests() {
 void Program::start(FirstShow firstShow) {
     m_model.start();
     m_tray.show();
+    m_updates.start();
     // The first hold should not have to wait for what can be made while nobody waits.
     m_preparation = m_timers.after(Seconds(0), [this] { m_model.preparePanels(); });
     switch (firstShow) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "program_updates.h"
 #include "program_windows.h"
 
 #include <quillon/app/core/app_model.h>
@@ -49,6 +50,7 @@ class Program {
     ViewPanelHost m_panels;
     ProgramWindows m_windows;
     AppModel m_model;
+    ProgramUpdates m_updates;
     TrayMenu m_tray;
     std::unique_ptr<Showcase> m_showcase;
     Subscription m_preparation;

@@ -2,6 +2,7 @@
 
 #include "release_notes_view.h"
 
+#include <quillon/app/core/updates/release.h>
 #include <quillon/app/views/components/text.h>
 
 namespace quillon {
@@ -26,8 +27,9 @@ void ReleaseWindow::addNotes(const Release& release) {
     auto* const notes = new ReleaseNotesView(themes(), release.notes, this);
     notes->setAccessibleName(UpdateTexts::notesName(text(release.shownVersion)));
     notes->setMinimumSize(smallestNotes);
-    connect(
-        notes, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { open(utf8(link.toString(QUrl::FullyEncoded))); });
+    connect(notes, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+        open(utf8(link.toString(QUrl::FullyEncoded)));
+    });
     addContent(notes);
     resize(firstSize);
 }

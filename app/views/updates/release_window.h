@@ -2,12 +2,13 @@
 
 #include "update_window.h"
 
-#include <quillon/app/core/updates/release.h>
 #include <quillon/app/ports/software_pages.h>
 
 #include <string>
 
 namespace quillon {
+
+struct Release;
 
 /// Shows a newer release: its version, what is new, and where to get it.
 class ReleaseWindow : public UpdateWindow {

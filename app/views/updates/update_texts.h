@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillon/app/core/updates/update_notices.h>
+#include <quillon/app/core/updates/update_notice.h>
 
 #include <QString>
 

@@ -18,15 +18,17 @@ ReleaseVersion version(std::string_view text) {
 
 TEST(ReleaseVersionTest, ComesAfterWhatIsOlder) {
     constexpr std::array<std::string_view, 24> rising{
-        "0",         "0.0.1",      "0.1-dev",   "0.1",         "0.2",       "0.9.9",     "0.10",
-        "1.0-1",     "1.0-alpha",  "1.0-alpha.1", "1.0-alpha.2", "1.0-alpha.10", "1.0-alpha.b", "1.0b2",
-        "1.0-beta",  "1.0~rc1",    "1.0rc2",    "1.0-rc.10",   "1.0",       "1.0.1-rc1", "1.0.1",
-        "1.1",       "2.0",        "20240501.1"};
+        "0",           "0.0.1",     "0.1-dev",   "0.1",         "0.2",         "0.9.9",
+        "0.10",        "1.0-1",     "1.0-alpha", "1.0-alpha.1", "1.0-alpha.2", "1.0-alpha.10",
+        "1.0-alpha.b", "1.0b2",     "1.0-beta",  "1.0~rc1",     "1.0rc2",      "1.0-rc.10",
+        "1.0",         "1.0.1-rc1", "1.0.1",     "1.1",         "2.0",         "20240501.1"};
     for (std::size_t older = 0; older < rising.size(); ++older) {
         EXPECT_EQ(version(rising[older]), version(rising[older]));
         for (std::size_t newer = older + 1; newer < rising.size(); ++newer) {
-            EXPECT_LT(version(rising[older]), version(rising[newer])) << rising[older] << " " << rising[newer];
-            EXPECT_GT(version(rising[newer]), version(rising[older])) << rising[older] << " " << rising[newer];
+            EXPECT_LT(version(rising[older]), version(rising[newer]))
+                << rising[older] << " " << rising[newer];
+            EXPECT_GT(version(rising[newer]), version(rising[older]))
+                << rising[older] << " " << rising[newer];
         }
     }
 }
@@ -55,8 +57,8 @@ TEST(ReleaseVersionTest, NumbersMayHaveAnyLength) {
 
 TEST(ReleaseVersionTest, OtherTextsAreNoVersions) {
     for (const std::string_view text :
-         {"", " ", "v", "beta", "-1", ".5", "1,2", "1.2 beta", "1.2/3", "1.2<b>", "1.2\xc3\xa4", "1.2+a_b", "+5",
-          "vv1", "1.2_3"})
+         {"", " ", "v", "beta", "-1", ".5", "1,2", "1.2 beta", "1.2/3", "1.2<b>", "1.2\xc3\xa4", "1.2+a_b",
+          "+5", "vv1", "1.2_3"})
         EXPECT_EQ(ReleaseVersion::fromText(text), std::nullopt) << text;
     EXPECT_TRUE(ReleaseVersion::fromText(std::string(ReleaseVersion::longest, '1')));
     EXPECT_FALSE(ReleaseVersion::fromText(std::string(ReleaseVersion::longest + 1, '1')));
