@@ -10,6 +10,7 @@ ProgramUpdates::ProgramUpdates(const Needs& needs)
     : m_source(releaseSource()), m_memory(needs.settingsFile),
       m_windows({
           .themes = needs.themes,
+          .foreground = needs.foreground,
           .pages = needs.pages,
           .version = m_source.version,
           .dismissed = [this](const std::string& version) { m_memory.setDismissed(version); },

@@ -5,6 +5,7 @@
 #include <quillon/app/core/updates/update_memory.h>
 #include <quillon/app/core/updates/updater.h>
 #include <quillon/app/ports/clock.h>
+#include <quillon/app/ports/foreground.h>
 #include <quillon/app/ports/software_pages.h>
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/updates/update_windows.h>
@@ -21,6 +22,7 @@ class ProgramUpdates {
         Timers& timers;
         Background& background;
         ThemeSource& themes;
+        Foreground& foreground;
         SoftwarePages& pages;
         QString settingsFile;
     };

@@ -81,12 +81,6 @@ void UpdateWindow::add(QPushButton* button, std::function<void()> pressed) {
     m_buttons->addWidget(button);
 }
 
-void UpdateWindow::present() {
-    show();
-    raise();
-    activateWindow();
-}
-
 void UpdateWindow::themeChanged() {
     setPalette(theme().palette.forToolkit());
     m_mark->setPixmap(productMark(markSize, devicePixelRatioF()));

@@ -28,9 +28,6 @@ class UpdateWindow : public QDialog {
     /// The same for the one that the window wants to be pressed, by the Return key too.
     void addProminentButton(const QString& label, std::function<void()> pressed = {});
 
-    /// In front of other windows, with the keyboard.
-    void present();
-
   protected:
     const Theme& theme() const { return m_themes.theme(); }
     ThemeSource& themes() const { return m_themes; }

@@ -23,7 +23,7 @@ void UpdateWindows::tell(UpdateNotice notice) {
                 tellFailure(UpdateTexts::centreNotOpened());
         });
     message.addProminentButton(UpdateTexts::ok());
-    message.present();
+    present(message);
 }
 
 /// The latest message is the one that is true.
@@ -33,17 +33,22 @@ UpdateWindow& UpdateWindows::makeMessage(const UpdateTexts::Message& message) {
     return *m_message;
 }
 
+void UpdateWindows::present(UpdateWindow& window) {
+    window.show();
+    m_needs.foreground.bring(window.winId());
+}
+
 void UpdateWindows::tellFailure(const UpdateTexts::Message& message) {
     UpdateWindow& window = makeMessage(message);
     window.addProminentButton(UpdateTexts::ok());
-    window.present();
+    present(window);
 }
 
 void UpdateWindows::offer(const Release& release, Occasion occasion) {
     const bool isOpen = m_release && m_release->isVisible() && m_release->version() == release.shownVersion;
     ReleaseWindow& window = isOpen ? *m_release : makeReleaseWindow(release);
     if (occasion == Occasion::asked) {
-        window.present();
+        present(window);
     } else if (!isOpen) {
         window.setAttribute(Qt::WA_ShowWithoutActivating);
         window.show();
@@ -53,9 +58,9 @@ void UpdateWindows::offer(const Release& release, Occasion occasion) {
 ReleaseWindow& UpdateWindows::makeReleaseWindow(const Release& release) {
     delete m_release;
     m_release = new ReleaseWindow(m_needs.themes, m_needs.pages, release, m_version);
-    QObject::connect(
-        m_release, &QDialog::finished, m_release,
-        [this, version = release.shownVersion] { m_needs.dismissed(version); });
+    QObject::connect(m_release, &QDialog::finished, m_release, [this, version = release.shownVersion] {
+        m_needs.dismissed(version);
+    });
     QObject::connect(
         m_release, &ReleaseWindow::failed, m_release,
         [this](const UpdateTexts::Message& message) { tellFailure(message); });

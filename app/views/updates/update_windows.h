@@ -1,6 +1,7 @@
 #pragma once
 
 #include <quillon/app/core/updates/update_notices.h>
+#include <quillon/app/ports/foreground.h>
 #include <quillon/app/ports/software_pages.h>
 #include <quillon/app/views/components/theme_source.h>
 
@@ -23,6 +24,7 @@ class UpdateWindows final : public UpdateNotices {
   public:
     struct Needs {
         ThemeSource& themes;
+        Foreground& foreground;
         SoftwarePages& pages;
         std::string version; ///< this program's
         /// The user has seen this release and closed its window, whatever was pressed in it.
@@ -38,6 +40,7 @@ class UpdateWindows final : public UpdateNotices {
   private:
     UpdateWindow& makeMessage(const UpdateTexts::Message& message);
     ReleaseWindow& makeReleaseWindow(const Release& release);
+    void present(UpdateWindow& window);
     void tellFailure(const UpdateTexts::Message& message);
 
     Needs m_needs;

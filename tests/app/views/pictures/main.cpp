@@ -1,6 +1,7 @@
 #include "cap_pictures.h"
 #include "scenes.h"
 #include "symbol_pictures.h"
+#include "update_scenes.h"
 
 #include <quillon/app/views/components/text.h>
 
@@ -51,6 +52,7 @@ bool draw(const Scene& scene, const Look& look, const QString& path) {
 int drawAll(const QString& folder, const QString& only, Look look) {
     std::vector<Scene> scenes = overlayScenes();
     std::ranges::move(toastScenes(), std::back_inserter(scenes));
+    std::ranges::move(updateScenes(), std::back_inserter(scenes));
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
         look.scheme = scheme;
         const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;

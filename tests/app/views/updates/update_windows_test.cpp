@@ -1,5 +1,6 @@
 #include <quillon/app/core/updates/release.h>
 #include <quillon/app/platform/fake/fake_appearance.h>
+#include <quillon/app/platform/fake/fake_foreground.h>
 #include <quillon/app/platform/fake/fake_software_pages.h>
 #include <quillon/app/views/updates/release_window.h>
 #include <quillon/app/views/updates/update_windows.h>
@@ -60,10 +61,12 @@ class UpdateWindowsTest : public testing::Test {
 
     FakeAppearance appearance;
     ThemeSource themes{appearance};
+    FakeForeground foreground;
     FakeSoftwarePages pages;
     std::vector<std::string> dismissed;
     UpdateWindows windows{{
         .themes = themes,
+        .foreground = foreground,
         .pages = pages,
         .version = "1.2",
         .dismissed = [this](const std::string& version) { dismissed.push_back(version); },
@@ -199,7 +202,11 @@ TEST_F(UpdateWindowsTest, ALinkInTheNotesOpensItsPage) {
 TEST_F(UpdateWindowsTest, AreGoneWithTheProgram) {
     {
         UpdateWindows others(
-            {.themes = themes, .pages = pages, .version = "1", .dismissed = [](const auto&) {}});
+            {.themes = themes,
+             .foreground = foreground,
+             .pages = pages,
+             .version = "1",
+             .dismissed = [](const auto&) {}});
         others.tell(UpdateNotice::upToDate);
         others.offer(release("1.3"), Occasion::asked);
         EXPECT_EQ(open().size(), 2U);
