@@ -1,5 +1,6 @@
 #include "update_window.h"
 
+#include <quillon/app/views/components/plain_button.h>
 #include <quillon/app/views/components/prominent_button.h>
 #include <quillon/app/views/components/symbols.h>
 
@@ -60,7 +61,7 @@ void UpdateWindow::addContent(QWidget* content) {
 }
 
 void UpdateWindow::addButton(const QString& label, std::function<void()> pressed) {
-    add(new QPushButton(label, this), std::move(pressed));
+    add(new PlainButton(m_themes, label, this), std::move(pressed));
 }
 
 void UpdateWindow::addProminentButton(const QString& label, std::function<void()> pressed) {
@@ -71,7 +72,6 @@ void UpdateWindow::addProminentButton(const QString& label, std::function<void()
 }
 
 void UpdateWindow::add(QPushButton* button, std::function<void()> pressed) {
-    button->setFont(theme().styles.body);
     connect(button, &QPushButton::clicked, this, [this, pressed = std::move(pressed)] {
         const auto then = pressed; // closing may delete the button
         accept();
