@@ -4,6 +4,8 @@ option(QUILLON_BUILD_BENCH "Build the benchmarks" OFF)
 option(QUILLON_BUILD_FUZZ "Build the fuzz targets (needs clang)" OFF)
 option(QUILLON_STALL_HOOK "Let other processes measure how long the program's main thread is busy (for tests and benchmarks)" OFF)
 option(QUILLON_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+set(QUILLON_FEED_URL "" CACHE STRING "https address of the list of releases (an appcast) that the program looks for updates in; empty: it does not look by itself")
+option(QUILLON_FEED_FROM_ENVIRONMENT "Let $QUILLON_FEED_URL name another list of releases when the program starts (for tests)" OFF)
 set(QUILLON_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined or thread")
 
 set(CMAKE_CXX_STANDARD 20)

@@ -1,10 +1,10 @@
 #include "settings.h"
 
+#include "settings_store.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <filesystem>
-#include <system_error>
 
 namespace quillon {
 
@@ -21,18 +21,6 @@ QString nameOf(Setting setting) {
     case Setting::settingsTab: return QStringLiteral("settingsTab");
     }
     return {};
-}
-
-/// Opening a pipe waits for whoever writes to it, and a device may never end.
-bool canHoldSettings(const std::filesystem::path& path) {
-    std::error_code error;
-    const auto status = std::filesystem::status(path, error);
-    if (status.type() == std::filesystem::file_type::not_found)
-        return true;
-    if (!std::filesystem::is_regular_file(status))
-        return false;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    return !error && size <= static_cast<std::uintmax_t>(Settings::largestFile);
 }
 
 bool isDelay(Seconds delay) {
@@ -87,11 +75,9 @@ QString wordOf(Choice choice, const std::array<StoredChoice<Choice>, count>& wor
 
 } // namespace
 
-Settings::Settings(const QString& path) {
-    if (path.isEmpty() || !canHoldSettings(path.toStdString()))
-        return;
-    m_store = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    read();
+Settings::Settings(const QString& path) : m_store(openSettingsStore(path)) {
+    if (m_store)
+        read();
 }
 
 void Settings::read() {

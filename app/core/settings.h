@@ -22,13 +22,9 @@ enum class SettingsTab { general, coach, privacy };
 /// its default.
 class Settings {
   public:
-    /// Kept in the INI file at `path`, which need not exist; not kept when it is empty. Anything there that
-    /// cannot be a file of settings (a folder, a pipe, a device, more than `largestFile`) is not touched: the
-    /// settings then have their defaults at each start.
+    /// Kept in the INI file at `path`. Where `openSettingsStore` opens none they are not kept and have their
+    /// defaults at each start.
     explicit Settings(const QString& path);
-
-    /// A file of a few lines that is larger than this was written by something else. In bytes.
-    static constexpr std::int64_t largestFile = 1 << 20;
 
     /// Emitted after a setting got another value.
     Event<Setting> changed;

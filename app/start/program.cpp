@@ -40,11 +40,20 @@ Program::Program(Platform& platform)
                                               .dataFolder = platform.dataFolder(),
                                               .ownPid = getpid(),
                                           }),
+      m_updates({
+          .clock = m_clock,
+          .timers = m_timers,
+          .background = m_background,
+          .themes = m_themes,
+          .foreground = m_desktop->foreground(),
+          .pages = m_desktop->softwarePages(),
+          .settingsFile = QString::fromStdString(platform.settingsFile().string()),
+      }),
       m_tray(
           m_model, m_desktop->tray(),
           {.showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
            .openWindow = [this](WindowName name) { m_model.requestWindow(name); },
-           .checkForUpdates = [] {},
+           .checkForUpdates = [this] { m_updates.checkForUpdates(); },
            .quit = [] { QApplication::quit(); }}),
       m_windowOffers(offerWindows(m_windows, {m_model, m_themes, m_icons, *m_desktop})),
       m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {
@@ -76,6 +85,7 @@ InstanceRequests Program::requests() {
 void Program::start(FirstShow firstShow) {
     m_model.start();
     m_tray.show();
+    m_updates.start();
     // The first hold should not have to wait for what can be made while nobody waits.
     m_preparation = m_timers.after(Seconds(0), [this] { m_model.preparePanels(); });
     switch (firstShow) {

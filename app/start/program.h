@@ -1,5 +1,6 @@
 #pragma once
 
+#include "program_updates.h"
 #include "window_contents.h"
 
 #include <quillon/app/core/app_model.h>
@@ -54,6 +55,7 @@ class Program {
     ViewPanelHost m_panels;
     TitledWindows m_windows;
     AppModel m_model;
+    ProgramUpdates m_updates;
     TrayMenu m_tray;
     std::vector<Subscription> m_windowOffers;
     std::unique_ptr<Showcase> m_showcase;

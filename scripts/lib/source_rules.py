@@ -14,7 +14,7 @@ import sys
 FLOORS = {
     "kit": ("kit",),
     "app/ports": ("kit",),
-    "app/core": ("kit", "app/ports"),
+    "app/core": ("kit", "app/ports", "app/core"),
     "app/languages": ("kit",),
     "app/views": ("kit", "app/ports", "app/core", "app/languages", "app/views"),
     "app/cli": ("kit", "app/ports", "app/languages"),

@@ -1,4 +1,5 @@
 #include <quillon/app/core/settings.h>
+#include <quillon/app/core/settings_store.h>
 
 #include <gtest/gtest.h>
 
@@ -133,13 +134,13 @@ TEST_F(SettingsTest, DoNotReadADevice) {
 
 TEST_F(SettingsTest, DoNotReadAFileThatIsFarTooLarge) {
     write("[General]\ntrigger=option\n");
-    ASSERT_TRUE(QFile::resize(m_path, Settings::largestFile));
+    ASSERT_TRUE(QFile::resize(m_path, largestSettingsFile));
     EXPECT_EQ(Settings(m_path).trigger(), TriggerKey::option);
-    ASSERT_TRUE(QFile::resize(m_path, Settings::largestFile + 1));
+    ASSERT_TRUE(QFile::resize(m_path, largestSettingsFile + 1));
     Settings settings(m_path);
     EXPECT_EQ(settings.trigger(), TriggerKey::command);
     settings.setTrigger(TriggerKey::control);
-    EXPECT_EQ(QFileInfo(m_path).size(), Settings::largestFile + 1)
+    EXPECT_EQ(QFileInfo(m_path).size(), largestSettingsFile + 1)
         << "it is not this program's to write over";
 }
 

@@ -7,6 +7,7 @@
 #include <quillon/app/platform/linux/applications/xdg_app_icons.h>
 #include <quillon/app/platform/linux/atspi/open_menus.h>
 #include <quillon/app/platform/linux/look/xdg_appearance.h>
+#include <quillon/app/platform/linux/software/xdg_software_pages.h>
 #include <quillon/app/platform/linux/tray/linux_tray.h>
 #include <quillon/app/platform/linux/x11/raw_input.h>
 #include <quillon/app/platform/linux/x11/root_event_brake.h>
@@ -57,7 +58,8 @@ LinuxMenuUse::MakeLookup lookupInOpenMenus() {
 LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock)
     : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
       m_appearance(std::make_unique<XdgAppearance>(sessionBus)),
-      m_icons(std::make_unique<XdgAppIcons>(m_identifier)), m_x11(X11Connection::open()),
+      m_icons(std::make_unique<XdgAppIcons>(m_identifier)),
+      m_softwarePages(std::make_unique<XdgSoftwarePages>()), m_x11(X11Connection::open()),
       m_brake(m_x11 ? std::make_unique<RootEventBrake>() : nullptr),
       m_input(m_x11 ? std::make_shared<RawInput>(m_x11) : nullptr),
       m_panelWindows(panelWindows(m_x11, m_input)), m_panels(*m_panelWindows),

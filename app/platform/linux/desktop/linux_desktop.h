@@ -45,7 +45,7 @@ class LinuxDesktop final : public Desktop {
     SessionStart& sessionStart() override { return m_none.sessionStart; }
     LauncherKey& launcherKey() override { return m_none.launcherKey; }
     SilentApps& silentApps() override { return m_none.silentApps; }
-    SoftwarePages& softwarePages() override { return m_none.softwarePages; }
+    SoftwarePages& softwarePages() override { return *m_softwarePages; }
 
   private:
     NoDesktop m_none;
@@ -55,6 +55,7 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<AccessibilityAccess> m_access;
     std::unique_ptr<Appearance> m_appearance;
     std::unique_ptr<XdgAppIcons> m_icons;
+    std::unique_ptr<SoftwarePages> m_softwarePages;
     std::shared_ptr<X11Connection> m_x11;
     std::unique_ptr<RootEventBrake> m_brake;
     std::shared_ptr<RawInput> m_input; ///< absent without X11

@@ -2,6 +2,7 @@
 #include "scenes.h"
 #include "symbol_pictures.h"
 #include "tray_pictures.h"
+#include "update_scenes.h"
 
 #include <quillon/app/languages/translations.h>
 #include <quillon/app/platform/qt/menus/pop_up_menu.h>
@@ -65,6 +66,7 @@ bool drawTrayMenu(const TrayMenuScene& scene, const Look& look, const QString& p
 int drawAll(const QString& folder, const QString& only, KeyLabels keys, Look look) {
     std::vector<Scene> scenes = overlayScenes();
     std::ranges::move(toastScenes(), std::back_inserter(scenes));
+    std::ranges::move(updateScenes(), std::back_inserter(scenes));
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
         look.scheme = scheme;
         const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;

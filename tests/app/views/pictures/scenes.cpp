@@ -17,6 +17,10 @@ QWidget* shownPanel() {
         if (widget->isVisible() && dynamic_cast<FloatingPanel*>(widget))
             return widget;
     }
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible())
+            return widget;
+    }
     return nullptr;
 }
 

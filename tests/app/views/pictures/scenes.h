@@ -13,10 +13,10 @@ namespace quillon {
 /// One picture: how to bring a desk into the state that it shows.
 struct Scene {
     QString name;
-    std::function<void(ViewDesk&)> show; ///< a panel
+    std::function<void(ViewDesk&)> show; ///< a panel or a window
 };
 
-/// The panel on the screen; null when there is none.
+/// The panel on the screen, else a window; null when there is none.
 QWidget* shownPanel();
 
 std::vector<Scene> overlayScenes();

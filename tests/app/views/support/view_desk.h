@@ -42,6 +42,7 @@ class ViewDesk {
     QtPanelMaker panels{panelWindows};
     ViewPanelHost host{panels, [this] { return overlayContent(); }, [this] { return toastContent(); }};
     AppModel model{servicesOf(desktop, host, settings)};
+    std::shared_ptr<void> kept; ///< whatever else is shown on this desk; goes first
 
   private:
     PanelContent overlayContent();

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "feed_answer.h"
+
+#include <QUrl>
+
+#include <cstdint>
+#include <functional>
+#include <stop_token>
+#include <string>
+
+namespace quillon {
+
+enum class FeedMethod { head, get };
+
+struct FeedRequest {
+    QUrl address;
+    FeedMethod method = FeedMethod::get;
+    std::string sender = {}; ///< who asks: "Quillon/1.0"
+};
+
+/// A list of releases that is larger than this is not read, in bytes.
+inline constexpr std::int64_t largestFeed = 1 << 20;
+
+/// Sends a request and waits for the answer, on a thread that may wait: until `stop` is requested, when there
+/// is none. Caches are passed over, nothing is kept and nothing but the answer is taken: no cookies, no
+/// passwords. Redirections are followed as far as `WebAddress::mayLead` lets them. An address that is no feed
+/// is not asked.
+FeedAnswer askFeed(const FeedRequest& request, std::stop_token stop);
+
+/// The same, as something to be replaced in tests.
+using AskFeed = std::function<FeedAnswer(const FeedRequest&, std::stop_token)>;
+
+} // namespace quillon
