@@ -6,6 +6,7 @@
 #include <quillon/app/platform/linux/access/accessibility_bus_access.h>
 #include <quillon/app/platform/linux/applications/xdg_app_icons.h>
 #include <quillon/app/platform/linux/atspi/open_menus.h>
+#include <quillon/app/platform/linux/launcher/session_settings.h>
 #include <quillon/app/platform/linux/look/xdg_appearance.h>
 #include <quillon/app/platform/linux/x11/raw_input.h>
 #include <quillon/app/platform/linux/x11/root_event_brake.h>
@@ -53,7 +54,9 @@ LinuxMenuUse::MakeLookup lookupInOpenMenus() {
 } // namespace
 
 LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock)
-    : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
+    : m_identifier(background, clock),
+      m_launcherKey(background, processEnvironment("XDG_CURRENT_DESKTOP"), sessionSettings()),
+      m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
       m_appearance(std::make_unique<XdgAppearance>(sessionBus)),
       m_icons(std::make_unique<XdgAppIcons>(m_identifier)), m_x11(X11Connection::open()),
       m_brake(m_x11 ? std::make_unique<RootEventBrake>() : nullptr),
