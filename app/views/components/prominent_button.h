@@ -1,27 +1,20 @@
 #pragma once
 
-#include "theme_source.h"
-
-#include <QPushButton>
+#include "themed_button.h"
 
 namespace quillon {
 
 /// The button that a window wants to be pressed, in the accent colour.
-class ProminentButton : public QPushButton {
+class ProminentButton : public ThemedButton {
     Q_OBJECT
 
   public:
-    ProminentButton(ThemeSource& themes, const QString& label, QWidget* parent = nullptr);
+    ProminentButton(ThemeSource& themes, const QString& label, QWidget* parent = nullptr)
+        : ThemedButton(themes, label, parent) {}
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
-    QSize sizeHint() const override;
-
-  private:
-    void follow();
-
-    ThemeSource& m_themes;
-    Subscription m_subscription;
+    Colours colours(const Palette& palette) const override;
+    QFont labelFont(const TextStyles& styles) const override;
 };
 
 } // namespace quillon

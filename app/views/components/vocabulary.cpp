@@ -9,6 +9,9 @@ const Vocabulary& Vocabulary::macOS() {
         .computer = u"Mac"_s,
         .system = u"macOS"_s,
         .accessibilitySettings = u"System Settings > Privacy & Security > Accessibility"_s,
+        .commandKey = {},
+        .optionKey = {},
+        .controlKey = {},
     };
     return vocabulary;
 }
@@ -18,6 +21,9 @@ const Vocabulary& Vocabulary::linuxDesktop() {
         .computer = u"computer"_s,
         .system = u"Linux"_s,
         .accessibilitySettings = u"your desktop’s accessibility settings"_s,
+        .commandKey = u"the Super or Windows key"_s,
+        .optionKey = u"Alt"_s,
+        .controlKey = u"Ctrl"_s,
     };
     return vocabulary;
 }

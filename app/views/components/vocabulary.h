@@ -10,6 +10,9 @@ struct Vocabulary {
     QString computer;              ///< "your …"
     QString system;                ///< what provides the menus
     QString accessibilitySettings; ///< where reading menus is allowed
+    QString commandKey;            ///< where ⌘ is on the keyboard; empty where it is labelled so
+    QString optionKey;             ///< likewise of ⌥
+    QString controlKey;            ///< likewise of ⌃
 
     static const Vocabulary& macOS();
     static const Vocabulary& linuxDesktop();

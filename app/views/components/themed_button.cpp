@@ -1,0 +1,80 @@
+#include "themed_button.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace quillon {
+
+namespace {
+
+constexpr int horizontalPadding = 18;
+constexpr int verticalPadding = 8;
+constexpr double cornerRadius = 9;
+/// Between the button and the ring that shows the keyboard's focus.
+constexpr double ringGap = 3;
+constexpr double disabledOpacity = 0.5;
+
+} // namespace
+
+ThemedButton::ThemedButton(ThemeSource& themes, const QString& label, QWidget* parent)
+    : QPushButton(label, parent), m_themes(themes) {
+    setCursor(Qt::PointingHandCursor);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_subscription = themes.changed.subscribe([this] { follow(); });
+}
+
+void ThemedButton::follow() {
+    setFont(labelFont(m_themes.theme().styles));
+    updateGeometry();
+    update();
+}
+
+QSize ThemedButton::sizeHint() const {
+    const int ring = static_cast<int>(2 * ringGap);
+    const QFontMetrics metrics(labelFont(m_themes.theme().styles));
+    return metrics.size(Qt::TextSingleLine, text())
+           + QSize(2 * horizontalPadding + ring, 2 * verticalPadding + ring);
+}
+
+void ThemedButton::showEvent(QShowEvent* event) {
+    follow();
+    QPushButton::showEvent(event);
+}
+
+void ThemedButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void ThemedButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Palette& palette = m_themes.theme().palette;
+    Colours look = colours(palette);
+    const QRectF body = QRectF(rect()).adjusted(ringGap, ringGap, -ringGap, -ringGap);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette.focusRing, 1.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(
+            QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), cornerRadius + 2, cornerRadius + 2);
+    }
+    if (!isEnabled())
+        painter.setOpacity(disabledOpacity);
+    else if (isDown())
+        look.fill = look.fill.darker(112);
+    else if (underMouse())
+        look.fill = look.fill.lighter(106);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.fill);
+    painter.drawRoundedRect(body, cornerRadius, cornerRadius);
+    painter.setPen(QPen(look.border, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius - 0.5, cornerRadius - 0.5);
+    painter.setPen(look.text);
+    painter.setFont(labelFont(m_themes.theme().styles));
+    painter.drawText(body, Qt::AlignCenter, text());
+}
+
+} // namespace quillon
