@@ -1,4 +1,4 @@
-# The Debian 12 packages that each kind of work needs. Sourced, never run.
+# The packages of Debian 12 and 13 that each kind of work needs. Sourced, never run.
 # shellcheck shell=bash
 
 # packages_of PROFILE: prints the names of a profile's packages; fails for an unknown profile.
@@ -10,6 +10,7 @@ packages_of() {
         desktop) desktop_packages ;;
         lint) lint_packages ;;
         bench) echo libbenchmark-dev libatspi2.0-dev && desktop_packages ;;
+        fresh) echo debootstrap git ;;
         coverage) kit_packages && echo gcovr ;;
         *) return 1 ;;
     esac
@@ -29,7 +30,7 @@ app_packages() {
 
 # clang and its run-time libraries for the fuzzers; the validators of the files in packaging/.
 test_packages() {
-    echo clang libclang-rt-14-dev \
+    echo clang libclang-rt-dev \
         desktop-file-utils appstream man-db groff-base
 }
 

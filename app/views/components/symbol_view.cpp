@@ -30,7 +30,7 @@ void SymbolView::paintEvent(QPaintEvent*) {
     const QPointF origin((width() - m_size) / 2, (height() - m_size) / 2);
     painter.drawPixmap(
         onDevicePixel(painter, origin),
-        symbolPixmap(m_symbol, m_size, theme().palette.*m_colour, devicePixelRatioF()));
+        symbolPixmap(m_symbol, m_size, theme().palette.*m_colour, devicePixelRatioF(), layoutDirection()));
 }
 
 } // namespace quillon

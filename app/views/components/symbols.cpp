@@ -44,34 +44,68 @@ QPixmap kept(const QString& key, Draw draw) {
     return pixmap;
 }
 
+/// Whether a part of the symbol stands where a line of text begins or ends.
+bool followsReading(Symbol symbol) {
+    switch (symbol) {
+    case Symbol::keyboardBadgeEllipsis:
+    case Symbol::menuBarRectangle:
+    case Symbol::noteText:
+    case Symbol::noteTextBadgePlus:
+    case Symbol::sidebarLeft: return true;
+    default: return false;
+    }
+}
+
+/// Black, from left to right.
+QPixmap drawn(Symbol symbol, int size, double ratio) {
+    if (symbol == Symbol::keyboard)
+        return keyboardPicture(size, ratio);
+    if (symbol == Symbol::keyboardBadgeEllipsis)
+        return keyboardWithEllipsis(size, ratio);
+    return rendered(u":/quillon/symbols/"_s + symbolName(symbol) + u".svg"_s, size, ratio);
+}
+
 } // namespace
 
 QString symbolName(Symbol symbol) {
     switch (symbol) {
+    case Symbol::bell: return u"bell"_s;
+    case Symbol::bellSlash: return u"bell.slash"_s;
+    case Symbol::checkmark: return u"checkmark"_s;
+    case Symbol::checkmarkCircleFill: return u"checkmark.circle.fill"_s;
+    case Symbol::commandSquare: return u"command.square"_s;
+    case Symbol::exclamationMarkTriangle: return u"exclamationmark.triangle"_s;
+    case Symbol::gearShape: return u"gearshape"_s;
+    case Symbol::graduationCap: return u"graduationcap"_s;
     case Symbol::handRaised: return u"hand.raised"_s;
     case Symbol::hourglass: return u"hourglass"_s;
     case Symbol::keyboard: return u"keyboard"_s;
     case Symbol::keyboardBadgeEllipsis: return u"keyboard.badge.ellipsis"_s;
     case Symbol::magnifyingGlass: return u"magnifyingglass"_s;
     case Symbol::menuBarRectangle: return u"menubar.rectangle"_s;
+    case Symbol::noteText: return u"note.text"_s;
+    case Symbol::noteTextBadgePlus: return u"note.text.badge.plus"_s;
+    case Symbol::pin: return u"pin"_s;
     case Symbol::pinFill: return u"pin.fill"_s;
+    case Symbol::printer: return u"printer"_s;
+    case Symbol::scribbleVariable: return u"scribble.variable"_s;
+    case Symbol::sidebarLeft: return u"sidebar.left"_s;
     case Symbol::xmarkCircleFill: return u"xmark.circle.fill"_s;
     }
     Q_UNREACHABLE();
 }
 
-QPixmap symbolPixmap(Symbol symbol, int size, const QColor& colour, double ratio) {
-    const QString name = symbolName(symbol);
-    const QString key = u"quillon-symbol/%1/%2/%3/%4"_s.arg(name)
+QPixmap
+symbolPixmap(Symbol symbol, int size, const QColor& colour, double ratio, Qt::LayoutDirection direction) {
+    const bool mirrored = direction == Qt::RightToLeft && followsReading(symbol);
+    const QString key = u"quillon-symbol/%1/%2/%3/%4/%5"_s.arg(symbolName(symbol))
                             .arg(size)
                             .arg(colour.rgba(), 8, 16)
-                            .arg(std::lround(ratio * 1000));
+                            .arg(std::lround(ratio * 1000))
+                            .arg(mirrored);
     return kept(key, [&] {
-        if (symbol == Symbol::keyboard)
-            return tinted(keyboardPicture(size, ratio), colour);
-        if (symbol == Symbol::keyboardBadgeEllipsis)
-            return tinted(keyboardWithEllipsis(size, ratio), colour);
-        return tinted(rendered(u":/quillon/symbols/"_s + name + u".svg"_s, size, ratio), colour);
+        const QPixmap picture = drawn(symbol, size, ratio);
+        return tinted(mirrored ? picture.transformed(QTransform::fromScale(-1, 1)) : picture, colour);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "cap_pictures.h"
 #include "scenes.h"
+#include "symbol_pictures.h"
 
 #include <quillon/app/views/components/text.h>
 
@@ -78,6 +79,25 @@ int drawCaps(const QString& folder, const Look& look) {
     return 0;
 }
 
+/// The symbols from left to right in light colours, and from right to left in dark ones.
+int drawSymbols(const QString& folder, Look look) {
+    for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
+        look.scheme = scheme;
+        const Theme theme = Theme::fromLook(look, QApplication::font());
+        const bool dark = scheme == ColourScheme::dark;
+        for (const int ratio : {1, 2}) {
+            const QString path =
+                QDir(folder).filePath(u"symbols-%1-%2x.png"_s.arg(dark ? u"dark"_s : u"light"_s).arg(ratio));
+            const Qt::LayoutDirection direction = dark ? Qt::RightToLeft : Qt::LeftToRight;
+            if (!symbolPicture(theme, ratio, 4 / ratio, direction).save(path)) {
+                QTextStream(stderr) << "cannot draw " << path << Qt::endl;
+                return 1;
+            }
+        }
+    }
+    return 0;
+}
+
 } // namespace
 
 } // namespace quillon
@@ -92,7 +112,8 @@ int main(int argc, char** argv) {
     const QCommandLineOption family(u"font"_s, u"The desktop's interface font."_s, u"family"_s);
     const QCommandLineOption points(u"points"_s, u"Its size."_s, u"points"_s);
     const QCommandLineOption caps(u"caps"_s, u"Only the key caps, enlarged, at four scales."_s);
-    parser.addOptions({only, family, points, caps});
+    const QCommandLineOption symbols(u"symbols"_s, u"Only the symbols, enlarged, at two scales."_s);
+    parser.addOptions({only, family, points, caps, symbols});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1 || !QDir().mkpath(parser.positionalArguments().first()))
@@ -105,5 +126,7 @@ int main(int argc, char** argv) {
         look.fontPoints = parser.value(points).toDouble();
     if (parser.isSet(caps))
         return drawCaps(parser.positionalArguments().first(), look);
+    if (parser.isSet(symbols))
+        return drawSymbols(parser.positionalArguments().first(), look);
     return drawAll(parser.positionalArguments().first(), parser.value(only), look);
 }
