@@ -24,10 +24,6 @@ QString tab(SettingsTab tab) {
     Q_UNREACHABLE();
 }
 
-QString tabs() {
-    return QCoreApplication::translate("Settings", "Settings");
-}
-
 QString holdThisKey() {
     return QCoreApplication::translate("Settings", "Hold this key");
 }

@@ -13,8 +13,6 @@ namespace SettingsTexts {
 
 /// On the tab.
 QString tab(SettingsTab tab);
-/// What screen readers call the tabs as a whole.
-QString tabs();
 
 QString holdThisKey();
 /// "Command", "Option" or "Control".

@@ -30,7 +30,6 @@ SettingsView::SettingsView(AppModel& model, ThemeSource& themeSource, const Need
       m_general(new GeneralPage(model, themeSource, needs.sessionStart, needs.launcherKey)),
       m_coach(new CoachPage(model, themeSource)),
       m_privacy(new PrivacyPage(model, themeSource, needs.dataFolder)) {
-    m_tabs->setAccessibleName(SettingsTexts::tabs());
     addTab(SettingsTab::general, Symbol::gearShape, m_general);
     addTab(SettingsTab::coach, Symbol::graduationCap, m_coach);
     addTab(SettingsTab::privacy, Symbol::handRaised, m_privacy);
@@ -59,8 +58,13 @@ void SettingsView::addTab(SettingsTab tab, Symbol symbol, QWidget* page) {
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus); // what is on the page is scrolled to as the keyboard reaches it
+    scroll->setAccessibleName(SettingsTexts::tab(tab));
     scroll->setWidget(page);
+    // To be scrolled by the keyboard there has to be something to scroll.
+    scroll->setFocusPolicy(Qt::NoFocus);
+    connect(scroll->verticalScrollBar(), &QScrollBar::rangeChanged, scroll, [scroll](int, int highest) {
+        scroll->setFocusPolicy(highest > 0 ? Qt::StrongFocus : Qt::NoFocus);
+    });
     m_stack->addWidget(scroll);
     m_pages.push_back(page);
 }

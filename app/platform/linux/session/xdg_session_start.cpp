@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool exists(const fs::path& path) {
+bool isThere(const fs::path& path) {
     std::error_code error;
     return fs::symlink_status(path, error).type() != fs::file_type::not_found;
 }
@@ -63,21 +63,21 @@ XdgSessionStart::Places XdgSessionStart::ownPlaces() {
 
 XdgSessionStart::XdgSessionStart(Places places, const Environment& environment)
     : m_isOffered(
-        !configHome(environment).empty() && !places.executable.empty() && !exists(places.sandboxNotice)
+        !configHome(environment).empty() && !places.executable.empty() && !isThere(places.sandboxNotice)
         && environment("SNAP").empty()),
       m_ownEntry(autostart::entryFor(autostart::nameOf(places.executable, environment("PATH")))),
       m_file(entryBelow(configHome(environment))), m_systemFiles(systemFiles(environment)) {}
 
 std::optional<std::string> XdgSessionStart::systemEntry() const {
     for (const fs::path& file : m_systemFiles)
-        if (exists(file))
+        if (isThere(file))
             return readShortFile(file);
     return std::nullopt;
 }
 
 /// An entry of the user's hides that of the computer, also where it is none that works.
 bool XdgSessionStart::isOn() const {
-    const std::optional<std::string> entry = exists(m_file) ? readShortFile(m_file) : systemEntry();
+    const std::optional<std::string> entry = isThere(m_file) ? readShortFile(m_file) : systemEntry();
     return m_isOffered && entry && autostart::startsProgram(*entry);
 }
 

@@ -16,7 +16,7 @@ class PaletteTest : public testing::TestWithParam<ColourScheme> {
 };
 
 TEST_P(PaletteTest, EveryTextColourIsReadableOnEveryGround) {
-    for (const QColor& text : {palette.primary, palette.secondary, palette.dimmed}) {
+    for (const QColor& text : {palette.primary, palette.secondary, palette.dimmed, palette.destructive}) {
         for (const QColor& ground : {palette.window, palette.card, hoveredRow, searchField}) {
             EXPECT_GE(Colours::contrast(text, ground), 4.5)
                 << text.name().toStdString() << " on " << ground.name().toStdString();
