@@ -51,7 +51,7 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     auto* top = new QHBoxLayout;
     top->setSpacing(symbolGap);
     top->addWidget(
-        new SymbolView(themes, Symbol::exclamationMarkTriangle, symbolSize, &Palette::destructive, this), 0,
+        new SymbolView(themes, Symbol::exclamationMarkTriangle, symbolSize, &Palette::badgeText, this), 0,
         Qt::AlignTop);
     top->addLayout(texts, 1);
 

@@ -12,6 +12,9 @@ class DestructiveButton : public ThemedButton {
     DestructiveButton(ThemeSource& themes, const QString& label, QWidget* parent = nullptr)
         : ThemedButton(themes, label, parent) {}
 
+    /// Of its label. At least 4.5 : 1 on a card of the scheme.
+    static QColor textColour(ColourScheme scheme);
+
   protected:
     Colours colours(const Palette& palette) const override;
     QFont labelFont(const TextStyles& styles) const override;

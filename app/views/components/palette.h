@@ -22,10 +22,9 @@ struct Palette {
     QColor secondary; ///< text that accompanies
     QColor dimmed;    ///< text of commands that cannot be used right now
     QColor accent;
-    QColor onAccent;    ///< text on `accent`
-    QColor focusRing;   ///< around what has the keyboard; at least 3 : 1 on `window` and `card`
-    QColor destructive; ///< text of what takes something away for good
-    QColor badge;       ///< behind a badge
+    QColor onAccent;  ///< text on `accent`
+    QColor focusRing; ///< around what has the keyboard; at least 3 : 1 on `window` and `card`
+    QColor badge;     ///< behind a badge
     QColor badgeText;
     QColor pin;
     QColor hover; ///< over a row under the pointer

@@ -1,4 +1,5 @@
 #include <quillon/app/views/components/colours.h>
+#include <quillon/app/views/components/destructive_button.h>
 #include <quillon/app/views/components/palette.h>
 
 #include <gtest/gtest.h>
@@ -16,7 +17,7 @@ class PaletteTest : public testing::TestWithParam<ColourScheme> {
 };
 
 TEST_P(PaletteTest, EveryTextColourIsReadableOnEveryGround) {
-    for (const QColor& text : {palette.primary, palette.secondary, palette.dimmed, palette.destructive}) {
+    for (const QColor& text : {palette.primary, palette.secondary, palette.dimmed}) {
         for (const QColor& ground : {palette.window, palette.card, hoveredRow, searchField}) {
             EXPECT_GE(Colours::contrast(text, ground), 4.5)
                 << text.name().toStdString() << " on " << ground.name().toStdString();
@@ -33,6 +34,10 @@ TEST_P(PaletteTest, BadgesAndButtonsAreReadable) {
     for (const QColor& ground : {palette.card, hoveredRow})
         EXPECT_GE(Colours::contrast(palette.badgeText, Colours::over(palette.badge, ground)), 4.5);
     EXPECT_GE(Colours::contrast(palette.onAccent, palette.accent), 4.5);
+}
+
+TEST_P(PaletteTest, WhatDestroysIsReadable) {
+    EXPECT_GE(Colours::contrast(DestructiveButton::textColour(GetParam()), palette.card), 4.5);
 }
 
 TEST_P(PaletteTest, TheFocusRingAndThePinStandOut) {
