@@ -3,6 +3,7 @@
 #include "accessibility_access.h"
 #include "app_icons.h"
 #include "appearance.h"
+#include "foreground.h"
 #include "front_application.h"
 #include "keyboard.h"
 #include "launcher_key.h"
@@ -31,6 +32,7 @@ class Desktop {
     virtual AppIcons& icons() = 0;
     virtual Appearance& appearance() = 0;
     virtual PanelMaker& panels() = 0;
+    virtual Foreground& foreground() = 0;
     virtual Tray& tray() = 0;
     virtual SessionStart& sessionStart() = 0;
     virtual LauncherKey& launcherKey() = 0;

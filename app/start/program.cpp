@@ -4,8 +4,11 @@
 #include "showcase.h"
 #include "toast_content.h"
 
+#include <quillon/app/views/settings/shown_path.h>
+
 #include <QApplication>
 #include <QCursor>
+#include <QDir>
 
 #include <unistd.h>
 
@@ -25,23 +28,27 @@ Program::Program(Platform& platform)
           m_desktop->panels(),
           [this] { return overlayContent(m_model, m_themes, m_icons, OverlayMode::live); },
           [this] { return toastContent(m_model, m_themes); }),
-      m_windows(m_desktop->accessibility()), m_model({
-                                                 .frontApplication = m_desktop->frontApplication(),
-                                                 .menuReader = m_desktop->menuReader(),
-                                                 .accessibility = m_desktop->accessibility(),
-                                                 .keyboard = m_desktop->keyboard(),
-                                                 .menuUse = m_desktop->menuUse(),
-                                                 .typedKeys = m_desktop->typedKeys(),
-                                                 .clock = m_clock,
-                                                 .timers = m_timers,
-                                                 .background = m_background,
-                                                 .panels = m_panels,
-                                                 .windows = m_windows,
-                                                 .settings = m_settings,
-                                                 .dataFolder = platform.dataFolder(),
-                                                 .ownPid = getpid(),
-                                             }),
-      m_tray(m_model, m_themes, [] { QApplication::quit(); }) {}
+      m_windows(m_desktop->foreground()), m_model({
+                                              .frontApplication = m_desktop->frontApplication(),
+                                              .menuReader = m_desktop->menuReader(),
+                                              .accessibility = m_desktop->accessibility(),
+                                              .keyboard = m_desktop->keyboard(),
+                                              .menuUse = m_desktop->menuUse(),
+                                              .typedKeys = m_desktop->typedKeys(),
+                                              .clock = m_clock,
+                                              .timers = m_timers,
+                                              .background = m_background,
+                                              .panels = m_panels,
+                                              .windows = m_windows,
+                                              .settings = m_settings,
+                                              .dataFolder = platform.dataFolder(),
+                                              .ownPid = getpid(),
+                                          }),
+      m_tray(m_model, m_themes, [] { QApplication::quit(); }),
+      m_windowOffers(offerWindows(
+          m_windows, {m_model, m_themes, m_icons, *m_desktop,
+                      shownPath(platform.dataFolder(), QDir::homePath().toStdString())})),
+      m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {}
 
 Program::~Program() {
     m_model.savePending();
@@ -52,7 +59,7 @@ Program::~Program() {
 InstanceRequests Program::requests() {
     return {
         .activate = [this] { activate(); },
-        .showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
+        .showOverlay = [this] { showOverlay(); },
         .showSample = [this] { showSample(); },
         .quit = [] { QApplication::quit(); },
         .watching = [this] { return m_model.watching(); },
@@ -65,30 +72,33 @@ void Program::start(FirstShow firstShow) {
     // The first hold should not have to wait for what can be made while nobody waits.
     m_preparation = m_timers.after(Seconds(0), [this] { m_model.preparePanels(); });
     switch (firstShow) {
-    case FirstShow::nothing: break;
+    case FirstShow::nothing: m_welcome.begin(); break;
     case FirstShow::overlay: showOverlayOnceTrusted(); break;
     case FirstShow::sample: showSample(); break;
     }
 }
 
-// At the very start the desktop has not answered yet; what it answers a moment later should not flash by.
 void Program::showOverlayOnceTrusted() {
-    const auto show = [this] {
-        m_trustForFirstShow.reset();
-        m_model.showOverlay(Stickiness::sticky);
-    };
-    m_firstShow = m_timers.after(patienceForTrust, show);
-    m_trustForFirstShow = m_model.changed.subscribe([this, show](ModelField field) {
-        if (field == ModelField::trusted)
-            m_firstShow = m_timers.after(Seconds(0), show);
-    });
+    m_trustForFirstShow.wait(patienceForTrust, [this] { m_model.showOverlay(Stickiness::sticky); });
 }
 
+/// Whoever has not completed the welcome, or cannot be served, is shown what is missing.
 void Program::activate() {
-    m_tray.popUp(QCursor::pos());
+    if (m_welcome.isDue())
+        return;
+    if (m_model.onboarded() && m_model.trusted())
+        m_tray.popUp(QCursor::pos());
+    else
+        m_model.requestWindow(WindowName::welcome);
+}
+
+void Program::showOverlay() {
+    m_welcome.giveWay();
+    m_model.showOverlay(Stickiness::sticky);
 }
 
 void Program::showSample() {
+    m_welcome.giveWay();
     if (!m_showcase)
         m_showcase = std::make_unique<Showcase>(
             m_clock, m_timers, m_background, m_themes, m_icons, m_desktop->panels(), m_settings);

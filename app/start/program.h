@@ -1,8 +1,10 @@
 #pragma once
 
-#include "program_windows.h"
+#include "window_contents.h"
 
 #include <quillon/app/core/app_model.h>
+#include <quillon/app/core/first_trust.h>
+#include <quillon/app/core/welcome_at_start.h>
 #include <quillon/app/platform/qt/qt_timers.h>
 #include <quillon/app/platform/qt/system_clock.h>
 #include <quillon/app/platform/qt/thread_background.h>
@@ -12,8 +14,10 @@
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/panels/view_panel_host.h>
 #include <quillon/app/views/tray/tray_menu.h>
+#include <quillon/app/views/windows/titled_windows.h>
 
 #include <memory>
+#include <vector>
 
 namespace quillon {
 
@@ -36,6 +40,7 @@ class Program {
 
   private:
     void activate();
+    void showOverlay();
     void showOverlayOnceTrusted();
     void showSample();
 
@@ -47,13 +52,14 @@ class Program {
     ThemeSource m_themes;
     AppIconCache m_icons;
     ViewPanelHost m_panels;
-    ProgramWindows m_windows;
+    TitledWindows m_windows;
     AppModel m_model;
     TrayMenu m_tray;
+    std::vector<Subscription> m_windowOffers;
     std::unique_ptr<Showcase> m_showcase;
     Subscription m_preparation;
-    Subscription m_firstShow;
-    Subscription m_trustForFirstShow;
+    FirstTrust m_trustForFirstShow;
+    WelcomeAtStart m_welcome;
 };
 
 } // namespace quillon

@@ -1,13 +1,9 @@
 """What the checkup says of the watchers: what the desktop lets them notice, and what the running program does."""
 
-import os
-import pathlib
-
 import desktop
 from desktop import wait_until
-from quillon import QuillonTestCase, doctor
+from quillon import QuillonTestCase, doctor, write_settings
 
-SETTINGS = pathlib.Path(os.environ.get("XDG_CONFIG_HOME", "/nonexistent"), "app.quillon.Quillon", "settings.ini")
 WATCHERS = {"Hold watcher": "held keys", "Click watcher": "clicks on menu commands", "Typed watcher": "typed shortcuts"}
 
 
@@ -26,9 +22,7 @@ class WatchersTest(QuillonTestCase):
             name: f"ok notices {what}" for name, what in WATCHERS.items()})
 
     def test_what_the_settings_switched_off(self):
-        SETTINGS.parent.mkdir(parents=True, exist_ok=True)
-        self.addCleanup(SETTINGS.unlink)
-        SETTINGS.write_text("[General]\nnudgesOn=false\ncountTyped=false\n", encoding="utf-8")
+        write_settings(onboarded="true", nudgesOn="false", countTyped="false")
         self.start_quillon()
         self.wait_watching()
         self.assertEqual(watchers(), {

@@ -16,6 +16,7 @@ from desktop import wait_until
 
 QUILLON = str(desktop.PROGRAMS / "quillon")
 LEARNED = pathlib.Path(os.environ.get("XDG_DATA_HOME", "/nonexistent"), "app.quillon.Quillon")
+SETTINGS = pathlib.Path(os.environ.get("XDG_CONFIG_HOME", "/nonexistent"), "app.quillon.Quillon", "settings.ini")
 PRIVATE_PREFIX = "quillon-desktop-"  # of the folder that scripts/private-desktop makes
 HOLD_DELAY = 0.8  # seconds, the default
 NO_OVERLAY_FOR = HOLD_DELAY + 0.7  # to be sure that none comes
@@ -119,12 +120,20 @@ def is_private(path):
     return base.name.startswith(PRIVATE_PREFIX) and path.resolve().is_relative_to(home)
 
 
+def write_settings(**values):
+    """The settings that the next start finds, and no others."""
+    SETTINGS.parent.mkdir(parents=True, exist_ok=True)
+    SETTINGS.write_text("\n".join(["[General]", *(f"{name}={value}" for name, value in values.items()), ""]),
+                        encoding="utf-8")
+
+
 class QuillonTestCase(desktop.DesktopTestCase):
     def setUp(self):
-        """What an earlier test's program has learned is none of this test's business."""
+        """What an earlier test's program has learned is none of this test's business; its user knows the welcome."""
         super().setUp()
         self.assertTrue(is_private(LEARNED), "these tests delete what was learned: run them by scripts/private-desktop")
         shutil.rmtree(LEARNED, ignore_errors=True)
+        write_settings(onboarded="true")
 
     @staticmethod
     def program():

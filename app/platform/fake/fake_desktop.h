@@ -5,6 +5,7 @@
 #include "fake_appearance.h"
 #include "fake_background.h"
 #include "fake_clock.h"
+#include "fake_foreground.h"
 #include "fake_front_application.h"
 #include "fake_keyboard.h"
 #include "fake_launcher_key.h"
@@ -35,6 +36,7 @@ struct FakeDesktop {
     FakeAppIcons icons;
     FakeAppearance appearance;
     FakePanelMaker panels;
+    FakeForeground foreground;
     FakeWindows windows;
     FakeTray tray;
     FakeSessionStart sessionStart;

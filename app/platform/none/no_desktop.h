@@ -3,6 +3,7 @@
 #include "no_accessibility_access.h"
 #include "no_app_icons.h"
 #include "no_appearance.h"
+#include "no_foreground.h"
 #include "no_front_application.h"
 #include "no_keyboard.h"
 #include "no_launcher_key.h"
@@ -29,6 +30,7 @@ struct NoDesktop {
     NoAppIcons icons;
     NoAppearance appearance;
     NoPanelMaker panels;
+    NoForeground foreground;
     NoWindows windows;
     NoTray tray;
     NoSessionStart sessionStart;

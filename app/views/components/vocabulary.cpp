@@ -12,6 +12,10 @@ const Vocabulary& Vocabulary::macOS() {
         .commandKey = {},
         .optionKey = {},
         .controlKey = {},
+        .accessibilityAsker = u"macOS"_s,
+        .accessibilityPlace = u"System Settings > Privacy & Security > Accessibility"_s,
+        .accessibilitySwitch = u"Quillon"_s,
+        .dataPlace = u"Library folder"_s,
     };
     return vocabulary;
 }
@@ -24,6 +28,10 @@ const Vocabulary& Vocabulary::linuxDesktop() {
         .commandKey = u"the Super or Windows key"_s,
         .optionKey = u"Alt"_s,
         .controlKey = u"Ctrl"_s,
+        .accessibilityAsker = u"Your desktop"_s,
+        .accessibilityPlace = u"its accessibility settings or in this window"_s,
+        .accessibilitySwitch = u"accessibility"_s,
+        .dataPlace = u"data folder"_s,
     };
     return vocabulary;
 }

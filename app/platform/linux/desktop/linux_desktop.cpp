@@ -11,6 +11,7 @@
 #include <quillon/app/platform/linux/x11/raw_input.h>
 #include <quillon/app/platform/linux/x11/root_event_brake.h>
 #include <quillon/app/platform/linux/x11/x11_connection.h>
+#include <quillon/app/platform/linux/x11/x11_foreground.h>
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
 #include <quillon/app/platform/linux/x11/x11_keyboard.h>
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
@@ -67,6 +68,7 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
         return;
     }
     qCInfo(logInput).noquote() << "held keys are noticed through an X server;" << extensionsOf(*m_x11);
+    m_foreground = std::make_unique<X11Foreground>(m_x11);
     m_front = std::make_unique<X11FrontApplication>(
         m_x11, m_identifier,
         [this](const std::string& bundleID, IconPixels icon) { m_icons->note(bundleID, std::move(icon)); });
@@ -88,6 +90,12 @@ FrontApplication& LinuxDesktop::frontApplication() {
     if (m_front)
         return *m_front;
     return m_none.front;
+}
+
+Foreground& LinuxDesktop::foreground() {
+    if (m_foreground)
+        return *m_foreground;
+    return m_none.foreground;
 }
 
 Keyboard& LinuxDesktop::keyboard() {

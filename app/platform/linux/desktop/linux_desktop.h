@@ -42,6 +42,7 @@ class LinuxDesktop final : public Desktop {
     AppIcons& icons() override;
     Appearance& appearance() override { return *m_appearance; }
     PanelMaker& panels() override { return m_panels; }
+    Foreground& foreground() override;
     Tray& tray() override { return m_none.tray; }
     SessionStart& sessionStart() override { return m_sessionStart; }
     LauncherKey& launcherKey() override { return m_launcherKey; }
@@ -63,6 +64,7 @@ class LinuxDesktop final : public Desktop {
     std::shared_ptr<RawInput> m_input; ///< absent without X11
     std::unique_ptr<PanelWindows> m_panelWindows;
     QtPanelMaker m_panels;
+    std::unique_ptr<Foreground> m_foreground;
     std::unique_ptr<FrontApplication> m_front;
     std::unique_ptr<X11Keyboard> m_keyboard;
     std::unique_ptr<X11TypedKeys> m_typedKeys;

@@ -13,6 +13,8 @@ enum class X11Name {
     netActiveWindow,
     netClientList,
     netClientListStacking,
+    netStartupInfo,
+    netStartupInfoBegin,
     netSupported,
     netSupportingWmCheck,
     netWmDesktop,
@@ -36,12 +38,14 @@ enum class X11Name {
     utf8String,
 };
 
-inline constexpr std::array<std::string_view, 26> x11Names{
+inline constexpr std::array<std::string_view, 28> x11Names{
     "_GTK_APPLICATION_ID",
     "_GTK_WORKAREAS_D0",
     "_NET_ACTIVE_WINDOW",
     "_NET_CLIENT_LIST",
     "_NET_CLIENT_LIST_STACKING",
+    "_NET_STARTUP_INFO",
+    "_NET_STARTUP_INFO_BEGIN",
     "_NET_SUPPORTED",
     "_NET_SUPPORTING_WM_CHECK",
     "_NET_WM_DESKTOP",

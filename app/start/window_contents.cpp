@@ -1,0 +1,40 @@
+#include "window_contents.h"
+
+#include <quillon/app/views/settings/settings_view.h>
+#include <quillon/app/views/welcome/welcome_view.h>
+
+#include <memory>
+
+namespace quillon {
+
+namespace {
+
+/// The views say themselves when they need more.
+constexpr QSize welcomeSize(560, 480);
+constexpr QSize settingsSize(560, 420);
+
+} // namespace
+
+std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds& needs) {
+    std::vector<Subscription> offers;
+    const auto offer = [&](WindowName name, WindowContent content) {
+        offers.push_back(windows.offer(name, std::move(content)));
+    };
+    offer(
+        WindowName::welcome,
+        {.make = [needs] { return std::make_unique<WelcomeView>(needs.model, needs.themes); },
+         .size = welcomeSize});
+    offer(
+        WindowName::settings,
+        {.make =
+             [needs] {
+                 return std::make_unique<SettingsView>(
+                     needs.model, needs.themes,
+                     SettingsView::Needs{
+                         needs.desktop.sessionStart(), needs.desktop.launcherKey(), needs.dataFolder});
+             },
+         .size = settingsSize});
+    return offers;
+}
+
+} // namespace quillon

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "step_marker.h"
+
+#include <quillon/app/views/components/themed_label.h>
+#include <quillon/app/views/components/themed_widget.h>
+
+#include <QVBoxLayout>
+
+namespace quillon {
+
+/// One step of the welcome: its marker, a title, a text, and what else belongs to it below.
+class WelcomeStep : public ThemedWidget {
+    Q_OBJECT
+
+  public:
+    WelcomeStep(ThemeSource& themes, int number, QWidget* parent = nullptr);
+
+    void setText(const QString& title, const QString& body);
+    void setDone(bool done) { m_marker->setDone(done); }
+
+    /// A part below the text, over the whole width.
+    void addPart(QWidget* part) { m_column->addWidget(part); }
+    /// A further text below, in the manner of the body.
+    ThemedLabel* addText();
+
+    const StepMarker& marker() const { return *m_marker; }
+    QString title() const { return m_title->text(); }
+    QString body() const { return m_body->text(); }
+
+  private:
+    ThemedLabel* makeText();
+
+    StepMarker* m_marker;
+    ThemedLabel* m_title;
+    QVBoxLayout* m_column;
+    ThemedLabel* m_body;
+};
+
+} // namespace quillon

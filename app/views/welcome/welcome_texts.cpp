@@ -1,0 +1,99 @@
+#include "welcome_texts.h"
+
+#include <quillon/app/views/components/text.h>
+
+#include <QCoreApplication>
+
+namespace quillon::WelcomeTexts {
+
+namespace {
+
+QString nameOf(TriggerKey key) {
+    switch (key) {
+    case TriggerKey::command: return QCoreApplication::translate("Welcome", "Command");
+    case TriggerKey::option: return QCoreApplication::translate("Welcome", "Option");
+    case TriggerKey::control: return QCoreApplication::translate("Welcome", "Control");
+    }
+    return {};
+}
+
+QString glyphOf(TriggerKey key) {
+    return text(glyph(key));
+}
+
+} // namespace
+
+QString title() {
+    return QCoreApplication::translate("Welcome", "Welcome to Quillon");
+}
+
+QString promise() {
+    return QCoreApplication::translate("Welcome", "Learn the shortcuts of the apps you already use.");
+}
+
+QString allowTitle() {
+    return QCoreApplication::translate("Welcome", "Allow Accessibility");
+}
+
+QString allowBody(const Vocabulary& vocabulary) {
+    return QCoreApplication::translate(
+               "Welcome",
+               "Quillon reads the front app’s menus to find their shortcuts. %1 asks you to allow this once "
+               "in %2. Turn on %3 there; this window notices by itself.")
+        .arg(vocabulary.accessibilityAsker, vocabulary.accessibilityPlace, vocabulary.accessibilitySwitch);
+}
+
+QString allowAccessibility() {
+    return QCoreApplication::translate("Welcome", "Allow Accessibility…");
+}
+
+QString openSystemSettings() {
+    return QCoreApplication::translate("Welcome", "Open System Settings");
+}
+
+QString allowed() {
+    return QCoreApplication::translate("Welcome", "Allowed");
+}
+
+QString holdTitle(TriggerKey trigger) {
+    return QCoreApplication::translate("Welcome", "Hold %1 in any app").arg(glyphOf(trigger));
+}
+
+QString holdBody(TriggerKey trigger) {
+    return QCoreApplication::translate(
+               "Welcome",
+               "Keep the %1 key (%2) down for a moment and that app’s shortcuts appear, grouped by menu. Let "
+               "go to close it, or click it to keep it open and search. No other permission is needed for "
+               "this.")
+        .arg(nameOf(trigger), glyphOf(trigger));
+}
+
+QString privacyTitle(const Vocabulary& vocabulary) {
+    return QCoreApplication::translate("Welcome", "Nothing leaves your %1").arg(vocabulary.computer);
+}
+
+QString privacyBody(const Vocabulary& vocabulary) {
+    return QCoreApplication::translate(
+               "Welcome", "Menus, counts, pins and notes stay in your %1. Quillon only notices shortcuts and "
+                          "menu clicks "
+                          "(never what you type) and goes online only to look for updates.")
+        .arg(vocabulary.dataPlace);
+}
+
+QString step(int number) {
+    return QCoreApplication::translate("Welcome", "Step %1").arg(number);
+}
+
+QString stepDone(int number) {
+    return QCoreApplication::translate("Welcome", "Step %1, done").arg(number);
+}
+
+QString later() {
+    return QCoreApplication::translate("Welcome", "Later");
+}
+
+QString done() {
+    return QCoreApplication::translate("Welcome", "Done");
+}
+
+} // namespace quillon::WelcomeTexts
