@@ -80,7 +80,8 @@ bool startsProgram(const std::string& entry) {
     if (!file)
         return false;
     const std::unique_ptr<GDesktopAppInfo, Unref> app(g_desktop_app_info_new_from_keyfile(file.get()));
-    if (!app || g_desktop_app_info_get_is_hidden(app.get()) != FALSE
+    if (!app || g_desktop_app_info_has_key(app.get(), G_KEY_FILE_DESKTOP_KEY_EXEC) == FALSE
+        || g_desktop_app_info_get_is_hidden(app.get()) != FALSE
         || g_desktop_app_info_get_show_in(app.get(), nullptr) == FALSE)
         return false;
     return g_desktop_app_info_has_key(app.get(), enabledKey) == FALSE
