@@ -16,17 +16,21 @@ constexpr int controlGap = 16;
 
 } // namespace
 
-FormRow::FormRow(ThemeSource& themes, const QString& text, QWidget* parent)
+FormRow::FormRow(ThemeSource& themes, QWidget* parent)
     : QWidget(parent), m_themes(themes), m_column(new QVBoxLayout(this)) {
     m_column->setContentsMargins(sidePadding, endPadding, sidePadding, endPadding);
     m_column->setSpacing(noteGap);
-    m_column->addWidget(makeText(text, &Palette::primary));
+}
+
+FormRow* FormRow::ofText(ThemeSource& themes, const QString& text, QWidget* parent) {
+    auto* row = new FormRow(themes, parent);
+    row->m_column->addWidget(row->makeText(text, &Palette::primary));
+    return row;
 }
 
 FormRow::FormRow(ThemeSource& themes, const QString& label, QWidget* control, QWidget* parent)
-    : QWidget(parent), m_themes(themes), m_column(new QVBoxLayout(this)), m_control(control) {
-    m_column->setContentsMargins(sidePadding, endPadding, sidePadding, endPadding);
-    m_column->setSpacing(noteGap);
+    : FormRow(themes, parent) {
+    m_control = control;
     auto* line = new QHBoxLayout;
     line->setSpacing(controlGap);
     ThemedLabel* const name = makeText(label, &Palette::primary);

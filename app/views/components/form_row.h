@@ -18,7 +18,7 @@ class FormRow : public QWidget {
     FormRow(ThemeSource& themes, const QString& label, QWidget* control, QWidget* parent = nullptr);
 
     /// A row that is nothing but text.
-    FormRow(ThemeSource& themes, const QString& text, QWidget* parent = nullptr);
+    static FormRow* ofText(ThemeSource& themes, const QString& text, QWidget* parent);
 
     /// Appends a line in the secondary colour, wrapped where it does not fit.
     ThemedLabel* addNote(const QString& text);
@@ -32,6 +32,7 @@ class FormRow : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    FormRow(ThemeSource& themes, QWidget* parent);
     ThemedLabel* makeText(const QString& text, QColor Palette::*colour);
 
     ThemeSource& m_themes;

@@ -13,8 +13,9 @@ PrivacyPage::PrivacyPage(
     : SettingsPage(themeSource, parent), m_model(model),
       m_erase(new DestructiveButton(themeSource, SettingsTexts::eraseEverything())) {
     FormGroup* const facts = addGroup();
-    facts->addRow(new FormRow(themeSource, SettingsTexts::whatIsKept(Vocabulary::here(), dataFolder), facts));
-    facts->addRow(new FormRow(themeSource, SettingsTexts::goesOnline(), facts));
+    facts->addRow(
+        FormRow::ofText(themeSource, SettingsTexts::whatIsKept(Vocabulary::here(), dataFolder), facts));
+    facts->addRow(FormRow::ofText(themeSource, SettingsTexts::goesOnline(), facts));
 
     auto* const line = new QWidget;
     auto* const row = new QHBoxLayout(line);
