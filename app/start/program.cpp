@@ -4,7 +4,10 @@
 #include "showcase.h"
 #include "toast_content.h"
 
+#include <quillon/app/views/settings/shown_path.h>
+
 #include <QApplication>
+#include <QDir>
 
 #include <unistd.h>
 
@@ -55,7 +58,9 @@ Program::Program(Platform& platform)
            .openWindow = [this](WindowName name) { m_model.requestWindow(name); },
            .checkForUpdates = [this] { m_updates.checkForUpdates(); },
            .quit = [] { QApplication::quit(); }}),
-      m_windowOffers(offerWindows(m_windows, {m_model, m_themes, m_icons, *m_desktop})),
+      m_windowOffers(offerWindows(
+          m_windows, {m_model, m_themes, m_icons, *m_desktop,
+                      shownPath(platform.dataFolder(), QDir::homePath().toStdString())})),
       m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {
     const auto applyKeyLabels = [this] { m_themes.setKeyLabels(m_settings.keyLabels()); };
     applyKeyLabels();

@@ -1,5 +1,6 @@
 #include "window_contents.h"
 
+#include <quillon/app/views/settings/settings_view.h>
 #include <quillon/app/views/welcome/welcome_view.h>
 
 #include <memory>
@@ -10,6 +11,7 @@ namespace {
 
 /// The views say themselves when they need more.
 constexpr QSize welcomeSize(560, 480);
+constexpr QSize settingsSize(560, 420);
 
 } // namespace
 
@@ -22,6 +24,16 @@ std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds
         WindowName::welcome,
         {.make = [needs] { return std::make_unique<WelcomeView>(needs.model, needs.themes); },
          .size = welcomeSize});
+    offer(
+        WindowName::settings,
+        {.make =
+             [needs] {
+                 return std::make_unique<SettingsView>(
+                     needs.model, needs.themes,
+                     SettingsView::Needs{
+                         needs.desktop.sessionStart(), needs.desktop.launcherKey(), needs.dataFolder});
+             },
+         .size = settingsSize});
     return offers;
 }
 

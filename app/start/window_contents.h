@@ -7,6 +7,8 @@
 #include <quillon/app/views/windows/titled_windows.h>
 #include <quillon/kit/base/subscription.h>
 
+#include <QString>
+
 #include <vector>
 
 namespace quillon {
@@ -17,6 +19,7 @@ struct WindowNeeds {
     ThemeSource& themes;
     AppIconCache& icons;
     Desktop& desktop;
+    QString dataFolder = {}; ///< where everything learned is kept, as it is shown; empty for nowhere
 };
 
 /// Has `windows` offer every window that this program has, while the handles live.

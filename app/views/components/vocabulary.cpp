@@ -10,6 +10,9 @@ Vocabulary Vocabulary::macOS() {
         .system = QCoreApplication::translate("Vocabulary", "macOS"),
         .accessibilitySettings =
             QCoreApplication::translate("Vocabulary", "System Settings > Privacy & Security > Accessibility"),
+        .commandKey = {},
+        .optionKey = {},
+        .controlKey = {},
         .accessibilityAsker = QCoreApplication::translate("Vocabulary", "macOS"),
         .accessibilityPlace =
             QCoreApplication::translate("Vocabulary", "System Settings > Privacy & Security > Accessibility"),
@@ -24,6 +27,9 @@ Vocabulary Vocabulary::linuxDesktop() {
         .system = QCoreApplication::translate("Vocabulary", "Linux"),
         .accessibilitySettings =
             QCoreApplication::translate("Vocabulary", "your desktop’s accessibility settings"),
+        .commandKey = QCoreApplication::translate("Vocabulary", "the Super or Windows key"),
+        .optionKey = QCoreApplication::translate("Vocabulary", "Alt"),
+        .controlKey = QCoreApplication::translate("Vocabulary", "Ctrl"),
         .accessibilityAsker = QCoreApplication::translate("Vocabulary", "Your desktop"),
         .accessibilityPlace =
             QCoreApplication::translate("Vocabulary", "its accessibility settings or in this window"),

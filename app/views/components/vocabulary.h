@@ -10,6 +10,9 @@ struct Vocabulary {
     QString computer;              ///< "your …"
     QString system;                ///< what provides the menus
     QString accessibilitySettings; ///< where reading menus is allowed
+    QString commandKey;            ///< where ⌘ is on the keyboard; empty where it is labelled so
+    QString optionKey;             ///< likewise of ⌥
+    QString controlKey;            ///< likewise of ⌃
     QString accessibilityAsker;    ///< who wants it to be allowed; begins a sentence
     QString accessibilityPlace;    ///< where this is done: "in …"
     QString accessibilitySwitch;   ///< what is turned on there

@@ -6,6 +6,7 @@
 #include <quillon/app/platform/linux/access/accessibility_bus_access.h>
 #include <quillon/app/platform/linux/applications/xdg_app_icons.h>
 #include <quillon/app/platform/linux/atspi/open_menus.h>
+#include <quillon/app/platform/linux/launcher/session_settings.h>
 #include <quillon/app/platform/linux/look/xdg_appearance.h>
 #include <quillon/app/platform/linux/software/xdg_software_pages.h>
 #include <quillon/app/platform/linux/tray/linux_tray.h>
@@ -56,7 +57,9 @@ LinuxMenuUse::MakeLookup lookupInOpenMenus() {
 } // namespace
 
 LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& background, const Clock& clock)
-    : m_identifier(background, clock), m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
+    : m_identifier(background, clock),
+      m_launcherKey(background, processEnvironment("XDG_CURRENT_DESKTOP"), sessionSettings()),
+      m_access(std::make_unique<AccessibilityBusAccess>(sessionBus)),
       m_appearance(std::make_unique<XdgAppearance>(sessionBus)),
       m_icons(std::make_unique<XdgAppIcons>(m_identifier)),
       m_softwarePages(std::make_unique<XdgSoftwarePages>()), m_x11(X11Connection::open()),

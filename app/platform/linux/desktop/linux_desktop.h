@@ -4,6 +4,8 @@
 
 #include <quillon/app/platform/linux/applications/app_identifier.h>
 #include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
+#include <quillon/app/platform/linux/launcher/desktop_launcher_key.h>
+#include <quillon/app/platform/linux/session/xdg_session_start.h>
 #include <quillon/app/platform/none/no_desktop.h>
 #include <quillon/app/platform/qt/panels/qt_panel_maker.h>
 #include <quillon/app/ports/background.h>
@@ -42,8 +44,8 @@ class LinuxDesktop final : public Desktop {
     PanelMaker& panels() override { return m_panels; }
     Foreground& foreground() override;
     Tray& tray() override { return *m_tray; }
-    SessionStart& sessionStart() override { return m_none.sessionStart; }
-    LauncherKey& launcherKey() override { return m_none.launcherKey; }
+    SessionStart& sessionStart() override { return m_sessionStart; }
+    LauncherKey& launcherKey() override { return m_launcherKey; }
     SilentApps& silentApps() override { return m_none.silentApps; }
     SoftwarePages& softwarePages() override { return *m_softwarePages; }
 
@@ -52,6 +54,8 @@ class LinuxDesktop final : public Desktop {
     AppIdentifier m_identifier;
     AtspiMenuReader m_menus;
     LoggedMenuReader m_menuReader{m_menus};
+    XdgSessionStart m_sessionStart;
+    DesktopLauncherKey m_launcherKey;
     std::unique_ptr<AccessibilityAccess> m_access;
     std::unique_ptr<Appearance> m_appearance;
     std::unique_ptr<XdgAppIcons> m_icons;

@@ -1,4 +1,5 @@
 #include <quillon/app/views/components/colours.h>
+#include <quillon/app/views/components/destructive_button.h>
 #include <quillon/app/views/components/palette.h>
 
 #include <gtest/gtest.h>
@@ -33,6 +34,10 @@ TEST_P(PaletteTest, BadgesAndButtonsAreReadable) {
     for (const QColor& ground : {palette.card, hoveredRow})
         EXPECT_GE(Colours::contrast(palette.badgeText, Colours::over(palette.badge, ground)), 4.5);
     EXPECT_GE(Colours::contrast(palette.onAccent, palette.accent), 4.5);
+}
+
+TEST_P(PaletteTest, WhatDestroysIsReadable) {
+    EXPECT_GE(Colours::contrast(DestructiveButton::textColour(GetParam()), palette.card), 4.5);
 }
 
 TEST_P(PaletteTest, TheFocusRingAndThePinStandOut) {

@@ -3,6 +3,7 @@
 #include "symbol_pictures.h"
 #include "tray_pictures.h"
 #include "update_scenes.h"
+#include "window_scenes.h"
 
 #include <quillon/app/languages/translations.h>
 #include <quillon/app/platform/qt/menus/pop_up_menu.h>
@@ -17,7 +18,9 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <memory>
 #include <vector>
 
 namespace quillon {
@@ -63,27 +66,56 @@ bool drawTrayMenu(const TrayMenuScene& scene, const Look& look, const QString& p
     return onDesktop(menu.menu(), look.scheme).save(path);
 }
 
+bool drawWindow(const WindowScene& scene, const Look& look, KeyLabels keys, const QString& path) {
+    ViewDesk desk;
+    desk.desktop.appearance.set(look);
+    desk.settings.setKeyLabels(keys);
+    const std::unique_ptr<QWidget> window = scene.show(desk);
+    QApplication::processEvents();
+    QWidget* const part = scene.part ? scene.part(*window) : window.get();
+    return part && onDesktop(*part, look.scheme).save(path);
+}
+
+/// Any picture, by its name.
+struct Picture {
+    QString name;
+    std::function<bool(const Look& look, const QString& path)> draw;
+};
+
+std::vector<Picture> allPictures(KeyLabels keys) {
+    std::vector<Picture> pictures;
+    const auto add = [&pictures](const auto& scenes, const auto& drawOne) {
+        for (const auto& scene : scenes)
+            pictures.push_back({scene.name, [scene, drawOne](const Look& look, const QString& path) {
+                                    return drawOne(scene, look, path);
+                                }});
+    };
+    const auto drawPanel = [keys](const Scene& scene, const Look& look, const QString& path) {
+        return draw(scene, look, keys, path);
+    };
+    for (const auto& scenes : {overlayScenes(), toastScenes(), updateScenes()})
+        add(scenes, drawPanel);
+    add(settingsScenes(), [keys](const WindowScene& scene, const Look& look, const QString& path) {
+        return drawWindow(scene, look, keys, path);
+    });
+    add(trayMenuScenes(), drawTrayMenu);
+    return pictures;
+}
+
 int drawAll(const QString& folder, const QString& only, KeyLabels keys, Look look) {
-    std::vector<Scene> scenes = overlayScenes();
-    std::ranges::move(toastScenes(), std::back_inserter(scenes));
-    std::ranges::move(updateScenes(), std::back_inserter(scenes));
+    const std::vector<Picture> pictures = allPictures(keys);
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
         look.scheme = scheme;
         const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;
-        const auto drawEach = [&](const auto& ofKind, auto drawOne) {
-            return std::ranges::all_of(ofKind, [&](const auto& scene) {
-                const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);
-                if (!scene.name.contains(only) || drawOne(scene, look, path))
-                    return true;
+        for (const Picture& picture : pictures) {
+            if (!picture.name.contains(only))
+                continue;
+            const QString path = QDir(folder).filePath(picture.name + suffix + u".png"_s);
+            if (!picture.draw(look, path)) {
                 QTextStream(stderr) << "cannot draw " << path << Qt::endl;
-                return false;
-            });
-        };
-        const auto drawScene = [keys](const Scene& scene, const Look& in, const QString& path) {
-            return draw(scene, in, keys, path);
-        };
-        if (!drawEach(scenes, drawScene) || !drawEach(trayMenuScenes(), drawTrayMenu))
-            return 1;
+                return 1;
+            }
+        }
     }
     return 0;
 }

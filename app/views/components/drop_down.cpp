@@ -1,0 +1,92 @@
+#include "drop_down.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr int sidePadding = 11;
+constexpr int endPadding = 6;
+constexpr int arrowsWidth = 8;
+constexpr int arrowsGap = 10;
+constexpr double cornerRadius = 8;
+/// Between the body and the ring that shows the keyboard's focus.
+constexpr int ringGap = 3;
+constexpr double edgeOpacity = 0.16;
+
+/// Two small arrows, up and down.
+void paintArrows(QPainter& painter, const QPointF& centre) {
+    constexpr double halfWidth = arrowsWidth / 2.0 - 0.5;
+    constexpr double height = 3.5;
+    constexpr double gap = 2;
+    for (const double direction : {-1.0, 1.0}) {
+        QPainterPath arrow(centre + QPointF(-halfWidth, direction * gap));
+        arrow.lineTo(centre + QPointF(0, direction * (gap + height)));
+        arrow.lineTo(centre + QPointF(halfWidth, direction * gap));
+        painter.drawPath(arrow);
+    }
+}
+
+} // namespace
+
+DropDown::DropDown(ThemeSource& themes, QWidget* parent) : QComboBox(parent), m_themes(themes) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus);
+    m_subscription = themes.changed.subscribe([this] { follow(); });
+    follow();
+}
+
+void DropDown::follow() {
+    setFont(m_themes.theme().styles.body);
+    updateGeometry();
+    update();
+}
+
+QSize DropDown::sizeHint() const {
+    const QFontMetrics metrics(m_themes.theme().styles.body);
+    int widest = 0;
+    for (int index = 0; index < count(); ++index)
+        widest = std::max(widest, metrics.horizontalAdvance(itemText(index)));
+    return {
+        widest + 2 * sidePadding + arrowsGap + arrowsWidth + 2 * ringGap,
+        metrics.height() + 2 * endPadding + 2 * ringGap};
+}
+
+/// The page is scrolled, not what happens to lie under the pointer.
+void DropDown::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+void DropDown::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Palette& palette = m_themes.theme().palette;
+    const QRectF body = QRectF(rect()).adjusted(ringGap, ringGap, -ringGap, -ringGap);
+    painter.setBrush(Qt::NoBrush);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette.focusRing, 1.5));
+        painter.drawRoundedRect(body.adjusted(-2.25, -2.25, 2.25, 2.25), cornerRadius + 2, cornerRadius + 2);
+    }
+    painter.setPen(QPen(palette.primaryAt(edgeOpacity), 1));
+    if (underMouse())
+        painter.setBrush(palette.hover);
+    painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius - 0.5, cornerRadius - 0.5);
+
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    painter.setPen(palette.primary);
+    const QRectF text = body.adjusted(sidePadding, 0, -sidePadding, 0);
+    painter.drawText(
+        text, static_cast<int>(Qt::AlignVCenter) | (isMirrored ? Qt::AlignRight : Qt::AlignLeft),
+        currentText());
+    painter.setPen(QPen(palette.secondary, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    const double arrows = isMirrored ? text.left() + arrowsWidth / 2.0 : text.right() - arrowsWidth / 2.0;
+    paintArrows(painter, QPointF(arrows, body.center().y()));
+}
+
+} // namespace quillon

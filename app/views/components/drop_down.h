@@ -1,0 +1,30 @@
+#pragma once
+
+#include "theme_source.h"
+
+#include <QComboBox>
+
+namespace quillon {
+
+/// One of a few choices, which open below each other.
+class DropDown : public QComboBox {
+    Q_OBJECT
+
+  public:
+    explicit DropDown(ThemeSource& themes, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void follow();
+
+    ThemeSource& m_themes;
+    Subscription m_subscription;
+};
+
+} // namespace quillon
