@@ -142,9 +142,12 @@ void AppModel::read(const RunningApp& app) {
 
 void AppModel::sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
     const auto front = m_services.frontApplication.current();
-    if (m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app)))
+    const bool isKept = m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app));
+    if (isKept)
         m_save.schedule();
     tellDifferences();
+    if (isKept)
+        changed.emit(ModelField::sheets);
 }
 
 /// Tells what became another sheet or reading since it was told last. Called when a change is done as a
@@ -268,6 +271,7 @@ void AppModel::eraseEverything() {
     m_save.cancel();
     m_writes.finishWith([folder = m_folder] { folder->erase(); });
     tellDifferences();
+    changed.emit(ModelField::sheets);
 }
 
 void AppModel::showSample(AppSheet sheet, UsageRecords usage, Annotations annotations) {

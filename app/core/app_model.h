@@ -50,6 +50,7 @@ enum class ModelField {
     settingsTab,
     trusted,
     current,
+    sheets,
     reading,
     query,
     overlaySticky,
@@ -165,6 +166,10 @@ class AppModel {
     /// The shortcut of a command of the current application was typed.
     void handleTyped(const MenuEntry& entry);
 
+    /// A practice question about a command of an application was answered: counted.
+    void practiced(const std::string& bundleID, const std::string& entryID, bool correct) {
+        m_records.practiced(bundleID, entryID, correct);
+    }
     /// Pins or unpins a command of an application.
     void togglePin(const std::string& bundleID, const std::string& entryID);
     void requestWindow(WindowName name) { m_services.windows.open(name); }

@@ -19,6 +19,11 @@ void LearnedRecords::nudged(const std::string& bundleID, const std::string& entr
     changed.emit({bundleID, entryID});
 }
 
+void LearnedRecords::practiced(const std::string& bundleID, const std::string& entryID, bool correct) {
+    m_usage.practiced(bundleID, entryID, correct);
+    changed.emit({bundleID, entryID});
+}
+
 void LearnedRecords::togglePin(const std::string& bundleID, const std::string& entryID) {
     m_annotations.togglePin(bundleID, entryID);
     changed.emit({bundleID, entryID});

@@ -34,6 +34,8 @@ class LearnedRecords {
     void click(const std::string& bundleID, const std::string& entryID, Instant time);
     void typed(const std::string& bundleID, const std::string& entryID);
     void nudged(const std::string& bundleID, const std::string& entryID, Instant time);
+    /// A practice question about the command was answered.
+    void practiced(const std::string& bundleID, const std::string& entryID, bool correct);
     void togglePin(const std::string& bundleID, const std::string& entryID);
 
     /// Takes over all records at once: those of an earlier run, or none.

@@ -1,5 +1,6 @@
 #include "window_contents.h"
 
+#include <quillon/app/views/practice/practice_view.h>
 #include <quillon/app/views/settings/settings_view.h>
 #include <quillon/app/views/welcome/welcome_view.h>
 
@@ -12,6 +13,7 @@ namespace {
 /// The views say themselves when they need more.
 constexpr QSize welcomeSize(560, 480);
 constexpr QSize settingsSize(560, 420);
+constexpr QSize practiceSize(480, 400);
 
 } // namespace
 
@@ -24,6 +26,11 @@ std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds
         WindowName::welcome,
         {.make = [needs] { return std::make_unique<WelcomeView>(needs.model, needs.themes); },
          .size = welcomeSize});
+    offer(
+        WindowName::practice,
+        {.make = [needs] { return std::make_unique<PracticeView>(needs.model, needs.themes); },
+         .size = practiceSize,
+         .escape = EscapeKey::doesNothing});
     offer(
         WindowName::settings,
         {.make =

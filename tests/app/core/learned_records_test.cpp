@@ -28,9 +28,11 @@ TEST_F(LearnedRecordsTest, EveryUseTellsWhoseOnce) {
     records.click("a", "x", time);
     records.typed("a", "x");
     records.nudged("a", "y", time);
+    records.practiced("a", "z", true);
+    records.practiced("a", "z", false);
     EXPECT_EQ(records.usage().record("a", "x"), (UsageRecord{.clicked = 1, .typed = 1, .lastClicked = time}));
     EXPECT_EQ(records.usage().record("a", "y"), UsageRecord{.lastNudged = time});
-    EXPECT_EQ(told, (std::vector<RecordChange>{{"a", "x"}, {"a", "x"}, {"a", "y"}}));
+    EXPECT_EQ(told, (std::vector<RecordChange>{{"a", "x"}, {"a", "x"}, {"a", "y"}, {"a", "z"}, {"a", "z"}}));
 }
 
 TEST_F(LearnedRecordsTest, ReplacingAllConcernsEveryApplication) {

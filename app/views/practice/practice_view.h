@@ -1,0 +1,79 @@
+#pragma once
+
+#include <quillon/app/core/app_model.h>
+#include <quillon/app/core/practice_round.h>
+#include <quillon/app/views/components/prominent_button.h>
+#include <quillon/app/views/components/themed_label.h>
+#include <quillon/app/views/components/themed_widget.h>
+#include <quillon/kit/coach/practice_deck.h>
+
+#include <QComboBox>
+#include <QStackedLayout>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+class QuestionPage;
+class ResultsPage;
+
+/// Short quizzes on the shortcuts of one application: a command is shown, and the user presses what they
+/// think its shortcut is. While a question waits the view takes the presses that can be answers, wherever in
+/// the window the keyboard is.
+class PracticeView : public ThemedWidget {
+    Q_OBJECT
+
+  public:
+    /// Draws the commands of a round from an application's sheet; none where there is nothing to ask.
+    using Draw = std::function<std::vector<MenuEntry>(
+        const AppSheet& sheet, const UsageRecords& usage, const PracticeDeck::Ids& pinned)>;
+
+    /// Ten commands by chance, those that are clicked and missed most the likeliest.
+    static Draw drawByChance();
+
+    /// `model` and `themes` outlive the view.
+    PracticeView(AppModel& model, ThemeSource& themes, Draw draw = drawByChance(), QWidget* parent = nullptr);
+    ~PracticeView() override;
+
+    /// The application that is practised; empty when there is none.
+    const std::string& appID() const { return m_appID; }
+    const PracticeRound& round() const { return m_round; }
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QWidget* makeStart();
+    QWidget* makeEmpty();
+    void layOut();
+    void followSheets();
+    void choose(const std::string& appID);
+    void newRound();
+    void pressButton();
+    bool takesPress(const QKeyEvent& press);
+    void record(const PracticeResult& result);
+    void refresh();
+    void showPage(QWidget* page);
+
+    AppModel& m_model;
+    Draw m_draw;
+    std::string m_appID;
+    PracticeRound m_round;
+    QWidget* m_practice;
+    QWidget* m_empty;
+    ThemedLabel* m_emptyBody;
+    QComboBox* m_apps;
+    ThemedLabel* m_startText;
+    ProminentButton* m_startButton;
+    QWidget* m_start;
+    QuestionPage* m_question;
+    ResultsPage* m_results;
+    QStackedLayout* m_pages;
+    Subscription m_modelChange;
+};
+
+} // namespace quillon

@@ -1,0 +1,207 @@
+#include <quillon/app/views/practice/practice_view.h>
+#include <quillon/kit/menu/sample_menus.h>
+#include <quillon/tests/app/views/support/printing.h>
+#include <quillon/tests/app/views/support/view_desk.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+
+namespace quillon {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+RawMenuItem command(const char* title, const char* key) {
+    RawMenuItem item;
+    item.title = title;
+    item.cmdChar = key;
+    item.cmdModifiers = 12; // ⌃ without ⌘
+    return item;
+}
+
+MenuReading menusWith(std::initializer_list<RawMenuItem> items) {
+    RawMenuItem file;
+    file.title = "File";
+    file.children = items;
+    return {{file}, ReadOutcome::complete};
+}
+
+class PracticeViewTest : public testing::Test {
+  protected:
+    void open() {
+        view = new PracticeView(
+            desk.model, desk.themes,
+            [](const AppSheet& sheet, const UsageRecords&, const PracticeDeck::Ids&) {
+                return sheet.entries;
+            },
+            &window);
+        view->resize(480, 400);
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+    }
+    /// Has the application's menus read.
+    void read(std::int64_t pid, const std::string& name, const MenuReading& menus) {
+        const RunningApp app{pid, "org.example." + name, name, {}};
+        desk.desktop.menus.answer(pid, menus);
+        desk.desktop.front.setCurrent(app);
+        desk.desktop.access.setTrusted(true);
+        desk.model.refreshTrust();
+        desk.model.frontAppChanged(app);
+        desk.desktop.background.runAll();
+        QApplication::processEvents();
+    }
+    void readWriter() { read(2, "Writer", menusWith({command("Save", "S"), command("Quit", "Q")})); }
+
+    QStringList texts() const {
+        QStringList texts;
+        for (const auto* label : view->findChildren<QLabel*>())
+            if (label->isVisible() && !label->text().isEmpty())
+                texts.append(label->text());
+        return texts;
+    }
+    QStringList buttons() const {
+        QStringList labels;
+        for (const auto* button : view->findChildren<QAbstractButton*>())
+            if (button->isVisible())
+                labels.append(button->text());
+        return labels;
+    }
+    void press(int key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), held);
+    }
+    UsageRecord record(const char* id) const {
+        return desk.model.usage().record("org.example.Writer", id).value_or(UsageRecord());
+    }
+
+    ViewDesk desk;
+    QWidget window;
+    PracticeView* view = nullptr;
+};
+
+TEST_F(PracticeViewTest, SaysHowToBeginWithoutAnyApp) {
+    open();
+    EXPECT_THAT(
+        texts(),
+        ElementsAre(
+            u"No apps to practise yet"_s, u"Hold ⌘ in an app first, so Quillon can read its shortcuts."_s));
+    EXPECT_TRUE(buttons().isEmpty());
+    desk.model.setTrigger(TriggerKey::option);
+    EXPECT_THAT(texts(), Contains(u"Hold ⌥ in an app first, so Quillon can read its shortcuts."_s));
+}
+
+TEST_F(PracticeViewTest, NoticesTheFirstApp) {
+    open();
+    readWriter();
+    EXPECT_THAT(texts(), ElementsAre(u"Practice"_s, u"Press New Round."_s));
+    EXPECT_THAT(buttons(), ElementsAre(u"New Round"_s));
+    EXPECT_EQ(view->appID(), "org.example.Writer");
+}
+
+TEST_F(PracticeViewTest, OpensForTheApplicationInFrontAndListsAllByName) {
+    read(3, "Zebra", menusWith({command("Save", "S")}));
+    readWriter();
+    open();
+    EXPECT_EQ(view->appID(), "org.example.Writer");
+    const auto& apps = *view->findChild<QComboBox*>();
+    EXPECT_EQ(apps.count(), 2);
+    EXPECT_EQ(apps.currentText(), u"Writer"_s);
+    EXPECT_EQ(apps.itemText(1), u"Zebra"_s);
+    EXPECT_FALSE(apps.accessibleName().isEmpty());
+}
+
+TEST_F(PracticeViewTest, ARightAnswerIsSaidAndCounted) {
+    readWriter();
+    open();
+    press(Qt::Key_Return); // New Round
+    EXPECT_THAT(
+        texts(), ElementsAre(u"Practice"_s, u"1 of 2"_s, u"File"_s, u"Save"_s, u"Press the shortcut"_s));
+    EXPECT_THAT(buttons(), ElementsAre(u"Show Answer"_s));
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(texts(), Contains(u"Right"_s));
+    EXPECT_THAT(buttons(), ElementsAre(u"Next"_s));
+    EXPECT_EQ(record("File › Save").practiceRight, 1);
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(record("File › Save").practiceRight, 1) << "while the answer is shown";
+}
+
+TEST_F(PracticeViewTest, AWrongAnswerTellsWhatWasPressedAndComesAgain) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    press(Qt::Key_X, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_THAT(texts(), Contains(u"You pressed ⌃⇧X"_s));
+    EXPECT_EQ(record("File › Save").practiceWrong, 1);
+    press(Qt::Key_Return); // Next
+    EXPECT_THAT(texts(), Contains(u"2 of 2"_s));
+    press(Qt::Key_Return); // Show Answer
+    EXPECT_EQ(record("File › Quit").practiceWrong, 1);
+    EXPECT_THAT(buttons(), ElementsAre(u"See Results"_s));
+    press(Qt::Key_Return);
+    EXPECT_THAT(
+        texts(),
+        ElementsAre(
+            u"Practice"_s, u"0 of 2 right"_s, u"These come up more next time:"_s, u"Save"_s, u"Quit"_s));
+    EXPECT_THAT(buttons(), ElementsAre(u"Another Round"_s));
+    press(Qt::Key_Return);
+    EXPECT_THAT(texts(), Contains(u"1 of 2"_s));
+}
+
+TEST_F(PracticeViewTest, ACleanRoundIsSaid) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    press(Qt::Key_S, Qt::ControlModifier);
+    press(Qt::Key_Return);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    press(Qt::Key_Return);
+    EXPECT_THAT(texts(), Contains(u"2 of 2 right"_s));
+    EXPECT_THAT(texts(), Contains(u"A clean round. The next one leans on whatever you click next."_s));
+}
+
+TEST_F(PracticeViewTest, ModifiersAndKeysOfTheWindowAreNoAnswers) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    press(Qt::Key_Control, Qt::ControlModifier);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(view->round().isWaiting());
+}
+
+TEST_F(PracticeViewTest, AnAppWithoutPractisableShortcutsIsSaidSo) {
+    readWriter();
+    view = new PracticeView(
+        desk.model, desk.themes,
+        [](const auto&, const auto&, const auto&) { return std::vector<MenuEntry>(); }, &window);
+    window.show();
+    QApplication::processEvents();
+    QTest::mouseClick(view->findChild<QAbstractButton*>(), Qt::LeftButton);
+    EXPECT_THAT(texts(), Contains(u"Writer has no shortcuts to practise."_s));
+}
+
+TEST_F(PracticeViewTest, ErasingEverythingLeavesNothingToPractise) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    desk.model.eraseEverything();
+    EXPECT_THAT(texts(), Contains(u"No apps to practise yet"_s));
+    EXPECT_FALSE(view->round().isDrawn());
+}
+
+TEST(PracticeDrawTest, DrawsTenOfTheSample) {
+    const AppSheet sheet = SampleMenus::sheet();
+    EXPECT_EQ(PracticeView::drawByChance()(sheet, {}, {}).size(), 10U);
+}
+
+} // namespace
+} // namespace quillon
