@@ -20,6 +20,8 @@ Commands:
   (none)      start the program, or bring up the one that runs
   show        open the overlay and keep it open
                 --sample          with a made-up drawing application
+  practice, library, settings, welcome
+              open this window
   sheet       print an application's shortcuts
                 --app NAME        the application with this id or name
                 --pid N           the application of this process
@@ -186,6 +188,13 @@ Command parsePlain(const QStringList& arguments) {
     return T{};
 }
 
+template <WindowName window>
+Command parseWindow(const QStringList& arguments) {
+    if (auto error = readNoOptions(arguments))
+        return *error;
+    return WindowCommand{window};
+}
+
 struct Subcommand {
     const char* name;
     Command (*parse)(const QStringList& arguments);
@@ -195,6 +204,10 @@ constexpr std::array subcommands{
     Subcommand{"apps", parsePlain<AppsCommand>},
     Subcommand{"sheet", parseSheet},
     Subcommand{"show", parseShow},
+    Subcommand{"practice", parseWindow<WindowName::practice>},
+    Subcommand{"library", parseWindow<WindowName::library>},
+    Subcommand{"settings", parseWindow<WindowName::settings>},
+    Subcommand{"welcome", parseWindow<WindowName::welcome>},
     Subcommand{"stats", parseStats},
     Subcommand{"doctor", parsePlain<DoctorCommand>},
     Subcommand{"quit", parsePlain<QuitCommand>},

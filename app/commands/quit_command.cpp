@@ -7,6 +7,7 @@ ExitCode runQuit(RunningProgram& program, Output& output) {
     case RunningProgram::Answer::done: return ExitCode::success;
     case RunningProgram::Answer::notRunning:
         return output.fail(ExitCode::failure, "there is no running instance");
+    case RunningProgram::Answer::refused:
     case RunningProgram::Answer::silent:
         return output.fail(ExitCode::failure, "the running instance does not answer");
     case RunningProgram::Answer::unreachable: break;

@@ -11,6 +11,14 @@ namespace {
 /// The views say themselves when they need more.
 constexpr QSize welcomeSize(560, 480);
 
+WelcomeNeeds welcomeNeeds(const WindowNeeds& needs) {
+    return {
+        .timers = needs.timers,
+        .silentApps = needs.desktop.silentApps(),
+        .launcherKey = needs.desktop.launcherKey(),
+        .tray = needs.desktop.tray()};
+}
+
 } // namespace
 
 std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds& needs) {
@@ -20,7 +28,10 @@ std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds
     };
     offer(
         WindowName::welcome,
-        {.make = [needs] { return std::make_unique<WelcomeView>(needs.model, needs.themes); },
+        {.make =
+             [needs] {
+                 return std::make_unique<WelcomeView>(needs.model, needs.themes, welcomeNeeds(needs));
+             },
          .size = welcomeSize});
     return offers;
 }

@@ -2,6 +2,7 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/ports/desktop.h>
+#include <quillon/app/ports/timers.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/windows/titled_windows.h>
@@ -17,6 +18,7 @@ struct WindowNeeds {
     ThemeSource& themes;
     AppIconCache& icons;
     Desktop& desktop;
+    Timers& timers;
 };
 
 /// Has `windows` offer every window that this program has, while the handles live.

@@ -44,7 +44,7 @@ class LinuxDesktop final : public Desktop {
     Tray& tray() override { return m_none.tray; }
     SessionStart& sessionStart() override { return m_none.sessionStart; }
     LauncherKey& launcherKey() override { return m_none.launcherKey; }
-    SilentApps& silentApps() override { return m_none.silentApps; }
+    SilentApps& silentApps() override;
     SoftwarePages& softwarePages() override { return m_none.softwarePages; }
 
   private:
@@ -65,6 +65,7 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<X11Keyboard> m_keyboard;
     std::unique_ptr<X11TypedKeys> m_typedKeys;
     std::unique_ptr<MenuUse> m_menuUse;
+    std::unique_ptr<SilentApps> m_silentApps;
     Subscription m_activations;
 };
 

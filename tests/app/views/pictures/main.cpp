@@ -1,6 +1,7 @@
 #include "cap_pictures.h"
 #include "scenes.h"
 #include "symbol_pictures.h"
+#include "window_scenes.h"
 
 #include <quillon/app/views/components/text.h>
 
@@ -13,7 +14,9 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <memory>
 #include <vector>
 
 namespace quillon {
@@ -48,17 +51,45 @@ bool draw(const Scene& scene, const Look& look, const QString& path) {
     return panel && onDesktop(*panel, look.scheme).save(path);
 }
 
+bool draw(const WindowScene& scene, const Look& look, const QString& path) {
+    ViewDesk desk;
+    desk.desktop.appearance.set(look);
+    const std::unique_ptr<QWidget> window = scene.show(desk);
+    QApplication::processEvents();
+    QWidget* const part = scene.part ? scene.part(*window) : window.get();
+    return part && onDesktop(*part, look.scheme).save(path);
+}
+
+/// Any picture, by its name.
+struct Picture {
+    QString name;
+    std::function<bool(const Look& look, const QString& path)> draw;
+};
+
+std::vector<Picture> allPictures() {
+    std::vector<Picture> pictures;
+    const auto add = [&pictures](const auto& scenes) {
+        for (const auto& scene : scenes)
+            pictures.push_back({scene.name, [scene](const Look& look, const QString& path) {
+                                    return draw(scene, look, path);
+                                }});
+    };
+    add(overlayScenes());
+    add(toastScenes());
+    add(welcomeScenes());
+    return pictures;
+}
+
 int drawAll(const QString& folder, const QString& only, Look look) {
-    std::vector<Scene> scenes = overlayScenes();
-    std::ranges::move(toastScenes(), std::back_inserter(scenes));
+    const std::vector<Picture> scenes = allPictures();
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
         look.scheme = scheme;
         const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;
-        for (const Scene& scene : scenes) {
+        for (const Picture& scene : scenes) {
             if (!scene.name.contains(only))
                 continue;
             const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);
-            if (!draw(scene, look, path)) {
+            if (!scene.draw(look, path)) {
                 QTextStream(stderr) << "cannot draw " << path << Qt::endl;
                 return 1;
             }
