@@ -12,9 +12,6 @@ const Vocabulary& Vocabulary::macOS() {
         .accessibilityAsker = u"macOS"_s,
         .accessibilityPlace = u"System Settings > Privacy & Security > Accessibility"_s,
         .accessibilitySwitch = u"Quillon"_s,
-        .commandKey = {},
-        .optionKey = {},
-        .controlKey = {},
         .dataPlace = u"Library folder"_s,
     };
     return vocabulary;
@@ -28,9 +25,6 @@ const Vocabulary& Vocabulary::linuxDesktop() {
         .accessibilityAsker = u"Your desktop"_s,
         .accessibilityPlace = u"its accessibility settings or in this window"_s,
         .accessibilitySwitch = u"accessibility"_s,
-        .commandKey = u"the Super or Windows key"_s,
-        .optionKey = u"Alt"_s,
-        .controlKey = u"Ctrl"_s,
         .dataPlace = u"data folder"_s,
     };
     return vocabulary;

@@ -13,9 +13,6 @@ struct Vocabulary {
     QString accessibilityAsker;    ///< who wants it to be allowed; begins a sentence
     QString accessibilityPlace;    ///< where this is done: "in …"
     QString accessibilitySwitch;   ///< what is turned on there
-    QString commandKey;            ///< where ⌘ is on the keyboard; empty where it is labelled so
-    QString optionKey;             ///< likewise of ⌥
-    QString controlKey;            ///< likewise of ⌃
     QString dataPlace;             ///< where everything that was learned is: "your …"
 
     static const Vocabulary& macOS();

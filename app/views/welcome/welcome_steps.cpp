@@ -122,7 +122,6 @@ QWidget* WelcomeSteps::makeAllowed(QWidget* parent) {
 void WelcomeSteps::addNotes() {
     m_restart = new WelcomeNote(themes(), Symbol::exclamationMarkTriangle, m_allow);
     m_allow->addPart(m_restart);
-    m_place = m_hold->addText();
     m_launcher = new WelcomeNote(themes(), Symbol::exclamationMarkTriangle, m_hold);
     m_hold->addPart(m_launcher);
     connect(m_launcher, &WelcomeNote::actionPressed, this, [this] {
@@ -177,9 +176,6 @@ void WelcomeSteps::trustChanged() {
 void WelcomeSteps::triggerChanged() {
     const TriggerKey trigger = m_model.trigger();
     m_hold->setText(WelcomeTexts::holdTitle(trigger), WelcomeTexts::holdBody(trigger));
-    const QString place = WelcomeTexts::placeOf(trigger, Vocabulary::here());
-    m_place->setText(place);
-    setShown(*m_place, !place.isEmpty());
     const bool opensLauncher =
         trigger != TriggerKey::control && m_needs.launcherKey.modifier() == modifier(trigger);
     m_launcher->setText(WelcomeTexts::opensLauncher(trigger));

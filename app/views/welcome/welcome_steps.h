@@ -64,7 +64,6 @@ class WelcomeSteps : public ThemedWidget {
     PlainButton* m_openSettings;
     QWidget* m_allowed;
     WelcomeNote* m_restart;
-    ThemedLabel* m_place;
     WelcomeNote* m_launcher;
     WelcomeNote* m_noTray;
     QStringList m_restartNames;

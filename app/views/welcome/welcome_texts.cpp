@@ -69,15 +69,6 @@ QString holdBody(TriggerKey trigger) {
         .arg(nameOf(trigger), glyphOf(trigger));
 }
 
-QString placeOf(TriggerKey trigger, const Vocabulary& vocabulary) {
-    const QString& place = trigger == TriggerKey::command  ? vocabulary.commandKey
-                           : trigger == TriggerKey::option ? vocabulary.optionKey
-                                                           : vocabulary.controlKey;
-    if (place.isEmpty())
-        return {};
-    return QCoreApplication::translate("Welcome", "On this keyboard %1 is %2.").arg(glyphOf(trigger), place);
-}
-
 QString opensLauncher(TriggerKey trigger) {
     return QCoreApplication::translate(
                "Welcome",

@@ -26,8 +26,6 @@ QString allowed();
 QString holdTitle(TriggerKey trigger);
 QString holdBody(TriggerKey trigger);
 
-/// "⌘ is the Super or Windows key."; "" where the key is labelled as it is called here.
-QString placeOf(TriggerKey trigger, const Vocabulary& vocabulary);
 /// Where the desktop uses the trigger key alone, and the button that takes another.
 QString opensLauncher(TriggerKey trigger);
 QString useInstead(TriggerKey other);

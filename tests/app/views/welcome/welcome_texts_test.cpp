@@ -46,16 +46,6 @@ TEST(WelcomeTexts, NameTheTriggerKey) {
     EXPECT_TRUE(WelcomeTexts::holdBody(TriggerKey::control).startsWith(u"Keep the Control key (⌃) down "_s));
 }
 
-TEST(WelcomeTexts, TellWhereTheTriggerKeyIsOnAPCKeyboard) {
-    const Vocabulary& linux = Vocabulary::linuxDesktop();
-    EXPECT_EQ(
-        WelcomeTexts::placeOf(TriggerKey::command, linux),
-        u"On this keyboard ⌘ is the Super or Windows key."_s);
-    EXPECT_EQ(WelcomeTexts::placeOf(TriggerKey::option, linux), u"On this keyboard ⌥ is Alt."_s);
-    EXPECT_EQ(WelcomeTexts::placeOf(TriggerKey::control, linux), u"On this keyboard ⌃ is Ctrl."_s);
-    EXPECT_EQ(WelcomeTexts::placeOf(TriggerKey::command, Vocabulary::macOS()), QString());
-}
-
 TEST(WelcomeTexts, TellWhatThisDesktopAsksFor) {
     EXPECT_EQ(
         WelcomeTexts::opensLauncher(TriggerKey::command),

@@ -141,12 +141,6 @@ TEST_F(WelcomeViewTest, AButtonForSettingsThatAreNotThereGoes) {
     EXPECT_EQ(focused(), u"Allow Accessibility…"_s);
 }
 
-TEST_F(WelcomeViewTest, TellsWhereTheTriggerKeyIs) {
-    EXPECT_TRUE(texts().contains(WelcomeTexts::placeOf(TriggerKey::command, Vocabulary::here())));
-    desk.model.setTrigger(TriggerKey::control);
-    EXPECT_TRUE(texts().contains(WelcomeTexts::placeOf(TriggerKey::control, Vocabulary::here())));
-}
-
 TEST_F(WelcomeViewTest, NamesWhatHasToBeRestartedAndLooksAgain) {
     auto& silent = desk.desktop.silentApps;
     EXPECT_EQ(silent.looks(), 0) << "without permission nothing is read anyway";
