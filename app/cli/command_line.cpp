@@ -20,8 +20,10 @@ Commands:
   (none)      start the program, or bring up the one that runs
   show        open the overlay and keep it open
                 --sample          with a made-up drawing application
-  practice, library, settings, welcome
-              open this window
+  practice    open the practice window
+  library     open the library of all shortcuts
+  settings    open the settings
+  welcome     open the welcome
   sheet       print an application's shortcuts
                 --app NAME        the application with this id or name
                 --pid N           the application of this process
