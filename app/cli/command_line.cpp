@@ -20,6 +20,10 @@ Commands:
   (none)      start the program, or bring up the one that runs
   show        open the overlay and keep it open
                 --sample          with a made-up drawing application
+  practice    open the practice window
+  library     open the library of all shortcuts
+  settings    open the settings
+  welcome     open the welcome
   sheet       print an application's shortcuts
                 --app NAME        the application with this id or name
                 --pid N           the application of this process
@@ -222,6 +226,13 @@ Command parsePlain(const QStringList& arguments) {
     return T{};
 }
 
+template <WindowName window>
+Command parseWindow(const QStringList& arguments) {
+    if (auto error = readNoOptions(arguments))
+        return *error;
+    return WindowCommand{window};
+}
+
 struct Subcommand {
     const char* name;
     Command (*parse)(const QStringList& arguments);
@@ -231,6 +242,10 @@ constexpr std::array subcommands{
     Subcommand{"apps", parsePlain<AppsCommand>},
     Subcommand{"sheet", parseSheet},
     Subcommand{"show", parseShow},
+    Subcommand{"practice", parseWindow<WindowName::practice>},
+    Subcommand{"library", parseWindow<WindowName::library>},
+    Subcommand{"settings", parseWindow<WindowName::settings>},
+    Subcommand{"welcome", parseWindow<WindowName::welcome>},
     Subcommand{"stats", parseStats},
     Subcommand{"doctor", parsePlain<DoctorCommand>},
     Subcommand{"quit", parsePlain<QuitCommand>},

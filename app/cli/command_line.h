@@ -1,5 +1,6 @@
 #pragma once
 
+#include <quillon/app/ports/windows.h>
 #include <quillon/kit/shortcut/key_labels.h>
 
 #include <QStringList>
@@ -55,6 +56,12 @@ struct ShowCommand {
 
     bool operator==(const ShowCommand&) const = default;
 };
+/// `quillon library` and the other windows by their identifiers.
+struct WindowCommand {
+    WindowName window = WindowName::welcome;
+
+    bool operator==(const WindowCommand&) const = default;
+};
 enum class StatsFormat { text, json };
 
 /// `quillon stats`: of the application called `appName`, or of all.
@@ -87,8 +94,8 @@ struct UsageError {
 };
 
 using Command = std::variant<
-    RunCommand, AppsCommand, SheetCommand, ShowCommand, StatsCommand, DoctorCommand, QuitCommand,
-    PrintCommand, UsageError>;
+    RunCommand, AppsCommand, SheetCommand, ShowCommand, WindowCommand, StatsCommand, DoctorCommand,
+    QuitCommand, PrintCommand, UsageError>;
 
 /// Takes a leading --verbose away from the arguments after the program's name; whether there was one.
 bool takeVerbose(QStringList& arguments);

@@ -11,6 +11,7 @@ ExitCode runQuit(RunningProgram& program, Output& output) {
         return output.fail(
             ExitCode::failure, TerminalText::sentence(QCoreApplication::translate(
                                    "CommandLine", "there is no running instance")));
+    case RunningProgram::Answer::refused:
     case RunningProgram::Answer::silent:
         return output.fail(
             ExitCode::failure, TerminalText::sentence(QCoreApplication::translate(

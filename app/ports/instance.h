@@ -1,10 +1,12 @@
 #pragma once
 
 #include "watching.h"
+#include "windows.h"
 
 #include <quillon/kit/base/subscription.h>
 
 #include <functional>
+#include <string>
 
 namespace quillon {
 
@@ -13,6 +15,9 @@ struct InstanceRequests {
     std::function<void()> activate; ///< bring up the menu or a window
     std::function<void()> showOverlay;
     std::function<void()> showSample;
+    std::function<bool(WindowName)> openWindow; ///< false when there is no such window
+    /// Comes ahead of one of these: the desktop's proof that the user wants it.
+    std::function<void(std::string activationToken)> expectActivation;
     std::function<void()> quit;
     std::function<Watching()> watching;
     std::function<bool()> isInTray; ///< a tray shows its icon

@@ -29,10 +29,11 @@ class Execution {
     Execution(int& argc, char** argv, const QStringList& arguments, Output& output)
         : m_argc(argc), m_argv(argv), m_arguments(arguments), m_output(output) {}
 
-    ExitCode operator()(const RunCommand&) { return run(FirstShow::nothing); }
+    ExitCode operator()(const RunCommand&) { return run(ProgramRequest::activate); }
     ExitCode operator()(const ShowCommand& show) {
-        return run(show.sample ? FirstShow::sample : FirstShow::overlay);
+        return run(show.sample ? ProgramRequest::showSample : ProgramRequest::showOverlay);
     }
+    ExitCode operator()(const WindowCommand& command) { return run(openingOf(command.window)); }
     ExitCode operator()(const AppsCommand&) {
         return withPlatform([&](Platform& platform) {
             return runApps(platform.applications(), platform.menuReader(), m_output);
@@ -68,8 +69,8 @@ class Execution {
     }
 
   private:
-    ExitCode run(FirstShow firstShow) {
-        return runProgram(*thisPlatform(), firstShow, m_argc, m_argv, m_output);
+    ExitCode run(ProgramRequest request) {
+        return runProgram(*thisPlatform(), request, m_argc, m_argv, m_output);
     }
 
     /// The command once more, with its texts in the session's language.

@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QDir>
 
+#include <utility>
+
 #include <unistd.h>
 
 namespace quillon {
@@ -59,7 +61,7 @@ Program::Program(Platform& platform)
            .checkForUpdates = [this] { m_updates.checkForUpdates(); },
            .quit = [] { QApplication::quit(); }}),
       m_windowOffers(offerWindows(
-          m_windows, {m_model, m_themes, m_icons, *m_desktop,
+          m_windows, {m_model, m_themes, m_icons, *m_desktop, m_timers,
                       shownPath(platform.dataFolder(), QDir::homePath().toStdString())})),
       m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {
     const auto applyKeyLabels = [this] { m_themes.setKeyLabels(m_settings.keyLabels()); };
@@ -81,33 +83,52 @@ InstanceRequests Program::requests() {
         .activate = [this] { activate(); },
         .showOverlay = [this] { showOverlay(); },
         .showSample = [this] { showSample(); },
+        .openWindow = [this](WindowName name) { return openWindow(name); },
+        .expectActivation = [this](std::string token) { m_desktop->foreground().expect(std::move(token)); },
         .quit = [] { QApplication::quit(); },
         .watching = [this] { return m_model.watching(); },
         .isInTray = [this] { return m_desktop->tray().isShown(); },
     };
 }
 
-void Program::start(FirstShow firstShow) {
+void Program::start(ProgramRequest request) {
     m_model.start();
     m_tray.show();
     m_updates.start();
     // The first hold should not have to wait for what can be made while nobody waits.
     m_preparation = m_timers.after(Seconds(0), [this] { m_model.preparePanels(); });
-    switch (firstShow) {
-    case FirstShow::nothing: m_welcome.begin(); break;
-    case FirstShow::overlay: showOverlayOnceTrusted(); break;
-    case FirstShow::sample: showSample(); break;
-    }
+    const auto window = windowOf(request);
+    if (window && m_windows.offers(*window))
+        onceTrustIsKnown([this, name = *window] { openWindow(name); });
+    else if (request == ProgramRequest::showOverlay)
+        onceTrustIsKnown([this] { showOverlay(); });
+    else if (request == ProgramRequest::showSample)
+        showSample();
+    else
+        m_welcome.begin();
 }
 
-void Program::showOverlayOnceTrusted() {
-    m_trustForFirstShow.wait(patienceForTrust, [this] { m_model.showOverlay(Stickiness::sticky); });
+bool Program::openWindow(WindowName name) {
+    m_welcome.giveWay();
+    m_model.requestWindow(name);
+    return m_model.offersWindow(name);
+}
+
+void Program::onceTrustIsKnown(std::function<void()> show) {
+    m_trustForFirstShow.wait(patienceForTrust, std::move(show));
+}
+
+void Program::activate() {
+    if (!m_welcome.isDue()) {
+        comeUp();
+        return;
+    }
+    m_welcome.giveWay();
+    onceTrustIsKnown([this] { comeUp(); });
 }
 
 /// Whoever has not completed the welcome, or cannot be served, is shown what is missing.
-void Program::activate() {
-    if (m_welcome.isDue())
-        return;
+void Program::comeUp() {
     if (m_model.onboarded() && m_model.trusted())
         m_desktop->tray().popUpMenu();
     else

@@ -11,21 +11,20 @@
 #include <quillon/app/platform/qt/thread_background.h>
 #include <quillon/app/ports/instance.h>
 #include <quillon/app/ports/platform.h>
+#include <quillon/app/ports/running_program.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/panels/view_panel_host.h>
 #include <quillon/app/views/tray/tray_menu.h>
 #include <quillon/app/views/windows/titled_windows.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 namespace quillon {
 
 class Showcase;
-
-/// What the program shows when it starts.
-enum class FirstShow { nothing, overlay, sample };
 
 /// The running program: everything that lives from its start to its end, in the order in which it needs one
 /// another.
@@ -37,12 +36,15 @@ class Program {
 
     /// What other processes of the session may ask of this one.
     InstanceRequests requests();
-    void start(FirstShow firstShow);
+    /// `request` is what it is started for.
+    void start(ProgramRequest request);
 
   private:
     void activate();
+    void comeUp();
+    bool openWindow(WindowName name);
     void showOverlay();
-    void showOverlayOnceTrusted();
+    void onceTrustIsKnown(std::function<void()> show);
     void showSample();
 
     SystemClock m_clock;

@@ -15,31 +15,26 @@ namespace quillon {
 
 namespace {
 
-ProgramRequest requestOf(FirstShow firstShow) {
-    switch (firstShow) {
-    case FirstShow::overlay: return ProgramRequest::showOverlay;
-    case FirstShow::sample: return ProgramRequest::showSample;
-    case FirstShow::nothing: break;
-    }
-    return ProgramRequest::activate;
-}
-
 ExitCode failUnanswered(Output& output) {
     return output.fail(
         ExitCode::failure, TerminalText::sentence(QCoreApplication::translate(
                                "CommandLine", "the running instance does not answer")));
 }
 
+ExitCode failWithoutWindow(Output& output) {
+    return output.fail(ExitCode::failure, "the running instance has no such window");
+}
+
 /// How the event loop ended.
 enum LoopEnd { quit = 0, startAnew = 1 };
 
 /// Runs until the user quits or the session that was lost is back.
-LoopEnd run(Program& program, Instance& instance, FirstShow firstShow) {
+LoopEnd run(Program& program, Instance& instance, ProgramRequest request) {
     const Subscription returned = instance.onReturn([](Instance::Return how) {
         QApplication::exit(how == Instance::Return::startAnew ? LoopEnd::startAnew : LoopEnd::quit);
     });
     const EndSignals signals([] { QApplication::quit(); });
-    program.start(firstShow);
+    program.start(request);
     return static_cast<LoopEnd>(QApplication::exec());
 }
 
@@ -48,9 +43,10 @@ struct Ended {
     LoopEnd how = LoopEnd::quit;
 };
 
-Ended runInstance(Platform& platform, FirstShow firstShow, Output& output) {
-    switch (platform.runningProgram().ask(requestOf(firstShow))) {
+Ended runInstance(Platform& platform, ProgramRequest request, Output& output) {
+    switch (platform.runningProgram().ask(request)) {
     case RunningProgram::Answer::done: return {};
+    case RunningProgram::Answer::refused: return {failWithoutWindow(output)};
     case RunningProgram::Answer::silent: return {failUnanswered(output)};
     case RunningProgram::Answer::notRunning:
     case RunningProgram::Answer::unreachable: break;
@@ -65,18 +61,18 @@ Ended runInstance(Platform& platform, FirstShow firstShow, Output& output) {
             "CommandLine", "the session bus cannot be reached; menus cannot be read, see quillon doctor")));
         break;
     case Instance::Claim::taken:
-        if (platform.runningProgram().ask(requestOf(firstShow)) == RunningProgram::Answer::done)
+        if (platform.runningProgram().ask(request) == RunningProgram::Answer::done)
             return {};
         return {failUnanswered(output)};
     case Instance::Claim::unreachable: return {failUnanswered(output)};
     }
     const std::unique_ptr<QObject> measuring = stallHook();
-    return {ExitCode::success, run(program, *instance, firstShow)};
+    return {ExitCode::success, run(program, *instance, request)};
 }
 
 } // namespace
 
-ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** argv, Output& output) {
+ExitCode runProgram(Platform& platform, ProgramRequest request, int& argc, char** argv, Output& output) {
     if (const auto problem = platform.prepareDisplay())
         return output.fail(ExitCode::failure, TerminalText::of(*problem));
     QApplication::setApplicationName(QStringLiteral("Quillon")); // trays and screen readers tell it
@@ -90,7 +86,7 @@ ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** a
         const QApplication application(argc, argv);
         const Translations translations;
         QApplication::setQuitOnLastWindowClosed(false);
-        ended = runInstance(platform, firstShow, output);
+        ended = runInstance(platform, request, output);
     }
     if (ended.how == LoopEnd::startAnew) {
         std::array<char*, 3> again{argv[0], verbose, nullptr};

@@ -7,8 +7,8 @@
 
 namespace quillon {
 
-/// Is the program, until its user quits it; where it runs already, asks the running one to show itself.
+/// Is the program, until its user quits it; where it runs already, hands it the request.
 /// `argc` and `argv` are those of main, for Qt.
-ExitCode runProgram(Platform& platform, FirstShow firstShow, int& argc, char** argv, Output& output);
+ExitCode runProgram(Platform& platform, ProgramRequest request, int& argc, char** argv, Output& output);
 
 } // namespace quillon

@@ -15,6 +15,14 @@ constexpr QSize welcomeSize(560, 480);
 constexpr QSize settingsSize(560, 420);
 constexpr QSize practiceSize(480, 400);
 
+WelcomeNeeds welcomeNeeds(const WindowNeeds& needs) {
+    return {
+        .timers = needs.timers,
+        .silentApps = needs.desktop.silentApps(),
+        .launcherKey = needs.desktop.launcherKey(),
+        .tray = needs.desktop.tray()};
+}
+
 } // namespace
 
 std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds& needs) {
@@ -24,7 +32,10 @@ std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds
     };
     offer(
         WindowName::welcome,
-        {.make = [needs] { return std::make_unique<WelcomeView>(needs.model, needs.themes); },
+        {.make =
+             [needs] {
+                 return std::make_unique<WelcomeView>(needs.model, needs.themes, welcomeNeeds(needs));
+             },
          .size = welcomeSize});
     offer(
         WindowName::practice,

@@ -2,6 +2,7 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/ports/desktop.h>
+#include <quillon/app/ports/timers.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/theme_source.h>
 #include <quillon/app/views/windows/titled_windows.h>
@@ -19,6 +20,7 @@ struct WindowNeeds {
     ThemeSource& themes;
     AppIconCache& icons;
     Desktop& desktop;
+    Timers& timers;
     QString dataFolder = {}; ///< where everything learned is kept, as it is shown; empty for nowhere
 };
 

@@ -38,12 +38,6 @@ ThemedLabel* WelcomeStep::makeText() {
     return label;
 }
 
-ThemedLabel* WelcomeStep::addText() {
-    ThemedLabel* const label = makeText();
-    addPart(label);
-    return label;
-}
-
 void WelcomeStep::setText(const QString& title, const QString& body) {
     m_title->setText(title);
     m_body->setText(body);

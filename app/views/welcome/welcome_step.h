@@ -21,8 +21,6 @@ class WelcomeStep : public ThemedWidget {
 
     /// A part below the text, over the whole width.
     void addPart(QWidget* part) { m_column->addWidget(part); }
-    /// A further text below, in the manner of the body.
-    ThemedLabel* addText();
 
     const StepMarker& marker() const { return *m_marker; }
     QString title() const { return m_title->text(); }

@@ -3,6 +3,7 @@
 #include <quillon/app/views/components/text.h>
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace quillon::WelcomeTexts {
 
@@ -66,6 +67,32 @@ QString holdBody(TriggerKey trigger) {
                "go to close it, or click it to keep it open and search. No other permission is needed for "
                "this.")
         .arg(nameOf(trigger), glyphOf(trigger));
+}
+
+QString opensLauncher(TriggerKey trigger) {
+    return QCoreApplication::translate(
+               "Welcome",
+               "Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.")
+        .arg(glyphOf(trigger));
+}
+
+QString useInstead(TriggerKey other) {
+    return QCoreApplication::translate("Welcome", "Use %1 Instead").arg(glyphOf(other));
+}
+
+QString restart(const QStringList& apps) {
+    return QCoreApplication::translate(
+               "Welcome", "To show the shortcuts of what was open before, quit it and start it again: %1")
+        .arg(QLocale().createSeparatedList(apps));
+}
+
+QString withoutTray() {
+    return QCoreApplication::translate(
+        "Welcome",
+        "This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that "
+        "opens "
+        "its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon "
+        "--help” do the same.");
 }
 
 QString privacyTitle(const Vocabulary& vocabulary) {

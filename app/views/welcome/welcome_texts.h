@@ -4,6 +4,7 @@
 #include <quillon/app/views/components/vocabulary.h>
 
 #include <QString>
+#include <QStringList>
 
 namespace quillon {
 
@@ -24,6 +25,15 @@ QString allowed();
 /// "Hold ⌘ in any app"
 QString holdTitle(TriggerKey trigger);
 QString holdBody(TriggerKey trigger);
+
+/// Where the desktop uses the trigger key alone, and the button that takes another.
+QString opensLauncher(TriggerKey trigger);
+QString useInstead(TriggerKey other);
+
+/// Names the applications that were open before the permission was given.
+QString restart(const QStringList& apps);
+/// How to reach the program on a desktop that shows no icon of it.
+QString withoutTray();
 
 QString privacyTitle(const Vocabulary& vocabulary);
 QString privacyBody(const Vocabulary& vocabulary);

@@ -1,16 +1,15 @@
 #include "welcome_view.h"
 
-#include "product_mark.h"
-#include "welcome_step.h"
+#include "welcome_steps.h"
 #include "welcome_texts.h"
 
-#include <quillon/app/views/components/accessible_roles.h>
-#include <quillon/app/views/components/symbol_view.h>
 #include <quillon/app/views/components/thin_scroll_bar.h>
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QScreen>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,15 +19,8 @@ namespace quillon {
 
 namespace {
 
-constexpr int markSize = 64;
-constexpr int sidePadding = 36;
-constexpr int topPadding = 28;
-constexpr int bottomPadding = 24;
-constexpr int headerGap = 6;
-constexpr int stepGap = 24;
 constexpr int footerPadding = 20;
 constexpr int buttonGap = 8;
-constexpr int allowedGap = 6;
 constexpr int narrowest = 320;
 constexpr int lowest = 240;
 
@@ -36,13 +28,6 @@ constexpr int lowest = 240;
 int readableWidth(const Theme& theme) {
     constexpr double ems = 43;
     return std::max(560, static_cast<int>(std::lround(ems * pixelSize(theme.styles.body))));
-}
-
-QHBoxLayout* row(QWidget* parent, int gap) {
-    auto* layout = new QHBoxLayout(parent);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(gap);
-    return layout;
 }
 
 /// What became visible or not since the last event is in the layouts' own reckoning only after the next.
@@ -54,140 +39,52 @@ int heightOf(const QWidget& content, int width) {
 
 } // namespace
 
-WelcomeView::WelcomeView(AppModel& model, ThemeSource& themeSource, QWidget* parent)
-    : ThemedWidget(themeSource, parent), m_model(model), m_scroll(new QScrollArea(this)) {
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setWidget(makeSteps());
-    // To be scrolled by the keyboard there has to be something to scroll.
-    const auto followRange = [this](int, int highest) {
-        m_scroll->setFocusPolicy(highest > 0 ? Qt::StrongFocus : Qt::NoFocus);
-    };
-    connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, followRange);
-    followRange(0, 0);
-
+WelcomeView::WelcomeView(
+    AppModel& model, ThemeSource& themeSource, const WelcomeNeeds& needs, QWidget* parent)
+    : ThemedWidget(themeSource, parent), m_model(model), m_steps(new WelcomeSteps(model, themeSource, needs)),
+      m_scroll(makeScroll()), m_footer(makeFooter()) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_scroll, 1);
-    column->addWidget(makeFooter());
-
-    m_modelChange = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
-    trustChanged();
-    triggerChanged();
-    themeChanged();
-    (m_model.trusted() ? static_cast<QWidget*>(m_done) : m_ask)->setFocus();
-}
-
-QWidget* WelcomeView::makeSteps() {
-    auto* content = new QWidget(m_scroll);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(sidePadding, topPadding, sidePadding, bottomPadding);
-    column->setSpacing(stepGap);
-    column->addWidget(makeHeader());
-    const auto addStep = [&](int number) {
-        auto* step = new WelcomeStep(themes(), number, content);
-        column->addWidget(step);
-        return step;
-    };
-    m_allow = addStep(1);
-    m_hold = addStep(2);
-    m_privacy = addStep(3);
-    column->addStretch(1);
-
-    const Vocabulary& vocabulary = Vocabulary::here();
-    m_allow->setText(WelcomeTexts::allowTitle(), WelcomeTexts::allowBody(vocabulary));
-    m_allow->addPart(makePermission());
-    m_privacy->setText(WelcomeTexts::privacyTitle(vocabulary), WelcomeTexts::privacyBody(vocabulary));
-    return content;
-}
-
-QWidget* WelcomeView::makeHeader() {
-    auto* header = new QWidget(this);
-    auto* column = new QVBoxLayout(header);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(headerGap);
-    const auto addLine = [&](const QString& text, ThemedLabel::FontChoice font, QColor Palette::*colour) {
-        auto* label = new ThemedLabel(themes(), std::move(font), colour, header);
-        label->setText(text);
-        label->setAlignment(Qt::AlignHCenter);
-        label->setWordWrap(true);
-        column->addWidget(label);
-    };
-    column->addWidget(new ProductMark(themes(), markSize, header), 0, Qt::AlignHCenter);
-    addLine(
-        WelcomeTexts::title(), [](const TextStyles& styles) { return bold(styles.largeTitle); },
-        &Palette::primary);
-    addLine(
-        WelcomeTexts::promise(), [](const TextStyles& styles) { return styles.title; }, &Palette::secondary);
-    return header;
-}
-
-/// The buttons that ask for the permission, and what takes their place when it was given.
-QWidget* WelcomeView::makePermission() {
-    auto* permission = new QWidget(this);
-    m_permissionButtons = new QWidget(permission);
-    QHBoxLayout* const buttons = row(m_permissionButtons, buttonGap);
-    m_ask = new ProminentButton(themes(), WelcomeTexts::allowAccessibility(), m_permissionButtons);
-    m_openSettings = new PlainButton(themes(), WelcomeTexts::openSystemSettings(), m_permissionButtons);
-    buttons->addWidget(m_ask);
-    buttons->addWidget(m_openSettings);
-    buttons->addStretch(1);
-    connect(m_ask, &QPushButton::clicked, this, [this] { m_model.askForAccessibility(); });
-    connect(m_openSettings, &QPushButton::clicked, this, [this] {
-        if (!m_model.openAccessibilitySettings())
-            m_openSettings->hide();
+    column->addWidget(m_footer);
+    connect(m_steps, &WelcomeSteps::keyboardLost, m_done, [this] { m_done->setFocus(); });
+    // Once the layouts know of it.
+    connect(m_steps, &WelcomeSteps::partsChanged, this, [this] {
+        QTimer::singleShot(0, this, &WelcomeView::makeRoom);
     });
+    themeChanged();
+    QWidget* const ask = m_steps->askButton();
+    (ask ? ask : m_done)->setFocus();
+}
 
-    m_allowed = new QWidget(permission);
-    QHBoxLayout* const allowed = row(m_allowed, allowedGap);
-    auto* label = new ThemedLabel(
-        themes(), [](const TextStyles& styles) { return styles.headline; }, &Palette::primary, m_allowed);
-    label->setText(WelcomeTexts::allowed());
-    allowed->addWidget(new SymbolView(
-        themes(), Symbol::checkmarkCircleFill, theme().symbolSize() + 2, &Palette::accent, m_allowed));
-    allowed->addWidget(label, 1);
-
-    QHBoxLayout* const either = row(permission, 0);
-    either->addWidget(m_permissionButtons);
-    either->addWidget(m_allowed);
-    return permission;
+QScrollArea* WelcomeView::makeScroll() {
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(m_steps);
+    // To be scrolled by the keyboard there has to be something to scroll.
+    scroll->setFocusPolicy(Qt::NoFocus);
+    connect(scroll->verticalScrollBar(), &QScrollBar::rangeChanged, scroll, [scroll](int, int highest) {
+        scroll->setFocusPolicy(highest > 0 ? Qt::StrongFocus : Qt::NoFocus);
+    });
+    return scroll;
 }
 
 QWidget* WelcomeView::makeFooter() {
-    m_footer = new QWidget(this);
-    QHBoxLayout* const buttons = row(m_footer, buttonGap);
+    auto* footer = new QWidget(this);
+    auto* buttons = new QHBoxLayout(footer);
     buttons->setContentsMargins(footerPadding, footerPadding, footerPadding, footerPadding);
-    m_later = new PlainButton(themes(), WelcomeTexts::later(), m_footer);
-    m_done = new ProminentButton(themes(), WelcomeTexts::done(), m_footer);
+    buttons->setSpacing(buttonGap);
+    m_later = new PlainButton(themes(), WelcomeTexts::later(), footer);
+    m_done = new ProminentButton(themes(), WelcomeTexts::done(), footer);
     buttons->addStretch(1);
     buttons->addWidget(m_later);
     buttons->addWidget(m_done);
     connect(m_later, &QPushButton::clicked, this, &WelcomeView::close);
     connect(m_done, &QPushButton::clicked, this, &WelcomeView::finish);
-    return m_footer;
-}
-
-void WelcomeView::modelChanged(ModelField field) {
-    if (field == ModelField::trusted)
-        trustChanged();
-    else if (field == ModelField::trigger)
-        triggerChanged();
-}
-
-void WelcomeView::trustChanged() {
-    const bool trusted = m_model.trusted();
-    const bool hadKeyboard = m_permissionButtons->isAncestorOf(focusWidget());
-    m_permissionButtons->setVisible(!trusted);
-    m_allowed->setVisible(trusted);
-    m_allow->setDone(trusted);
-    if (trusted && hadKeyboard)
-        m_done->setFocus();
-}
-
-void WelcomeView::triggerChanged() {
-    m_hold->setText(WelcomeTexts::holdTitle(m_model.trigger()), WelcomeTexts::holdBody(m_model.trigger()));
+    return footer;
 }
 
 void WelcomeView::finish() {
@@ -199,9 +96,26 @@ void WelcomeView::close() {
     window()->close();
 }
 
+/// What came into view while the window is open makes it taller, as far as the screen has the room.
+void WelcomeView::makeRoom() {
+    const int hidden =
+        m_steps->heightForWidth(m_scroll->viewport()->width()) - m_scroll->viewport()->height();
+    if (hidden <= 0 || !isVisible())
+        return;
+    const QRect room = screen()->availableGeometry();
+    const QRect frame = window()->frameGeometry();
+    const int below = std::max(0, room.bottom() - frame.bottom());
+    const int above = std::max(0, frame.top() - room.top());
+    const int taller = std::min(hidden, below + above);
+    QWidget* const shown = window();
+    if (taller > below)
+        shown->move(shown->x(), shown->y() - (taller - below));
+    shown->resize(shown->width(), shown->height() + taller);
+}
+
 QSize WelcomeView::sizeHint() const {
     const int width = readableWidth(theme());
-    return {width, heightOf(*m_scroll->widget(), width) + m_footer->sizeHint().height()};
+    return {width, heightOf(*m_steps, width) + m_footer->sizeHint().height()};
 }
 
 QSize WelcomeView::minimumSizeHint() const {

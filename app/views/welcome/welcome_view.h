@@ -1,5 +1,7 @@
 #pragma once
 
+#include "welcome_needs.h"
+
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/views/components/plain_button.h>
 #include <quillon/app/views/components/prominent_button.h>
@@ -9,7 +11,7 @@
 
 namespace quillon {
 
-class WelcomeStep;
+class WelcomeSteps;
 
 /// The welcome: asks for the permission to read menus, tells how the overlay is opened and what stays on the
 /// machine. Notices by itself when the permission is given.
@@ -17,8 +19,8 @@ class WelcomeView : public ThemedWidget {
     Q_OBJECT
 
   public:
-    /// Both outlive the view.
-    WelcomeView(AppModel& model, ThemeSource& themes, QWidget* parent = nullptr);
+    /// All of them outlive the view.
+    WelcomeView(AppModel& model, ThemeSource& themes, const WelcomeNeeds& needs, QWidget* parent = nullptr);
 
     /// All of it, where the screen has the room.
     QSize sizeHint() const override;
@@ -29,29 +31,18 @@ class WelcomeView : public ThemedWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    QWidget* makeSteps();
-    QWidget* makeHeader();
-    QWidget* makePermission();
+    QScrollArea* makeScroll();
     QWidget* makeFooter();
-    void modelChanged(ModelField field);
-    void trustChanged();
-    void triggerChanged();
     void finish();
+    void makeRoom();
     void close();
 
     AppModel& m_model;
+    WelcomeSteps* m_steps;
     QScrollArea* m_scroll;
-    WelcomeStep* m_allow;
-    WelcomeStep* m_hold;
-    WelcomeStep* m_privacy;
-    QWidget* m_permissionButtons;
-    ProminentButton* m_ask;
-    PlainButton* m_openSettings;
-    QWidget* m_allowed;
     QWidget* m_footer;
     PlainButton* m_later;
     ProminentButton* m_done;
-    Subscription m_modelChange;
 };
 
 } // namespace quillon

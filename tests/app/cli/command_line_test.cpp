@@ -42,6 +42,15 @@ TEST(CommandLine, KnowsItsPlainCommands) {
     EXPECT_EQ(parse({"show", "--sample"}), Command(ShowCommand{true}));
 }
 
+TEST(CommandLine, EveryWindowIsOpenedByItsIdentifier) {
+    for (const WindowName name : allWindowNames) {
+        const std::string command(identifier(name));
+        EXPECT_EQ(parse({command.c_str()}), Command(WindowCommand{name}));
+        EXPECT_NE(errorOf(parse({command.c_str(), "now"})), "no error");
+        EXPECT_NE(errorOf(parse({command.c_str(), "--app", "geany"})), "no error");
+    }
+}
+
 TEST(CommandLine, ASheetIsOfTheFrontApplicationAsText) {
     EXPECT_EQ(parse({"sheet"}), Command(SheetCommand{}));
     EXPECT_EQ(parse({"sheet", "--front"}), Command(SheetCommand{}));

@@ -1,6 +1,7 @@
 #include "linux_desktop.h"
 
 #include "linux_menu_use.h"
+#include "linux_silent_apps.h"
 #include "logged_app.h"
 
 #include <quillon/app/platform/linux/access/accessibility_bus_access.h>
@@ -85,6 +86,8 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
             .background = background,
             .hasOwnFocus = [] { return QGuiApplication::focusWindow() != nullptr; }},
         m_input);
+    m_silentApps = std::make_unique<LinuxSilentApps>(
+        LinuxSilentApps::ofSession(m_x11, background, m_identifier));
     m_activations = m_front->onActivated(logActivation);
 }
 
@@ -118,6 +121,12 @@ TypedKeys& LinuxDesktop::typedKeys() {
     if (m_typedKeys)
         return *m_typedKeys;
     return m_none.typedKeys;
+}
+
+SilentApps& LinuxDesktop::silentApps() {
+    if (m_silentApps)
+        return *m_silentApps;
+    return m_none.silentApps;
 }
 
 AppIcons& LinuxDesktop::icons() {

@@ -46,7 +46,7 @@ class LinuxDesktop final : public Desktop {
     Tray& tray() override { return *m_tray; }
     SessionStart& sessionStart() override { return m_sessionStart; }
     LauncherKey& launcherKey() override { return m_launcherKey; }
-    SilentApps& silentApps() override { return m_none.silentApps; }
+    SilentApps& silentApps() override;
     SoftwarePages& softwarePages() override { return *m_softwarePages; }
 
   private:
@@ -71,6 +71,7 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<X11TypedKeys> m_typedKeys;
     std::unique_ptr<MenuUse> m_menuUse;
     std::unique_ptr<Tray> m_tray;
+    std::unique_ptr<SilentApps> m_silentApps;
     Subscription m_activations;
 };
 

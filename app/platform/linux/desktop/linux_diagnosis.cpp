@@ -2,8 +2,8 @@
 
 #include "desktop_facts.h"
 
-#include <quillon/app/platform/linux/applications/gtk2_process.h>
 #include <quillon/app/platform/linux/applications/process_facts.h>
+#include <quillon/app/platform/linux/applications/toolkit_libraries.h>
 #include <quillon/app/platform/linux/atspi/accessibility_bus.h>
 #include <quillon/app/platform/linux/atspi/running_apps.h>
 #include <quillon/app/platform/linux/session/bus_running_program.h>
@@ -49,7 +49,7 @@ std::vector<std::string> silentGtk2Programs(const atspi::AccessibilityBusState& 
     std::vector<std::string> names;
     for (const std::int64_t pid : sharing ? programsWithWindows() : std::vector<std::int64_t>()) {
         const bool isSharing = std::ranges::find(*sharing, pid, &atspi::SharingApp::pid) != sharing->end();
-        if (!isSharing && usesGtk2(pid, "/proc"))
+        if (!isSharing && toolkitLibraries(pid, "/proc").gtk2)
             names.push_back(readProcess(pid, "/proc").executable);
     }
     return names;

@@ -35,7 +35,7 @@ class LinuxPlatform final : public Platform {
     LoggedMenuReader m_menuReader{m_menus};
     LinuxApplicationList m_applications{m_session};
     LinuxDiagnosis m_diagnosis{m_session, m_applications};
-    BusRunningProgram m_runningProgram{m_session};
+    BusRunningProgram m_runningProgram{m_session, activationTokenOf()};
 };
 
 } // namespace quillon

@@ -48,7 +48,9 @@ Instance::Claim BusInstance::claimOnBus() {
         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
         SLOT(lookForBus()));
     // The object first: whoever sees the name can call it.
-    m_object.emplace(bus, QLatin1StringView(instancePath), *this, QDBusConnection::ExportScriptableSlots);
+    m_object.emplace(
+        bus, QLatin1StringView(instancePath), *this,
+        QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAdaptors);
     m_name.emplace(bus, QLatin1StringView(instanceName), nameMilliseconds);
     // Who has the lock but not the name lost the bus, and nobody can ask it for anything any more.
     const Claim result = !m_name->isOwned()           ? Claim::taken
@@ -60,6 +62,15 @@ Instance::Claim BusInstance::claimOnBus() {
         return result;
     }
     return result;
+}
+
+bool BusInstance::OpenWindow(const QString& identifier, const QString& activationToken) {
+    const auto window = windowOfIdentifier(identifier.toStdString());
+    if (!window || !m_requests.openWindow)
+        return false;
+    if (!activationToken.isEmpty() && m_requests.expectActivation)
+        m_requests.expectActivation(activationToken.toStdString());
+    return m_requests.openWindow(*window);
 }
 
 void BusInstance::lookForBus() {

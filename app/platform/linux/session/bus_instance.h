@@ -1,5 +1,6 @@
 #pragma once
 
+#include "application_interface.h"
 #include "instance_lock.h"
 #include "session_bus.h"
 
@@ -38,6 +39,8 @@ class BusInstance final : public QObject, public Instance {
     Q_SCRIPTABLE void Activate() { call(m_requests.activate); }
     Q_SCRIPTABLE void ShowOverlay() { call(m_requests.showOverlay); }
     Q_SCRIPTABLE void ShowSample() { call(m_requests.showSample); }
+    /// By its identifier; false when there is no such window. The token may be "".
+    Q_SCRIPTABLE bool OpenWindow(const QString& identifier, const QString& activationToken);
     Q_SCRIPTABLE void Quit() { call(m_requests.quit); }
     Q_SCRIPTABLE bool IsWatching() { return watching().holds; }
     Q_SCRIPTABLE bool IsWatchingClicks() { return watching().clicks; }
@@ -58,6 +61,7 @@ class BusInstance final : public QObject, public Instance {
     const SessionBus& m_bus;
     std::chrono::milliseconds m_retryInterval;
     InstanceRequests m_requests;
+    ApplicationInterface* m_application = new ApplicationInterface(m_requests, this);
     InstanceLock m_lock;
     std::optional<BusObject> m_object;
     std::optional<BusName> m_name;

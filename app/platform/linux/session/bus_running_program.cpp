@@ -18,6 +18,10 @@ QString operationOf(ProgramRequest request) {
     case ProgramRequest::showOverlay: return QStringLiteral("ShowOverlay");
     case ProgramRequest::showSample: return QStringLiteral("ShowSample");
     case ProgramRequest::quit: return QStringLiteral("Quit");
+    case ProgramRequest::openWelcome:
+    case ProgramRequest::openLibrary:
+    case ProgramRequest::openPractice:
+    case ProgramRequest::openSettings: return QStringLiteral("OpenWindow");
     case ProgramRequest::activate: break;
     }
     return QStringLiteral("Activate");
@@ -30,21 +34,36 @@ bool isNobodyThere(const QString& error) {
 
 } // namespace
 
-QDBusMessage BusRunningProgram::call(const QString& operation) const {
+QDBusMessage BusRunningProgram::call(const QString& operation, const QVariantList& arguments) const {
     QDBusMessage message = QDBusMessage::createMethodCall(
         QLatin1StringView(instanceName), QLatin1StringView(instancePath),
         QLatin1StringView(instanceInterface), operation);
     message.setAutoStartService(false);
+    message.setArguments(arguments);
     return m_bus.connection().call(message, QDBus::Block, answerMilliseconds);
+}
+
+QDBusMessage BusRunningProgram::send(ProgramRequest request) const {
+    const auto window = windowOf(request);
+    if (!window)
+        return call(operationOf(request));
+    return call(
+        operationOf(request), {QString::fromStdString(std::string(identifier(*window))),
+                               QString::fromStdString(m_activationToken)});
 }
 
 RunningProgram::Answer BusRunningProgram::ask(ProgramRequest request) {
     if (!m_bus.answers())
         return Answer::unreachable;
-    const QDBusMessage answer = call(operationOf(request));
+    const QDBusMessage answer = send(request);
     if (answer.type() == QDBusMessage::ReplyMessage)
-        return Answer::done;
+        return answer.arguments().value(0, true).toBool() ? Answer::done : Answer::refused;
     return isNobodyThere(answer.errorName()) ? Answer::notRunning : Answer::silent;
+}
+
+std::string activationTokenOf(const Environment& environment) {
+    std::string token = environment("XDG_ACTIVATION_TOKEN");
+    return token.empty() ? environment("DESKTOP_STARTUP_ID") : token;
 }
 
 std::optional<bool> BusRunningProgram::askWhether(const QString& question) const {

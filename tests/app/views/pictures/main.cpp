@@ -95,9 +95,11 @@ std::vector<Picture> allPictures(KeyLabels keys) {
     };
     for (const auto& scenes : {overlayScenes(), toastScenes(), updateScenes()})
         add(scenes, drawPanel);
-    add(settingsScenes(), [keys](const WindowScene& scene, const Look& look, const QString& path) {
+    const auto drawOneWindow = [keys](const WindowScene& scene, const Look& look, const QString& path) {
         return drawWindow(scene, look, keys, path);
-    });
+    };
+    for (const auto& scenes : {settingsScenes(), welcomeScenes()})
+        add(scenes, drawOneWindow);
     add(trayMenuScenes(), drawTrayMenu);
     return pictures;
 }

@@ -20,5 +20,6 @@ struct WindowScene {
 };
 
 std::vector<WindowScene> settingsScenes();
+std::vector<WindowScene> welcomeScenes();
 
 } // namespace quillon

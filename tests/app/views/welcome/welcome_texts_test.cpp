@@ -46,6 +46,18 @@ TEST(WelcomeTexts, NameTheTriggerKey) {
     EXPECT_TRUE(WelcomeTexts::holdBody(TriggerKey::control).startsWith(u"Keep the Control key (⌃) down "_s));
 }
 
+TEST(WelcomeTexts, TellWhatThisDesktopAsksFor) {
+    EXPECT_EQ(
+        WelcomeTexts::opensLauncher(TriggerKey::command),
+        u"Your desktop opens its launcher when ⌘ is pressed alone, so holding it may do both."_s);
+    EXPECT_EQ(WelcomeTexts::useInstead(TriggerKey::control), u"Use ⌃ Instead"_s);
+    EXPECT_EQ(
+        WelcomeTexts::restart({u"Designer"_s}),
+        u"To show the shortcuts of what was open before, quit it and start it again: Designer"_s);
+    EXPECT_TRUE(WelcomeTexts::restart({u"A"_s, u"B"_s}).contains(u"A"_s));
+    EXPECT_TRUE(WelcomeTexts::withoutTray().startsWith(u"This desktop shows no tray icons. "_s));
+}
+
 TEST(WelcomeTexts, TellWhatStays) {
     EXPECT_EQ(WelcomeTexts::privacyTitle(Vocabulary::macOS()), u"Nothing leaves your Mac"_s);
     EXPECT_EQ(WelcomeTexts::privacyTitle(Vocabulary::linuxDesktop()), u"Nothing leaves your computer"_s);

@@ -1,5 +1,7 @@
 #include <quillon/app/views/welcome/step_marker.h>
+#include <quillon/app/views/welcome/welcome_note.h>
 #include <quillon/app/views/welcome/welcome_step.h>
+#include <quillon/app/views/welcome/welcome_steps.h>
 #include <quillon/app/views/welcome/welcome_texts.h>
 #include <quillon/app/views/welcome/welcome_view.h>
 #include <quillon/tests/app/views/support/printing.h>
@@ -61,9 +63,25 @@ class WelcomeViewTest : public testing::Test {
         return focus ? focus->text() : QString();
     }
 
+    WelcomeNeeds needs() {
+        return {
+            .timers = desk.desktop.timers,
+            .silentApps = desk.desktop.silentApps,
+            .launcherKey = desk.desktop.launcherKey,
+            .tray = desk.desktop.tray};
+    }
+    /// The texts of the notes that are in view.
+    QStringList notes() const {
+        QStringList texts;
+        for (const auto* note : view.findChildren<WelcomeNote*>())
+            if (note->isVisible())
+                texts.append(note->text());
+        return texts;
+    }
+
     ViewDesk desk;
     QWidget window;
-    WelcomeView& view = *new WelcomeView(desk.model, desk.themes, &window);
+    WelcomeView& view = *new WelcomeView(desk.model, desk.themes, needs(), &window);
 };
 
 TEST_F(WelcomeViewTest, AsksForThePermission) {
@@ -95,7 +113,7 @@ TEST_F(WelcomeViewTest, NoticesByItselfThatThePermissionWasGivenAndTaken) {
 
 TEST_F(WelcomeViewTest, OneMadeLaterKnowsIt) {
     desk.trust();
-    WelcomeView later(desk.model, desk.themes);
+    WelcomeView later(desk.model, desk.themes, needs());
     EXPECT_TRUE(later.findChild<StepMarker*>()->isDone());
 }
 
@@ -112,6 +130,74 @@ TEST_F(WelcomeViewTest, TheHoldFollowsTheTriggerKey) {
     EXPECT_EQ(step(2).title(), u"Hold ⌥ in any app"_s);
     EXPECT_TRUE(step(2).body().startsWith(
         u"Keep the Option key (⌥) down for a moment and that app’s shortcuts appear"_s));
+}
+
+TEST_F(WelcomeViewTest, AButtonForSettingsThatAreNotThereGoes) {
+    desk.desktop.access.setHasSettings(false);
+    QAbstractButton& settings = button(u"Open System Settings"_s);
+    settings.setFocus();
+    settings.click();
+    EXPECT_FALSE(settings.isVisible());
+    EXPECT_EQ(focused(), u"Allow Accessibility…"_s);
+}
+
+TEST_F(WelcomeViewTest, NamesWhatHasToBeRestartedAndLooksAgain) {
+    auto& silent = desk.desktop.silentApps;
+    EXPECT_EQ(silent.looks(), 0) << "without permission nothing is read anyway";
+    desk.trust();
+    EXPECT_EQ(silent.looks(), 1);
+    EXPECT_EQ(notes(), QStringList());
+    silent.answer({"Designer", "Feather\nPad"});
+    EXPECT_EQ(notes(), QStringList(WelcomeTexts::restart({u"Designer"_s, u"Feather␤Pad"_s})));
+    desk.desktop.timers.advance(WelcomeSteps::lookInterval);
+    EXPECT_EQ(silent.looks(), 2);
+    silent.answer({});
+    EXPECT_EQ(notes(), QStringList());
+    desk.desktop.access.setTrusted(false);
+    desk.model.refreshTrust();
+    desk.desktop.timers.advance(WelcomeSteps::lookInterval);
+    EXPECT_EQ(silent.looks(), 2);
+}
+
+TEST_F(WelcomeViewTest, WhatComesIntoViewMakesTheWindowTaller) {
+    const int before = window.height();
+    desk.trust();
+    desk.desktop.silentApps.answer({"Designer"});
+    QApplication::processEvents();
+    view.resize(window.size());
+    QApplication::processEvents();
+    EXPECT_GT(window.height(), before);
+    EXPECT_EQ(view.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(WelcomeViewTest, WhereTheDesktopTakesTheTriggerKeyItOffersAnother) {
+    EXPECT_FALSE(button(u"Use ⌃ Instead"_s).isVisible());
+    desk.desktop.launcherKey.set(Modifiers::command);
+    EXPECT_EQ(notes(), QStringList(WelcomeTexts::opensLauncher(TriggerKey::command)));
+    button(u"Use ⌃ Instead"_s).setFocus();
+    button(u"Use ⌃ Instead"_s).click();
+    EXPECT_EQ(desk.model.trigger(), TriggerKey::control);
+    EXPECT_EQ(step(2).title(), u"Hold ⌃ in any app"_s);
+    EXPECT_EQ(notes(), QStringList());
+    EXPECT_EQ(focused(), u"Done"_s);
+    desk.model.setTrigger(TriggerKey::option);
+    EXPECT_EQ(notes(), QStringList()) << "the launcher is not opened by this one";
+}
+
+TEST_F(WelcomeViewTest, WithoutATrayItTellsHowToReachTheProgram) {
+    EXPECT_EQ(notes(), QStringList()) << "a tray may still be coming up";
+    desk.desktop.timers.advance(WelcomeSteps::patienceForTray);
+    EXPECT_EQ(notes(), QStringList(WelcomeTexts::withoutTray()));
+    desk.desktop.tray.show({});
+    desk.desktop.tray.setThere(true);
+    EXPECT_EQ(notes(), QStringList());
+}
+
+TEST_F(WelcomeViewTest, WithATrayNothingIsSaidOfIt) {
+    desk.desktop.tray.show({});
+    desk.desktop.tray.setThere(true);
+    desk.desktop.timers.advance(Seconds(60));
+    EXPECT_EQ(notes(), QStringList());
 }
 
 TEST_F(WelcomeViewTest, DoneClosesItAndRemembersThat) {

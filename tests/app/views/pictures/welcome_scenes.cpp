@@ -1,0 +1,73 @@
+#include "window_scenes.h"
+
+#include <quillon/app/views/welcome/welcome_view.h>
+
+#include <QApplication>
+
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Prepare = std::function<void(ViewDesk&)>;
+
+WindowScene welcome(QString name, Prepare prepare = {}, QSize size = {}) {
+    auto show = [prepare = std::move(prepare), size](ViewDesk& desk) {
+        auto view = std::make_unique<WelcomeView>(
+            desk.model, desk.themes,
+            WelcomeNeeds{
+                .timers = desk.desktop.timers,
+                .silentApps = desk.desktop.silentApps,
+                .launcherKey = desk.desktop.launcherKey,
+                .tray = desk.desktop.tray});
+        view->resize(size.isEmpty() ? view->sizeHint() : size);
+        view->show();
+        if (prepare)
+            prepare(desk);
+        return view;
+    };
+    return {std::move(name), std::move(show)};
+}
+
+void nameSilentApps(ViewDesk& desk) {
+    desk.trust();
+    desk.desktop.silentApps.answer({"Qt 6 Designer", "FeatherPad"});
+}
+
+void takeTriggerKey(ViewDesk& desk) {
+    desk.trust();
+    desk.desktop.launcherKey.set(Modifiers::command);
+}
+
+void missTray(ViewDesk& desk) {
+    desk.trust();
+    desk.desktop.timers.advance(Seconds(5));
+}
+
+void everything(ViewDesk& desk) {
+    nameSilentApps(desk);
+    takeTriggerKey(desk);
+    missTray(desk);
+}
+
+} // namespace
+
+std::vector<WindowScene> welcomeScenes() {
+    const auto trusted = [](ViewDesk& desk) { desk.trust(); };
+    const auto option = [](ViewDesk& desk) { desk.model.setTrigger(TriggerKey::option); };
+    return {
+        welcome(u"welcome"_s),
+        welcome(u"welcome-allowed"_s, trusted),
+        welcome(u"welcome-option"_s, option),
+        welcome(u"welcome-restart"_s, nameSilentApps),
+        welcome(u"welcome-launcher"_s, takeTriggerKey),
+        welcome(u"welcome-no-tray"_s, missTray),
+        welcome(u"welcome-everything"_s, everything),
+        welcome(u"welcome-small"_s, {}, QSize(420, 360)),
+    };
+}
+
+} // namespace quillon
