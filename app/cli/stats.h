@@ -50,7 +50,7 @@ std::vector<AppStats> statsOfApp(const std::vector<AppStats>& all, std::string_v
 /// A table of commands for each application, below what was counted of it altogether.
 TerminalText statsText(const std::vector<AppStats>& stats);
 
-/// The same for programs: one line of JSON, an array of applications.
-std::string statsJson(const std::vector<AppStats>& stats);
+/// The same for programs: an array of applications in JSON. Absent when a name is not UTF-8.
+std::optional<std::string> statsJson(const std::vector<AppStats>& stats);
 
 } // namespace quillon

@@ -74,7 +74,7 @@ practiceRound(const AppSheet& sheet, const PracticeRequest& request, const Recor
 
 void print(const AppSheet& sheet, const SheetCommand& command, const Records& records, Output& output) {
     switch (command.format) {
-    case SheetFormat::json: output.printData(Json::encode(sheet).value_or("") + '\n'); return;
+    case SheetFormat::json: output.printJson(Json::encode(sheet)); return;
     case SheetFormat::markdown:
         output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID)));
         return;

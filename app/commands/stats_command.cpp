@@ -47,7 +47,7 @@ ExitCode runStats(const StatsCommand& command, const std::filesystem::path& data
     if (stats.empty())
         output.say("nothing was counted yet");
     if (command.format == StatsFormat::json)
-        output.printData(statsJson(stats));
+        output.printJson(statsJson(stats));
     else
         output.print(statsText(stats));
     return sheets ? ExitCode::success : ExitCode::failure;
