@@ -1,6 +1,6 @@
 # Completes the command line of quillon in fish.
 
-set -l commands show sheet apps stats doctor quit
+set -l commands show practice library settings welcome sheet apps stats doctor quit
 set -l none "not __fish_seen_subcommand_from $commands"
 set -l in_show '__fish_seen_subcommand_from show'
 set -l in_sheet '__fish_seen_subcommand_from sheet'
@@ -23,6 +23,10 @@ end
 complete -c quillon -f
 
 complete -c quillon -n "$none" -a show -d 'Open the overlay and keep it open'
+complete -c quillon -n "$none" -a practice -d 'Open the practice window'
+complete -c quillon -n "$none" -a library -d 'Open the library of all shortcuts'
+complete -c quillon -n "$none" -a settings -d 'Open the settings'
+complete -c quillon -n "$none" -a welcome -d 'Open the welcome'
 complete -c quillon -n "$none" -a sheet -d 'Print an application\'s shortcuts'
 complete -c quillon -n "$none" -a apps -d 'List the running applications that share their menus'
 complete -c quillon -n "$none" -a stats -d 'Print what was counted'
@@ -44,3 +48,5 @@ complete -c quillon -n "$in_sheet" -l seed -x -d 'The same round every time'
 
 complete -c quillon -n "$in_stats" -l app -x -a '(__quillon_counted_apps)' -d 'Of this application only'
 complete -c quillon -n "$in_stats" -l format -x -a 'text json' -d 'How the result is written'
+
+complete -c quillon -n "$in_sheet; or $in_stats" -l keys -x -a 'symbols names' -d 'How keys are written'
