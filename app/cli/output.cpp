@@ -52,7 +52,16 @@ void Output::write(std::string_view bytes) {
         m_error = writeAll(m_results, bytes);
 }
 
+void Output::printJson(const std::optional<std::string>& json) {
+    if (json)
+        write(*json + '\n');
+    else
+        m_isMissingJson = true;
+}
+
 ExitCode Output::finish(ExitCode code) {
+    if (m_isMissingJson)
+        return fail(ExitCode::failure, "a name in the result is not UTF-8, and JSON holds nothing else");
     if (m_error == 0)
         return code;
     return fail(

@@ -3,6 +3,8 @@
 #include "command_line.h"
 #include "terminal_text.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include <unistd.h>
@@ -20,6 +22,8 @@ class Output {
     void print(const TerminalText& text) { write(text.bytes()); }
     /// A result for another program, which gets it byte by byte.
     void printData(std::string_view bytes) { write(bytes); }
+    /// A result in JSON, on a line of its own. Absent is one that JSON cannot hold, which is a failure.
+    void printJson(const std::optional<std::string>& json);
     /// A message to the user, in one line.
     void say(const TerminalText& message);
     /// A line of the log, beside the messages.
@@ -27,8 +31,8 @@ class Output {
     /// Says `message` and passes `code` on.
     ExitCode fail(ExitCode code, const TerminalText& message);
 
-    /// How the command ended that ended with `code`: results that did not arrive make it a failure, and the
-    /// user is told.
+    /// How the command ended that ended with `code`: results that did not arrive or could not be made make it
+    /// a failure, and the user is told.
     ExitCode finish(ExitCode code);
 
   private:
@@ -37,6 +41,7 @@ class Output {
     int m_results;
     int m_messages;
     int m_error = 0; ///< why results were lost, an errno; 0 when none were
+    bool m_isMissingJson = false;
 };
 
 /// Where the program was started with standard streams closed, puts something in their places that takes

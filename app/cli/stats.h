@@ -52,7 +52,7 @@ std::vector<AppStats> statsOfApp(const std::vector<AppStats>& all, std::string_v
 /// `names`; with null, by symbols.
 TerminalText statsText(const std::vector<AppStats>& stats, const KeyNames* names = nullptr);
 
-/// The same for programs: one line of JSON, an array of applications.
-std::string statsJson(const std::vector<AppStats>& stats);
+/// The same for programs: an array of applications in JSON. Absent when a name is not UTF-8.
+std::optional<std::string> statsJson(const std::vector<AppStats>& stats);
 
 } // namespace quillon

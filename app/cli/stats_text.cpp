@@ -75,8 +75,8 @@ TerminalText statsText(const std::vector<AppStats>& stats, const KeyNames* names
     return text;
 }
 
-std::string statsJson(const std::vector<AppStats>& stats) {
-    return Json::encode(stats).value_or("[]") + '\n';
+std::optional<std::string> statsJson(const std::vector<AppStats>& stats) {
+    return Json::encode(stats);
 }
 
 } // namespace quillon

@@ -99,7 +99,7 @@ void print(const AppSheet& sheet, const SheetCommand& command, const Records& re
     const std::optional<KeyNames> names = shownNames(command.keys);
     const KeyNames* const shown = names ? &*names : nullptr;
     switch (command.format) {
-    case SheetFormat::json: output.printData(Json::encode(sheet).value_or("") + '\n'); return;
+    case SheetFormat::json: output.printJson(Json::encode(sheet)); return;
     case SheetFormat::markdown:
         output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID), shown));
         return;

@@ -57,7 +57,7 @@ ExitCode runStats(const StatsCommand& command, const std::filesystem::path& data
             TerminalText::sentence(QCoreApplication::translate("CommandLine", "nothing was counted yet")));
     const std::optional<KeyNames> names = shownNames(command.keys);
     if (command.format == StatsFormat::json)
-        output.printData(statsJson(stats));
+        output.printJson(statsJson(stats));
     else
         output.print(statsText(stats, names ? &*names : nullptr));
     return sheets ? ExitCode::success : ExitCode::failure;

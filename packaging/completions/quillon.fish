@@ -48,3 +48,5 @@ complete -c quillon -n "$in_sheet" -l seed -x -d 'The same round every time'
 
 complete -c quillon -n "$in_stats" -l app -x -a '(__quillon_counted_apps)' -d 'Of this application only'
 complete -c quillon -n "$in_stats" -l format -x -a 'text json' -d 'How the result is written'
+
+complete -c quillon -n "$in_sheet; or $in_stats" -l keys -x -a 'symbols names' -d 'How keys are written'

@@ -75,6 +75,9 @@ class PackagingTest(unittest.TestCase):
                   for action in actions}
         self.assertEqual(called, {
             "Show Shortcuts": ["quillon", "show"],
+            "Practice": ["quillon", "practice"],
+            "Library": ["quillon", "library"],
+            "Settings": ["quillon", "settings"],
             "Quit": ["quillon", "quit"]})
         self.assertLessEqual({words[1] for words in called.values()}, set(commands_of_help()))
 

@@ -62,6 +62,19 @@ TEST_F(OutputTest, LostResultsAreAFailureThatIsTold) {
     EXPECT_EQ(said.find('\n'), said.size() - 1);
 }
 
+TEST_F(OutputTest, JsonIsALine) {
+    output.printJson("{}");
+    EXPECT_EQ(output.finish(ExitCode::success), ExitCode::success);
+    EXPECT_EQ(results.all(), "{}\n");
+}
+
+TEST_F(OutputTest, WhatJsonCannotHoldIsAFailureThatIsTold) {
+    output.printJson(std::nullopt);
+    EXPECT_EQ(output.finish(ExitCode::success), ExitCode::failure);
+    EXPECT_EQ(results.all(), "");
+    EXPECT_EQ(messages.all(), "quillon: a name in the result is not UTF-8, and JSON holds nothing else\n");
+}
+
 TEST_F(OutputTest, NothingIsLostOfNothing) {
     Output closed(-1, messages.ends[1]);
     EXPECT_EQ(closed.finish(ExitCode::success), ExitCode::success);

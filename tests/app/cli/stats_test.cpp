@@ -81,7 +81,11 @@ TEST(Stats, AnApplicationIsFoundByItsIdentifierOrName) {
 
 TEST(Stats, OfNothingAreEmpty) {
     EXPECT_EQ(statsText({}).bytes(), "");
-    EXPECT_EQ(statsJson({}), "[]\n");
+    EXPECT_EQ(statsJson({}), "[]");
+}
+
+TEST(Stats, InJsonAreAbsentWhenANameIsNotUtf8) {
+    EXPECT_EQ(statsJson({{.bundleID = "\xff", .appName = {}, .commands = {}}}), std::nullopt);
 }
 
 } // namespace

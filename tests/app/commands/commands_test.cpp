@@ -194,6 +194,16 @@ TEST_F(CommandsTest, JsonIsForProgramsAndNotForTerminals) {
     EXPECT_NE(results.text().find("a\u202eb"), std::string::npos);
 }
 
+TEST_F(CommandsTest, ASheetThatJsonCannotHoldIsAFailure) {
+    applications.running[0].app.name = "Sketch\xff";
+    applications.inFront = applications.running[0].app;
+    SheetCommand command;
+    command.format = SheetFormat::json;
+    EXPECT_EQ(output.finish(sheet(command)), ExitCode::failure);
+    EXPECT_EQ(results.text(), "");
+    EXPECT_EQ(messages.text(), "quillon: a name in the result is not UTF-8, and JSON holds nothing else\n");
+}
+
 TEST_F(CommandsTest, QuitSaysWhyItFailed) {
     program.answer = RunningProgram::Answer::done;
     EXPECT_EQ(runQuit(program, output), ExitCode::success);
