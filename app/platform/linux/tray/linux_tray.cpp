@@ -4,6 +4,7 @@
 #include "menu_server.h"
 #include "notifier_item.h"
 #include "status_notifier.h"
+#include "tray_look.h"
 
 #include <quillon/app/platform/qt/menus/pop_up_menu.h>
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "tray_look.h"
-
 #include <quillon/app/platform/linux/session/session_kind.h>
 #include <quillon/app/ports/appearance.h>
 #include <quillon/app/ports/tray.h>
@@ -10,6 +8,8 @@
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace quillon {
 
@@ -19,6 +19,7 @@ class NotifierItem;
 class PopUpMenu;
 class StatusNotifier;
 class X11Connection;
+struct TrayLook;
 
 /// The tray of a Linux desktop: an item on the session bus, where a tray shows such items, else a window in
 /// the X server's tray. The menu opens without a tray too.
