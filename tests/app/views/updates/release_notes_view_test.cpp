@@ -65,7 +65,7 @@ TEST_F(ReleaseNotesViewTest, LoadsNothing) {
 
 TEST_F(ReleaseNotesViewTest, FollowsTheTheme) {
     const ReleaseNotesView view(themes, "<p>One</p>");
-    appearance.set({.scheme = ColourScheme::dark});
+    appearance.set({ColourScheme::dark, {}, {}});
     EXPECT_EQ(view.palette().color(QPalette::Base), themes.theme().palette.card);
     EXPECT_EQ(
         view.palette().color(QPalette::Text), themes.theme().palette.forToolkit().color(QPalette::Text));

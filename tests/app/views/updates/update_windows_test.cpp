@@ -216,7 +216,7 @@ TEST_F(UpdateWindowsTest, AreGoneWithTheProgram) {
 
 TEST_F(UpdateWindowsTest, FollowTheTheme) {
     windows.tell(UpdateNotice::upToDate);
-    appearance.set({.scheme = ColourScheme::dark});
+    appearance.set({ColourScheme::dark, {}, {}});
     EXPECT_EQ(only().palette().color(QPalette::Window), themes.theme().palette.window);
 }
 
