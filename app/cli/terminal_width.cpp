@@ -3,6 +3,8 @@
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
 
+#include <cstdint>
+
 namespace quillon {
 
 namespace {

@@ -10,6 +10,7 @@ packages_of() {
         desktop) desktop_packages ;;
         lint) lint_packages ;;
         bench) echo libbenchmark-dev libatspi2.0-dev && desktop_packages ;;
+        package) echo dpkg-dev file ;;
         fresh) echo debootstrap git ;;
         coverage) kit_packages && echo gcovr ;;
         *) return 1 ;;
@@ -28,10 +29,10 @@ app_packages() {
         libxcb-icccm4-dev libxcb-ewmh-dev libxcb-randr0-dev libxcb-xfixes0-dev libxcb-xtest0-dev
 }
 
-# clang and its run-time libraries for the fuzzers; the validators of the files in packaging/.
+# clang and its run-time libraries for the fuzzers; the validators of the files in packaging/ and the shells.
 test_packages() {
     echo clang libclang-rt-dev \
-        desktop-file-utils appstream man-db groff-base
+        desktop-file-utils appstream man-db groff-base zsh fish
 }
 
 # The private desktop and the applications that the tests use in it.

@@ -1,6 +1,7 @@
 #include "symbols.h"
 
 #include "keyboard_symbol.h"
+#include "symbol_picture.h"
 
 #include <QPainter>
 #include <QPixmapCache>
@@ -62,7 +63,7 @@ QPixmap drawn(Symbol symbol, int size, double ratio) {
         return keyboardPicture(size, ratio);
     if (symbol == Symbol::keyboardBadgeEllipsis)
         return keyboardWithEllipsis(size, ratio);
-    return rendered(u":/quillon/symbols/"_s + symbolName(symbol) + u".svg"_s, size, ratio);
+    return symbolPicture(u":/quillon/symbols/"_s + symbolName(symbol) + u".svg"_s, size, ratio);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include <quillon/app/platform/fake/fake_appearance.h>
 #include <quillon/app/views/components/search_box.h>
 #include <quillon/tests/app/views/support/printing.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ class SearchBoxTest : public testing::Test {
     SearchBoxTest() {
         box.resize(280, box.sizeHint().height());
         box.show();
-        QApplication::setActiveWindow(&box);
+        EXPECT_TRUE(makeActive(box));
         box.focus();
     }
     QLineEdit& field() { return *box.findChild<QLineEdit*>(); }

@@ -2,17 +2,23 @@
 #include <quillon/app/views/components/symbol_view.h>
 #include <quillon/app/views/components/symbols.h>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QDir>
 #include <QImage>
 
+#include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 namespace quillon {
 namespace {
 
 using namespace Qt::StringLiterals;
+using testing::AnyOf;
+using testing::Each;
+using testing::Ge;
+using testing::Le;
 
 int drawnPixels(const QImage& image) {
     int count = 0;
@@ -92,6 +98,53 @@ TEST(Symbols, AViewMirrorsItsSymbolWithItsDirection) {
     view.setLayoutDirection(Qt::RightToLeft);
     EXPECT_NE(leftToRight, leftToRight.mirrored(true, false));
     EXPECT_EQ(view.grab().toImage(), leftToRight.mirrored(true, false));
+}
+
+/// The ink of the pixels in the line of an image that is so far down (0 to 1).
+std::vector<int> inkOfRow(const QImage& image, double down) {
+    std::vector<int> ink;
+    for (int x = 0; x < image.width(); ++x)
+        ink.push_back(qAlpha(image.pixel(x, static_cast<int>(image.height() * down))));
+    return ink;
+}
+
+std::vector<int> inkOfColumn(const QImage& image, double across) {
+    return inkOfRow(image.transformed(QTransform().rotate(-90)).mirrored(false, true), across);
+}
+
+/// How often a line of pixels goes from light to dark.
+int darkLines(const std::vector<int>& ink) {
+    int lines = 0;
+    for (std::size_t i = 1; i < ink.size(); ++i)
+        lines += ink[i - 1] < 128 && ink[i] >= 128 ? 1 : 0;
+    return lines + (ink.front() >= 128 ? 1 : 0);
+}
+
+TEST(Symbols, StraightLinesAreNoBlurAtAnySize) {
+    for (int size = 13; size <= 48; ++size) {
+        const QImage sideBar = symbolPixmap(Symbol::sidebarLeft, size, Qt::black, 1).toImage();
+        const std::vector<int> across = inkOfRow(sideBar, 0.65);
+        EXPECT_THAT(across, Each(AnyOf(Le(70), Ge(185)))) << size;
+        EXPECT_EQ(darkLines(across), 3) << size;
+        const QImage note = symbolPixmap(Symbol::noteText, size, Qt::black, 1).toImage();
+        const std::vector<int> down = inkOfColumn(note, 0.4);
+        EXPECT_THAT(down, Each(AnyOf(Le(70), Ge(185)))) << size;
+        EXPECT_EQ(darkLines(down), 5) << size;
+    }
+}
+
+TEST(Symbols, WhatIsTheSameOnBothSidesStaysSo) {
+    for (const Symbol symbol :
+         {Symbol::bell, Symbol::pin, Symbol::printer, Symbol::exclamationMarkTriangle}) {
+        for (int size = 13; size <= 36; ++size) {
+            const QImage image = symbolPixmap(symbol, size, Qt::black, 1).toImage();
+            // Where lines are as wide as an odd number of pixels, an even size leaves a column at the end.
+            const QImage mirrored = image.mirrored(true, false);
+            const QImage moved = mirrored.copy(1, 0, size, size);
+            EXPECT_TRUE(differentPixels(image, mirrored) == 0 || differentPixels(image, moved) == 0)
+                << symbolName(symbol).toStdString() << " at " << size;
+        }
+    }
 }
 
 TEST(Symbols, ColoursSizesAndScreensAreKeptApart) {

@@ -4,6 +4,7 @@
 #include <quillon/tests/app/views/support/many_entries.h>
 #include <quillon/tests/app/views/support/printing.h>
 #include <quillon/tests/app/views/support/view_desk.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -28,7 +29,7 @@ class OverlayTest : public testing::Test {
         view = std::make_unique<OverlayView>(desk.model, desk.themes, desk.icons, mode);
         view->resize(1180, 760);
         view->show();
-        QApplication::setActiveWindow(view.get());
+        EXPECT_TRUE(makeActive(*view));
     }
 
     /// Every line of text and label of a button that can be seen, from the top.

@@ -1,5 +1,6 @@
 #include <quillon/app/views/overlay/overlay_view.h>
 #include <quillon/tests/app/views/support/view_desk.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <gtest/gtest.h>
 
@@ -59,7 +60,7 @@ TEST_F(OverlayPanelTest, AStickyOverlayIsTypedIntoAndClosedByEscape) {
     desk.showSample();
     desk.model.showOverlay(Stickiness::sticky);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()));
-    QApplication::setActiveWindow(panel());
+    ASSERT_TRUE(makeActive(*panel()));
     EXPECT_TRUE(desk.panelWindows.keyboardOwner());
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("save"));
     EXPECT_EQ(desk.model.query(), "save");

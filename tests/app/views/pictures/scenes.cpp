@@ -2,6 +2,7 @@
 
 #include <quillon/app/views/components/text.h>
 #include <quillon/tests/app/views/support/many_entries.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <QApplication>
 
@@ -76,7 +77,7 @@ Scene overlay(QString name, Prepare prepare, Stickiness stickiness, QString quer
         desk.model.showOverlay(stickiness);
         desk.model.setQuery(utf8(query));
         if (stickiness == Stickiness::sticky)
-            QApplication::setActiveWindow(shownPanel());
+            makeActive(*shownPanel());
     };
     return {std::move(name), std::move(show)};
 }

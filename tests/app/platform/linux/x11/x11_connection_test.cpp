@@ -10,7 +10,16 @@
 namespace quillon {
 namespace {
 
-struct X11ConnectionTest : X11Fixture {};
+struct X11ConnectionTest : X11Fixture {
+    /// Counts in `told` what the connection tells of changed properties.
+    Subscription countPropertyChanges() {
+        return x11->onEvent([this](const xcb_generic_event_t& event) {
+            told += event.response_type == XCB_PROPERTY_NOTIFY ? 1 : 0;
+        });
+    }
+
+    int told = 0;
+};
 
 TEST_F(X11ConnectionTest, KnowsTheServersExtensions) {
     EXPECT_TRUE(x11->isAlive());
@@ -30,11 +39,7 @@ TEST_F(X11ConnectionTest, AnErrorIsAnAbsentReply) {
 
 TEST_F(X11ConnectionTest, EventsThatAreReadBesideAReplyAreNotForgotten) {
     const auto selection = x11->selectEvents(x11->root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
-    int told = 0;
-    const auto listener = x11->onEvent([&](const xcb_generic_event_t& event) {
-        if (event.response_type == XCB_PROPERTY_NOTIFY)
-            ++told;
-    });
+    const auto listener = countPropertyChanges();
     settle();
     client->setNumbers(client->root(), "SOME_PROPERTY", "CARDINAL", {1});
     x11->reply<xcb_query_tree_reply_t>(xcb_query_tree(x11->xcb(), x11->root()));
@@ -43,11 +48,7 @@ TEST_F(X11ConnectionTest, EventsThatAreReadBesideAReplyAreNotForgotten) {
 
 TEST_F(X11ConnectionTest, EventsThatAreReadWhileRequestsAreSentAreNotForgotten) {
     const auto selection = x11->selectEvents(x11->root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
-    int told = 0;
-    const auto listener = x11->onEvent([&](const xcb_generic_event_t& event) {
-        if (event.response_type == XCB_PROPERTY_NOTIFY)
-            ++told;
-    });
+    const auto listener = countPropertyChanges();
     settle();
     client->setNumbers(client->root(), "SOME_PROPERTY", "CARDINAL", {3});
     pollfd socket{xcb_get_file_descriptor(x11->xcb()), POLLIN, 0};
@@ -58,11 +59,7 @@ TEST_F(X11ConnectionTest, EventsThatAreReadWhileRequestsAreSentAreNotForgotten) 
 }
 
 TEST_F(X11ConnectionTest, SelectionsOfOneWindowDoNotDisturbEachOther) {
-    int told = 0;
-    const auto listener = x11->onEvent([&](const xcb_generic_event_t& event) {
-        if (event.response_type == XCB_PROPERTY_NOTIFY)
-            ++told;
-    });
+    const auto listener = countPropertyChanges();
     const auto first = x11->selectEvents(x11->root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
     auto second = x11->selectEvents(x11->root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
     second.reset();

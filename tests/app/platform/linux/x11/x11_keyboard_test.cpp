@@ -1,3 +1,4 @@
+#include <quillon/tests/app/platform/linux/x11/support/test_keys.h>
 #include <quillon/tests/app/platform/linux/x11/support/x11_fixture.h>
 
 #include <quillon/app/platform/linux/x11/x11_keyboard.h>
@@ -16,15 +17,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::uint8_t keyCode(int event) {
-    return static_cast<std::uint8_t>(event + 8);
-}
-
-constexpr std::uint8_t letter = keyCode(KEY_A);
-constexpr std::uint8_t leftAlt = keyCode(KEY_LEFTALT);
-constexpr std::uint8_t leftSuper = keyCode(KEY_LEFTMETA);
-constexpr std::uint8_t leftControl = keyCode(KEY_LEFTCTRL);
-constexpr std::uint8_t leftShift = keyCode(KEY_LEFTSHIFT);
+using namespace testkeys;
 
 struct X11KeyboardTest : X11Fixture {
     void SetUp() override {
@@ -34,7 +27,7 @@ struct X11KeyboardTest : X11Fixture {
         events = x11->onEvent([this](const xcb_generic_event_t&) { ++eventCount; });
     }
     void TearDown() override {
-        for (const std::uint8_t key : {letter, leftAlt, leftSuper, leftControl, leftShift})
+        for (const std::uint8_t key : {letterA, leftAlt, leftSuper, leftControl, leftShift})
             client->keyUp(key);
         client->ungrab();
     }
@@ -97,7 +90,7 @@ TEST_F(X11StickyKeysTest, AModifierThatWaitsForTheNextKeyIsHeld) {
     client->tap(leftSuper);
     settle();
     EXPECT_EQ(keyboard->modifiers(), Modifiers::command);
-    client->tap(letter);
+    client->tap(letterA);
     settle();
     EXPECT_EQ(keyboard->modifiers(), Modifiers());
 }
@@ -108,7 +101,7 @@ TEST_F(X11StickyKeysTest, AModifierThatIsLockedIsNotHeldUntilItIsPressed) {
     settle();
     EXPECT_EQ(keyboard->modifiers(), Modifiers());
     told.clear();
-    client->tap(letter);
+    client->tap(letterA);
     settle();
     EXPECT_THAT(told, IsEmpty());
     client->keyDown(leftSuper);
@@ -154,7 +147,7 @@ TEST_F(X11KeyboardTest, AFloodOfChangedKeysIsAnsweredOnce) {
     settle();
     const auto before = requestsSoFar();
     for (int i = 0; i < 200; ++i) {
-        client->changeSymbol(letter, i % 2 == 0 ? XKB_KEY_b : XKB_KEY_a);
+        client->changeSymbol(letterA, i % 2 == 0 ? XKB_KEY_b : XKB_KEY_a);
         client->keyDown(leftAlt);
         client->keyUp(leftAlt);
     }
@@ -166,8 +159,8 @@ TEST_F(X11KeyboardTest, AFloodOfChangedKeysIsAnsweredOnce) {
 TEST_F(X11KeyboardTest, TypingAndPointingDoNotWakeTheProgram) {
     settle();
     eventCount = 0;
-    client->keyDown(letter);
-    client->keyUp(letter);
+    client->keyDown(letterA);
+    client->keyUp(letterA);
     client->click(1);
     client->movePointer(10, 10);
     settle();
@@ -180,7 +173,7 @@ TEST_F(X11KeyboardTest, InputHasAnAgeWhileItIsObserved) {
          {InputKind::keyDown, InputKind::leftMouseDown, InputKind::rightMouseDown, InputKind::otherMouseDown,
           InputKind::scrollWheel})
         EXPECT_FALSE(isPressed(*ages, kind));
-    client->keyDown(letter);
+    client->keyDown(letterA);
     ASSERT_TRUE(waitFor([&] { return isPressed(*ages, InputKind::keyDown); }));
     EXPECT_GE(ages->sinceLast(InputKind::keyDown).count(), 0);
     EXPECT_LT(ages->sinceLast(InputKind::keyDown).count(), 10);
@@ -221,7 +214,7 @@ TEST_F(X11KeyboardTest, InputIsObservedUnderAnotherClientsGrabs) {
     ASSERT_TRUE(client->grabKeyboard());
     ASSERT_TRUE(client->grabPointer());
     const auto ages = observe();
-    client->keyDown(letter);
+    client->keyDown(letterA);
     client->click(1);
     EXPECT_TRUE(waitFor(
         [&] { return isPressed(*ages, InputKind::keyDown) && isPressed(*ages, InputKind::leftMouseDown); }));
@@ -236,7 +229,7 @@ TEST_F(X11KeyboardTest, TheServerIsAskedForInputOnlyWhileAnObservationLives) {
     second.reset();
     settle();
     eventCount = 0;
-    client->keyDown(letter);
+    client->keyDown(letterA);
     client->click(1);
     settle();
     EXPECT_EQ(eventCount, 0);

@@ -1,3 +1,4 @@
+#include <quillon/tests/app/platform/linux/x11/support/test_keys.h>
 #include <quillon/tests/app/platform/linux/x11/support/x11_fixture.h>
 
 #include <quillon/app/platform/linux/x11/x11_typed_keys.h>
@@ -18,17 +19,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::uint8_t keyCode(int event) {
-    return static_cast<std::uint8_t>(event + 8);
-}
-
-constexpr std::uint8_t letterA = keyCode(KEY_A);
-constexpr std::uint8_t letterS = keyCode(KEY_S);
-constexpr std::uint8_t leftAlt = keyCode(KEY_LEFTALT);
-constexpr std::uint8_t leftSuper = keyCode(KEY_LEFTMETA);
-constexpr std::uint8_t leftControl = keyCode(KEY_LEFTCTRL);
-constexpr std::uint8_t leftShift = keyCode(KEY_LEFTSHIFT);
-constexpr std::uint8_t numLock = keyCode(KEY_NUMLOCK);
+using namespace testkeys;
 
 struct X11TypedKeysTest : X11Fixture {
     void SetUp() override {
