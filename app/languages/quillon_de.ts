@@ -905,4 +905,149 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
         <translation>Quillon beenden</translation>
     </message>
 </context>
+<context>
+    <name>Vocabulary</name>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>macOS</source>
+        <translation>macOS</translation>
+    </message>
+    <message>
+        <source>System Settings &gt; Privacy &amp; Security &gt; Accessibility</source>
+        <translation>Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>Library folder</source>
+        <translation>Library-Ordner</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>your desktop’s accessibility settings</source>
+        <translation>den Einstellungen Ihres Desktops zur Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>Your desktop</source>
+        <translation>Ihr Desktop</translation>
+    </message>
+    <message>
+        <source>its accessibility settings or in this window</source>
+        <translation>dessen Einstellungen zur Barrierefreiheit oder in diesem Fenster</translation>
+    </message>
+    <message>
+        <source>accessibility</source>
+        <translation>die Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>data folder</source>
+        <translation>Datenordner</translation>
+    </message>
+</context>
+<context>
+    <name>Welcome</name>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Welcome to Quillon</source>
+        <translation>Willkommen bei Quillon</translation>
+    </message>
+    <message>
+        <source>Learn the shortcuts of the apps you already use.</source>
+        <translation>Lernen Sie die Tastenkürzel der Anwendungen, die Sie schon benutzen.</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility</source>
+        <translation>Barrierefreiheit erlauben</translation>
+    </message>
+    <message>
+        <source>Quillon reads the front app’s menus to find their shortcuts. %1 asks you to allow this once in %2. Turn on %3 there; this window notices by itself.</source>
+        <translation>Quillon liest die Menüs der vorderen Anwendung, um deren Tastenkürzel zu finden. %1 bittet Sie, dies einmal in %2 zu erlauben. Schalten Sie dort %3 ein; dieses Fenster bemerkt es von selbst.</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility…</source>
+        <translation>Barrierefreiheit erlauben …</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Systemeinstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Erlaubt</translation>
+    </message>
+    <message>
+        <source>Hold %1 in any app</source>
+        <translation>%1 in einer Anwendung halten</translation>
+    </message>
+    <message>
+        <source>Keep the %1 key (%2) down for a moment and that app’s shortcuts appear, grouped by menu. Let go to close it, or click it to keep it open and search. No other permission is needed for this.</source>
+        <translation>Halten Sie die Taste „%1“ (%2) einen Moment gedrückt, und die Tastenkürzel der Anwendung erscheinen, nach Menüs geordnet. Loslassen schließt die Übersicht, ein Klick hält sie zum Suchen offen. Eine weitere Erlaubnis ist dafür nicht nötig.</translation>
+    </message>
+    <message>
+        <source>Nothing leaves your %1</source>
+        <translation>Nichts verlässt Ihren %1</translation>
+    </message>
+    <message>
+        <source>Menus, counts, pins and notes stay in your %1. Quillon only notices shortcuts and menu clicks (never what you type) and goes online only to look for updates.</source>
+        <translation>Menüs, Zählungen, Angeheftetes und Notizen bleiben in Ihrem %1. Quillon bemerkt nur Tastenkürzel und Klicks in Menüs (nie, was Sie tippen) und geht nur online, um nach Aktualisierungen zu suchen.</translation>
+    </message>
+    <message>
+        <source>Step %1</source>
+        <translation>Schritt %1</translation>
+    </message>
+    <message>
+        <source>Step %1, done</source>
+        <translation>Schritt %1, erledigt</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>Welcome to Quillon</source>
+        <translation>Willkommen bei Quillon</translation>
+    </message>
+    <message>
+        <source>Quillon Library</source>
+        <translation>Quillon-Bibliothek</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Üben</translation>
+    </message>
+    <message>
+        <source>Quillon Settings</source>
+        <translation>Quillon-Einstellungen</translation>
+    </message>
+</context>
 </TS>

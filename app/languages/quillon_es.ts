@@ -905,4 +905,149 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
         <translation>Salir de Quillon</translation>
     </message>
 </context>
+<context>
+    <name>Vocabulary</name>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>macOS</source>
+        <translation>macOS</translation>
+    </message>
+    <message>
+        <source>System Settings &gt; Privacy &amp; Security &gt; Accessibility</source>
+        <translation>Ajustes del Sistema &gt; Privacidad y seguridad &gt; Accesibilidad</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>Library folder</source>
+        <translation>carpeta Biblioteca</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>equipo</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>your desktop’s accessibility settings</source>
+        <translation>la configuración de accesibilidad de su escritorio</translation>
+    </message>
+    <message>
+        <source>Your desktop</source>
+        <translation>Su escritorio</translation>
+    </message>
+    <message>
+        <source>its accessibility settings or in this window</source>
+        <translation>su configuración de accesibilidad o en esta ventana</translation>
+    </message>
+    <message>
+        <source>accessibility</source>
+        <translation>la accesibilidad</translation>
+    </message>
+    <message>
+        <source>data folder</source>
+        <translation>carpeta de datos</translation>
+    </message>
+</context>
+<context>
+    <name>Welcome</name>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Opción</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Welcome to Quillon</source>
+        <translation>Le damos la bienvenida a Quillon</translation>
+    </message>
+    <message>
+        <source>Learn the shortcuts of the apps you already use.</source>
+        <translation>Aprenda los atajos de las aplicaciones que ya usa.</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility</source>
+        <translation>Permitir la accesibilidad</translation>
+    </message>
+    <message>
+        <source>Quillon reads the front app’s menus to find their shortcuts. %1 asks you to allow this once in %2. Turn on %3 there; this window notices by itself.</source>
+        <translation>Quillon lee los menús de la aplicación en primer plano para encontrar sus atajos. %1 le pide que lo permita una vez en %2. Active allí %3; esta ventana se da cuenta por sí sola.</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility…</source>
+        <translation>Permitir accesibilidad…</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Abrir la configuración del sistema</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Permitida</translation>
+    </message>
+    <message>
+        <source>Hold %1 in any app</source>
+        <translation>Mantener %1 en cualquier aplicación</translation>
+    </message>
+    <message>
+        <source>Keep the %1 key (%2) down for a moment and that app’s shortcuts appear, grouped by menu. Let go to close it, or click it to keep it open and search. No other permission is needed for this.</source>
+        <translation>Mantenga pulsada un momento la tecla «%1» (%2) y aparecerán los atajos de esa aplicación, agrupados por menú. Suéltela para cerrar, o haga clic para mantener el panel abierto y buscar. No se necesita ningún otro permiso.</translation>
+    </message>
+    <message>
+        <source>Nothing leaves your %1</source>
+        <translation>Nada sale de su %1</translation>
+    </message>
+    <message>
+        <source>Menus, counts, pins and notes stay in your %1. Quillon only notices shortcuts and menu clicks (never what you type) and goes online only to look for updates.</source>
+        <translation>Los menús, recuentos, fijados y notas se quedan en su %1. Quillon solo nota atajos y clics en menús (nunca lo que escribe) y solo se conecta para buscar actualizaciones.</translation>
+    </message>
+    <message>
+        <source>Step %1</source>
+        <translation>Paso %1</translation>
+    </message>
+    <message>
+        <source>Step %1, done</source>
+        <translation>Paso %1, hecho</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>Welcome to Quillon</source>
+        <translation>Le damos la bienvenida a Quillon</translation>
+    </message>
+    <message>
+        <source>Quillon Library</source>
+        <translation>Biblioteca de Quillon</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Práctica</translation>
+    </message>
+    <message>
+        <source>Quillon Settings</source>
+        <translation>Configuración de Quillon</translation>
+    </message>
+</context>
 </TS>

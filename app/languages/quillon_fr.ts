@@ -905,4 +905,149 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
         <translation>Quitter Quillon</translation>
     </message>
 </context>
+<context>
+    <name>Vocabulary</name>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>macOS</source>
+        <translation>macOS</translation>
+    </message>
+    <message>
+        <source>System Settings &gt; Privacy &amp; Security &gt; Accessibility</source>
+        <translation>Réglages Système &gt; Confidentialité et sécurité &gt; Accessibilité</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>Library folder</source>
+        <translation>dossier Bibliothèque</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>ordinateur</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>your desktop’s accessibility settings</source>
+        <translation>les réglages d’accessibilité de votre bureau</translation>
+    </message>
+    <message>
+        <source>Your desktop</source>
+        <translation>Votre bureau</translation>
+    </message>
+    <message>
+        <source>its accessibility settings or in this window</source>
+        <translation>ses réglages d’accessibilité ou dans cette fenêtre</translation>
+    </message>
+    <message>
+        <source>accessibility</source>
+        <translation>l’accessibilité</translation>
+    </message>
+    <message>
+        <source>data folder</source>
+        <translation>dossier de données</translation>
+    </message>
+</context>
+<context>
+    <name>Welcome</name>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Contrôle</translation>
+    </message>
+    <message>
+        <source>Welcome to Quillon</source>
+        <translation>Bienvenue dans Quillon</translation>
+    </message>
+    <message>
+        <source>Learn the shortcuts of the apps you already use.</source>
+        <translation>Apprenez les raccourcis des applications que vous utilisez déjà.</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility</source>
+        <translation>Autoriser l’accessibilité</translation>
+    </message>
+    <message>
+        <source>Quillon reads the front app’s menus to find their shortcuts. %1 asks you to allow this once in %2. Turn on %3 there; this window notices by itself.</source>
+        <translation>Quillon lit les menus de l’application au premier plan pour trouver leurs raccourcis. %1 vous demande de l’autoriser une fois dans %2. Activez-y %3 ; cette fenêtre s’en aperçoit d’elle-même.</translation>
+    </message>
+    <message>
+        <source>Allow Accessibility…</source>
+        <translation>Autoriser l’accessibilité…</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Ouvrir les réglages système</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Autorisée</translation>
+    </message>
+    <message>
+        <source>Hold %1 in any app</source>
+        <translation>Maintenir %1 dans une application</translation>
+    </message>
+    <message>
+        <source>Keep the %1 key (%2) down for a moment and that app’s shortcuts appear, grouped by menu. Let go to close it, or click it to keep it open and search. No other permission is needed for this.</source>
+        <translation>Gardez la touche « %1 » (%2) enfoncée un instant : les raccourcis de l’application apparaissent, groupés par menu. Relâchez pour fermer, ou cliquez pour garder le panneau ouvert et chercher. Aucune autre autorisation n’est nécessaire.</translation>
+    </message>
+    <message>
+        <source>Nothing leaves your %1</source>
+        <translation>Rien ne quitte votre %1</translation>
+    </message>
+    <message>
+        <source>Menus, counts, pins and notes stay in your %1. Quillon only notices shortcuts and menu clicks (never what you type) and goes online only to look for updates.</source>
+        <translation>Menus, comptes, épingles et notes restent dans votre %1. Quillon ne remarque que les raccourcis et les clics dans les menus (jamais ce que vous tapez) et ne va en ligne que pour chercher des mises à jour.</translation>
+    </message>
+    <message>
+        <source>Step %1</source>
+        <translation>Étape %1</translation>
+    </message>
+    <message>
+        <source>Step %1, done</source>
+        <translation>Étape %1, terminée</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>Welcome to Quillon</source>
+        <translation>Bienvenue dans Quillon</translation>
+    </message>
+    <message>
+        <source>Quillon Library</source>
+        <translation>Bibliothèque de Quillon</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Exercices</translation>
+    </message>
+    <message>
+        <source>Quillon Settings</source>
+        <translation>Réglages de Quillon</translation>
+    </message>
+</context>
 </TS>

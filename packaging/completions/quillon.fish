@@ -43,6 +43,7 @@ complete -c quillon -n "$in_sheet" -l pid -x -a '(__quillon_processes)' -d 'The 
 complete -c quillon -n "$in_sheet" -l front -d 'The front application'
 complete -c quillon -n "$in_sheet" -l query -x -d 'Only the shortcuts that match'
 complete -c quillon -n "$in_sheet" -l format -x -a 'text json markdown' -d 'How the result is written'
+complete -c quillon -n "$in_sheet" -l keys -x -a 'symbols names' -d 'How keys are shown'
 complete -c quillon -n "$in_sheet" -l practice -x -d 'A practice round of this many commands'
 complete -c quillon -n "$in_sheet" -l seed -x -d 'The same round every time'
 
