@@ -4,6 +4,7 @@
 
 #include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/text.h>
+#include <quillon/kit/menu/menu_entry.h>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

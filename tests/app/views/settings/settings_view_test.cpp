@@ -171,7 +171,7 @@ TEST_F(PrivacyPageTest, EraseErasesAndKeepsTheSettings) {
     pressErase();
     QTest::mouseClick(&page().confirmation()->destroyButton(), Qt::LeftButton);
     EXPECT_FALSE(desk.model.current());
-    EXPECT_TRUE(desk.model.usage().apps().empty());
+    EXPECT_TRUE(desk.model.usage().apps.empty());
     EXPECT_EQ(desk.model.trigger(), TriggerKey::option);
     EXPECT_FALSE(page().confirmation() && page().confirmation()->isVisible());
 }
