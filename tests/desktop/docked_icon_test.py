@@ -3,6 +3,7 @@ way to a tray on the session bus."""
 
 import os
 import pathlib
+import re
 import subprocess
 
 import desktop
@@ -49,9 +50,16 @@ class DockedIconTest(QuillonTestCase):
         icon, = wait_until("the icon's window", self.icons)
         return icon
 
+    def place(self):
+        """Where the icon is on the screen; xdotool adds the place of a window inside of another one twice."""
+        facts = subprocess.run(["xwininfo", "-id", str(self.icons()[0][0])], text=True, capture_output=True, check=True,
+                               timeout=10).stdout
+        return tuple(int(re.search(name + r": +(-?\d+)", facts)[1])
+                     for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
     def brightnesses(self):
         """The darkest and the lightest there is in the icon's place."""
-        _, x, y, width, height = self.icons()[0]
+        x, y, width, height = self.place()
         result = subprocess.run(
             ["convert", str(desktop.screenshot("docked-icon")), "-crop", f"{width}x{height}+{x}+{y}", "-colorspace",
              "Gray", "-format", "%[fx:minima] %[fx:maxima]", "info:"], text=True, capture_output=True, check=True,
@@ -59,7 +67,7 @@ class DockedIconTest(QuillonTestCase):
         return tuple(map(float, result.stdout.split()))
 
     def click(self, button):
-        _, x, y, width, height = self.icons()[0]
+        x, y, width, height = self.place()
         desktop.click(x + width // 2, y + height // 2, button)
 
     def test_it_is_light_on_a_dark_bar_and_dark_on_a_light_one(self):

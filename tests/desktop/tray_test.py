@@ -13,7 +13,7 @@ from tray_host import TrayWatcher
 
 BELOW_THE_HINT = ["-", "Practice", "Library…", "-", "Settings | Control+comma", "Check for Updates…",
                   "Quit Quillon | Control+q"]
-CONFIGURATION = pathlib.Path(os.environ.get("XDG_CONFIG_HOME", "/nonexistent"))
+GTK_SETTINGS = pathlib.Path(os.environ.get("XDG_CONFIG_HOME", "/nonexistent"), "gtk-3.0", "settings.ini")
 SHOWN = "ok shows Quillon’s icon"
 
 
@@ -43,6 +43,7 @@ class TrayTestCase(QuillonTestCase):
 class ItemTest(TrayTestCase):
     def setUp(self):
         super().setUp()
+        GTK_SETTINGS.parent.mkdir(exist_ok=True)  # a folder that comes later is not noticed
         self.watcher = self.make_watcher()
         self.start_quillon()
         self.wait_in_tray()
@@ -61,10 +62,8 @@ class ItemTest(TrayTestCase):
 
     def test_its_picture_stands_out_in_the_scheme_of_the_desktop(self):
         self.assertLess(self.item.brightness(), 80)
-        settings = CONFIGURATION / "gtk-3.0/settings.ini"
-        settings.parent.mkdir(parents=True, exist_ok=True)
-        self.addCleanup(settings.unlink)
-        settings.write_text("[Settings]\ngtk-application-prefer-dark-theme=1\n", encoding="utf-8")
+        self.addCleanup(GTK_SETTINGS.unlink)
+        GTK_SETTINGS.write_text("[Settings]\ngtk-application-prefer-dark-theme=1\n", encoding="utf-8")
         wait_until("a light picture on a dark desktop", lambda: self.item.brightness() > 200)
 
     def test_the_checkup_says_that_it_is_shown(self):

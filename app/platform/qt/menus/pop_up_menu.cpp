@@ -45,7 +45,8 @@ QAction& PopUpMenu::actionOf(const TrayMenuItem& item) {
     QAction*& action = m_actions[item.id];
     if (action == nullptr) {
         action = new QAction(&m_menu);
-        QObject::connect(action, &QAction::triggered, &m_menu, [this, id = item.id] { m_chosen(id); });
+        // Not for the menu, which ends what connects it with an action that is taken out.
+        QObject::connect(action, &QAction::triggered, action, [this, id = item.id] { m_chosen(id); });
     }
     return *action;
 }

@@ -79,11 +79,13 @@ TEST_F(StatusNotifierTest, RegistersWithWatchersThatComeLaterAndAgain) {
     const StatusNotifier notifier(program);
     EXPECT_TRUE(waitShown(notifier, false));
     for (int round = 0; round < 3; ++round) {
-        FakeWatcher watcher(tray, true);
-        EXPECT_TRUE(waitShown(notifier, true));
-        EXPECT_EQ(watcher.items.size(), 1);
+        {
+            FakeWatcher watcher(tray, true);
+            EXPECT_TRUE(waitShown(notifier, true));
+            EXPECT_EQ(watcher.items.size(), 1);
+        }
+        EXPECT_TRUE(waitShown(notifier, false));
     }
-    EXPECT_TRUE(waitShown(notifier, false));
 }
 
 TEST_F(StatusNotifierTest, FollowsTheHost) {
@@ -100,8 +102,10 @@ TEST_F(StatusNotifierTest, AnItemThatIsLetGoOfIsNotShown) {
     FakeWatcher watcher(tray, true);
     const StatusNotifier notifier(program);
     EXPECT_TRUE(waitShown(notifier, true));
-    watcher.tell(u"StatusNotifierItemUnregistered"_s, {u":9.99/StatusNotifierItem"_s});
-    watcher.tell(u"StatusNotifierItemUnregistered"_s, {program.baseService() + u"/StatusNotifierItem"_s});
+    watcher.tell(u"StatusNotifierItemUnregistered"_s, QVariantList{u":9.99/StatusNotifierItem"_s});
+    watcher.tell(
+        u"StatusNotifierItemUnregistered"_s,
+        QVariantList{QString(program.baseService() + u"/StatusNotifierItem"_s)});
     EXPECT_TRUE(waitShown(notifier, false));
 }
 

@@ -54,6 +54,7 @@ TEST_F(PopUpMenuTest, ChangesWhileItIsOpen) {
     EXPECT_THAT(texts(), ElementsAre("Quit Ctrl+Q"));
     EXPECT_TRUE(menu.menu().isVisible());
     menu.setItems({first, quit});
+    EXPECT_THAT(texts(), ElementsAre("Fish && Chips ", "Quit Ctrl+Q"));
     menu.menu().actions().constFirst()->trigger();
     EXPECT_THAT(chosen, ElementsAre(1)) << "once, however often it came and went";
 }
