@@ -16,9 +16,9 @@ namespace Appcast {
 inline constexpr std::size_t mostItems = 200;
 
 /// The releases that are for everybody on this system, in the order of the list. Left out are those without a
-/// version that can be read, those of other channels than the default one, and those whose file is for another
-/// system by name. Absent when the bytes are no whole appcast, are more than `largestFeed`, or declare a
-/// document type: nobody needs entities of their own there.
+/// version that can be read, those of other channels than the default one, and those whose file is for
+/// another system by name. Absent when the bytes are no whole appcast, are more than `largestFeed`, or
+/// declare a document type: nobody needs entities of their own there.
 std::optional<std::vector<Release>> read(std::string_view bytes);
 
 } // namespace Appcast

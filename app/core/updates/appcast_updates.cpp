@@ -4,8 +4,7 @@
 
 namespace quillon {
 
-AppcastUpdates::AppcastUpdates(
-    ReleaseLook::Needs needs, UpdateNotices& notices, const ReleaseSource& source)
+AppcastUpdates::AppcastUpdates(ReleaseLook::Needs needs, UpdateNotices& notices, const ReleaseSource& source)
     : m_feedAddress(source.feedAddress), m_notices(notices), m_look(std::move(needs), source) {}
 
 void AppcastUpdates::checkForUpdates() {

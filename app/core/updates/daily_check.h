@@ -11,8 +11,8 @@ namespace quillon {
 /// set, counts as none.
 Seconds waitForLook(std::optional<Instant> lastCheck, Instant now);
 
-/// Looks for a newer release once a day without being asked, and shows one that the user has not put off. Says
-/// nothing else, whatever happens.
+/// Looks for a newer release once a day without being asked, and shows one that the user has not put off.
+/// Says nothing else, whatever happens.
 class DailyCheck {
   public:
     struct Needs {
@@ -28,8 +28,8 @@ class DailyCheck {
     /// Timers do not run while the computer sleeps, so the time is looked at more often than once a day.
     static constexpr Seconds longestWait{3600};
 
-    /// What `needs` and `look` refer to outlives it. `jitter` (0 to 1) spreads the first look over the minutes
-    /// after the start, so that not all programs of the world look at once.
+    /// What `needs` and `look` refer to outlives it. `jitter` (0 to 1) spreads the first look over the
+    /// minutes after the start, so that not all programs of the world look at once.
     DailyCheck(Needs needs, ReleaseLook::Needs look, const ReleaseSource& source, double jitter);
 
     /// Nothing without a list of releases.

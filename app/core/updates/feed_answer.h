@@ -7,8 +7,9 @@ namespace quillon {
 
 /// What a server answered.
 struct FeedAnswer {
-    std::optional<int> status = {}; ///< of HTTP; absent: no answer, one that is not HTTP, or one that broke off
-    std::string body = {};          ///< of a status from 200 to 299; else empty
+    std::optional<int> status =
+        {};                ///< of HTTP; absent: no answer, one that is not HTTP, or one that broke off
+    std::string body = {}; ///< of a status from 200 to 299; else empty
 
     bool operator==(const FeedAnswer&) const = default;
 };

@@ -25,8 +25,7 @@ QNetworkRequest networkRequest(const FeedRequest& request) {
     sent.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     sent.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     sent.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    sent.setAttribute(
-        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
+    sent.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
     sent.setMaximumRedirectsAllowed(mostRedirections);
     sent.setHeader(QNetworkRequest::UserAgentHeader, QString::fromStdString(request.sender));
     // As it is: so the limit of its size is one of what is received, too.
@@ -47,12 +46,13 @@ class Exchange {
         m_reply.reset(request.method == FeedMethod::head ? m_manager.head(sent) : m_manager.get(sent));
         m_reply->setReadBufferSize(largestFeed + 1);
         QNetworkReply* const reply = m_reply.get();
-        QObject::connect(reply, &QNetworkReply::redirected, reply, [reply, from = request.address](const QUrl& to) {
-            if (WebAddress::mayLead(from, to))
-                Q_EMIT reply->redirectAllowed();
-            else
-                reply->abort();
-        });
+        QObject::connect(
+            reply, &QNetworkReply::redirected, reply, [reply, from = request.address](const QUrl& to) {
+                if (WebAddress::mayLead(from, to))
+                    Q_EMIT reply->redirectAllowed();
+                else
+                    reply->abort();
+            });
         QObject::connect(reply, &QNetworkReply::readyRead, reply, [this] { readMore(); });
         QObject::connect(reply, &QNetworkReply::finished, &m_loop, &QEventLoop::quit);
     }

@@ -15,11 +15,11 @@ struct Entity {
 };
 
 constexpr std::array entities{
-    Entity{"amp"_L1, u'&'},       Entity{"lt"_L1, u'<'},        Entity{"gt"_L1, u'>'},
-    Entity{"quot"_L1, u'"'},      Entity{"apos"_L1, u'\''},     Entity{"nbsp"_L1, u'\u00a0'},
-    Entity{"copy"_L1, u'\u00a9'}, Entity{"middot"_L1, u'\u00b7'}, Entity{"ndash"_L1, u'\u2013'},
-    Entity{"mdash"_L1, u'\u2014'}, Entity{"lsquo"_L1, u'\u2018'}, Entity{"rsquo"_L1, u'\u2019'},
-    Entity{"ldquo"_L1, u'\u201c'}, Entity{"rdquo"_L1, u'\u201d'}, Entity{"bull"_L1, u'\u2022'},
+    Entity{"amp"_L1, u'&'},         Entity{"lt"_L1, u'<'},          Entity{"gt"_L1, u'>'},
+    Entity{"quot"_L1, u'"'},        Entity{"apos"_L1, u'\''},       Entity{"nbsp"_L1, u'\u00a0'},
+    Entity{"copy"_L1, u'\u00a9'},   Entity{"middot"_L1, u'\u00b7'}, Entity{"ndash"_L1, u'\u2013'},
+    Entity{"mdash"_L1, u'\u2014'},  Entity{"lsquo"_L1, u'\u2018'},  Entity{"rsquo"_L1, u'\u2019'},
+    Entity{"ldquo"_L1, u'\u201c'},  Entity{"rdquo"_L1, u'\u201d'},  Entity{"bull"_L1, u'\u2022'},
     Entity{"hellip"_L1, u'\u2026'},
 };
 
@@ -48,7 +48,8 @@ std::optional<QString> signOf(QStringView name) {
         const auto code = numberedSign(name.mid(1));
         return code ? std::optional(QString::fromUcs4(&*code, 1)) : std::nullopt;
     }
-    const auto known = std::ranges::find_if(entities, [&](const Entity& entity) { return name == entity.name; });
+    const auto known =
+        std::ranges::find_if(entities, [&](const Entity& entity) { return name == entity.name; });
     return known == entities.end() ? std::nullopt : std::optional(QString(QChar(known->sign)));
 }
 
@@ -105,7 +106,8 @@ QString linkOf(QStringView attributes) {
             attributes = attributes.mid(1);
         if (attributes.isEmpty())
             return {};
-        const QStringView name = attributes.left(std::ranges::find_if(attributes, endsName) - attributes.begin());
+        const QStringView name =
+            attributes.left(std::ranges::find_if(attributes, endsName) - attributes.begin());
         attributes = attributes.mid(name.size()).trimmed();
         if (!attributes.startsWith(u'='))
             continue;

@@ -24,14 +24,14 @@ struct Element {
 };
 
 constexpr std::array elements{
-    Element{"p"_L1, "p"_L1},          Element{"div"_L1, "p"_L1},     Element{"section"_L1, "p"_L1},
-    Element{"article"_L1, "p"_L1},    Element{"tr"_L1, "p"_L1},      Element{"blockquote"_L1, "p"_L1},
-    Element{"pre"_L1, "p"_L1},        Element{"h1"_L1, "h4"_L1},     Element{"h2"_L1, "h4"_L1},
-    Element{"h3"_L1, "h4"_L1},        Element{"h4"_L1, "h4"_L1},     Element{"h5"_L1, "h4"_L1},
-    Element{"h6"_L1, "h4"_L1},        Element{"ul"_L1, "ul"_L1},     Element{"ol"_L1, "ol"_L1},
-    Element{"li"_L1, "li"_L1},        Element{"b"_L1, "b"_L1},       Element{"strong"_L1, "b"_L1},
-    Element{"i"_L1, "i"_L1},          Element{"em"_L1, "i"_L1},      Element{"code"_L1, "code"_L1},
-    Element{"tt"_L1, "code"_L1},      Element{"kbd"_L1, "code"_L1},  Element{"a"_L1, "a"_L1},
+    Element{"p"_L1, "p"_L1},       Element{"div"_L1, "p"_L1},    Element{"section"_L1, "p"_L1},
+    Element{"article"_L1, "p"_L1}, Element{"tr"_L1, "p"_L1},     Element{"blockquote"_L1, "p"_L1},
+    Element{"pre"_L1, "p"_L1},     Element{"h1"_L1, "h4"_L1},    Element{"h2"_L1, "h4"_L1},
+    Element{"h3"_L1, "h4"_L1},     Element{"h4"_L1, "h4"_L1},    Element{"h5"_L1, "h4"_L1},
+    Element{"h6"_L1, "h4"_L1},     Element{"ul"_L1, "ul"_L1},    Element{"ol"_L1, "ol"_L1},
+    Element{"li"_L1, "li"_L1},     Element{"b"_L1, "b"_L1},      Element{"strong"_L1, "b"_L1},
+    Element{"i"_L1, "i"_L1},       Element{"em"_L1, "i"_L1},     Element{"code"_L1, "code"_L1},
+    Element{"tt"_L1, "code"_L1},   Element{"kbd"_L1, "code"_L1}, Element{"a"_L1, "a"_L1},
 };
 
 /// What these hold is not for reading.
@@ -39,7 +39,8 @@ constexpr std::array unread{"script"_L1, "style"_L1, "head"_L1,   "title"_L1,  "
                             "svg"_L1,    "math"_L1,  "iframe"_L1, "object"_L1, "noscript"_L1};
 
 QLatin1StringView keptAs(QStringView name) {
-    const auto known = std::ranges::find_if(elements, [&](const Element& element) { return name == element.name; });
+    const auto known =
+        std::ranges::find_if(elements, [&](const Element& element) { return name == element.name; });
     return known == elements.end() ? QLatin1StringView() : known->becomes;
 }
 

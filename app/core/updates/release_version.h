@@ -18,9 +18,10 @@ class ReleaseVersion {
     /// signs . - ~ +.
     static std::optional<ReleaseVersion> fromText(std::string_view text);
 
-    /// By its numbers, of which one that is missing counts as 0; what comes before the release itself ("-beta",
-    /// "rc1") is older than it. Parts of such a name are compared one by one: numbers by their value, words by
-    /// their letters and whatever their case, a number before a word. What stands behind a plus does not count.
+    /// By its numbers, of which one that is missing counts as 0; what comes before the release itself
+    /// ("-beta", "rc1") is older than it. Parts of such a name are compared one by one: numbers by their
+    /// value, words by their letters and whatever their case, a number before a word. What stands behind a
+    /// plus does not count.
     std::strong_ordering operator<=>(const ReleaseVersion& other) const;
     bool operator==(const ReleaseVersion& other) const = default;
 

@@ -13,8 +13,8 @@ class TimedJob {
     /// Both outlive it.
     TimedJob(Background& background, Timers& timers) : m_background(background), m_timers(timers) {}
 
-    /// Calls either the job's continuation or, when it takes longer than `limit`, `late`. By then none runs any
-    /// more. A job that is still running is given up.
+    /// Calls either the job's continuation or, when it takes longer than `limit`, `late`. By then none runs
+    /// any more. A job that is still running is given up.
     void start(Background::Job job, Seconds limit, std::function<void()> late);
     bool isRunning() const { return static_cast<bool>(m_job); }
 

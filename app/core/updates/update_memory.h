@@ -11,8 +11,8 @@
 
 namespace quillon {
 
-/// What is remembered of earlier checks for updates, in the file of the settings. Each is written the moment it
-/// is set.
+/// What is remembered of earlier checks for updates, in the file of the settings. Each is written the moment
+/// it is set.
 class UpdateMemory {
   public:
     /// As `Settings` takes it.

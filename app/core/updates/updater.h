@@ -10,8 +10,8 @@
 
 namespace quillon {
 
-/// The user's check for updates. Before it hands over to the framework it probes the list of releases, so that
-/// one that does not exist yet, or a network that cannot be reached, gives a plain message.
+/// The user's check for updates. Before it hands over to the framework it probes the list of releases, so
+/// that one that does not exist yet, or a network that cannot be reached, gives a plain message.
 class Updater {
   public:
     struct Needs {

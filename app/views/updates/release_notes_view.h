@@ -8,7 +8,8 @@
 
 namespace quillon {
 
-/// Notes as `ReleaseNotes` makes them, to be scrolled and to be gone through with the keyboard. Loads nothing.
+/// Notes as `ReleaseNotes` makes them, to be scrolled and to be gone through with the keyboard. Loads
+/// nothing.
 class ReleaseNotesView : public QTextBrowser {
     Q_OBJECT
 

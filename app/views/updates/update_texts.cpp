@@ -41,8 +41,9 @@ Message withSystem(const QString& version) {
     return {
         QCoreApplication::translate("Updates", "Updates come with your system’s software"),
         QCoreApplication::translate(
-            "Updates", "%1 %2 does not look for updates by itself. A newer version comes the way this one came, "
-                       "as a rule with the updates of your system.")
+            "Updates",
+            "%1 %2 does not look for updates by itself. A newer version comes the way this one came, "
+            "as a rule with the updates of your system.")
             .arg(programName(), version)};
 }
 

@@ -140,8 +140,7 @@ TEST_F(SettingsTest, DoNotReadAFileThatIsFarTooLarge) {
     Settings settings(m_path);
     EXPECT_EQ(settings.trigger(), TriggerKey::command);
     settings.setTrigger(TriggerKey::control);
-    EXPECT_EQ(QFileInfo(m_path).size(), largestSettingsFile + 1)
-        << "it is not this program's to write over";
+    EXPECT_EQ(QFileInfo(m_path).size(), largestSettingsFile + 1) << "it is not this program's to write over";
 }
 
 TEST_F(SettingsTest, SurviveABrokenFile) {

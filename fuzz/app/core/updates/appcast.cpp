@@ -28,7 +28,8 @@ void checkNotes(const std::string& notes) {
         const QString name = match.captured(2);
         if (name.isEmpty())
             continue;
-        QUILLON_LAW((name == QLatin1String("a") && match.captured(1).isEmpty()) == !match.captured(3).isEmpty());
+        QUILLON_LAW(
+            (name == QLatin1String("a") && match.captured(1).isEmpty()) == !match.captured(3).isEmpty());
         if (match.captured(1).isEmpty())
             open.append(name);
         else

@@ -59,27 +59,36 @@ TEST(AppcastTest, ReadsWhatAReleaseSaysInElements) {
 TEST(AppcastTest, ReadsVersionsThatStandAtTheFile) {
     EXPECT_EQ(versionsOf(list(R"(<item><enclosure sparkle:version="1.5" url="x"/></item>)")), "1.5 ");
     EXPECT_EQ(
-        versionsOf(list(R"(<item><enclosure sparkle:version="42" sparkle:shortVersionString="1.5"/></item>)")),
+        versionsOf(
+            list(R"(<item><enclosure sparkle:version="42" sparkle:shortVersionString="1.5"/></item>)")),
         "1.5 ");
-    EXPECT_EQ(versionsOf(list(R"(<item><sparkle:version>1.6</sparkle:version><enclosure sparkle:version="1.5"/></item>)")), "1.6 ");
+    EXPECT_EQ(
+        versionsOf(
+            list(R"(<item><sparkle:version>1.6</sparkle:version><enclosure sparkle:version="1.5"/></item>)")),
+        "1.6 ");
 }
 
 TEST(AppcastTest, LeavesOutWhatIsNotForEverybodyHere) {
     EXPECT_EQ(
         versionsOf(list(
             item("1.0") + item("1.1", "<sparkle:channel>beta</sparkle:channel>")
-            + item("1.2", R"(<enclosure sparkle:os="windows"/>)") + item("1.3", R"(<enclosure sparkle:os="linux"/>)")
-            + item("1.4", "<sparkle:channel/>") + item("1.5", R"(<enclosure sparkle:os="macos"/>)"))),
+            + item("1.2", R"(<enclosure sparkle:os="windows"/>)")
+            + item("1.3", R"(<enclosure sparkle:os="linux"/>)") + item("1.4", "<sparkle:channel/>")
+            + item("1.5", R"(<enclosure sparkle:os="macos"/>)"))),
         "1.0 1.3 1.4 ");
 }
 
 TEST(AppcastTest, LeavesOutWhatHasNoVersionThatCanBeRead) {
-    EXPECT_EQ(versionsOf(list("<item><title>Version 3</title></item>" + item("soon") + item("<b>9</b>x y") + item("1.0"))), "1.0 ");
+    EXPECT_EQ(
+        versionsOf(
+            list("<item><title>Version 3</title></item>" + item("soon") + item("<b>9</b>x y") + item("1.0"))),
+        "1.0 ");
 }
 
 TEST(AppcastTest, OnlyPagesOfTheWebAreKept) {
     const auto releases = Appcast::read(list(item(
-        "1.0", "<link>http://example.org/</link><sparkle:releaseNotesLink>file:///etc/passwd</sparkle:releaseNotesLink>")));
+        "1.0", "<link>http://example.org/</link><sparkle:releaseNotesLink>file:///etc/passwd</"
+               "sparkle:releaseNotesLink>")));
     ASSERT_TRUE(releases);
     ASSERT_EQ(releases->size(), 1U);
     EXPECT_EQ(releases->front().page, "");
@@ -87,15 +96,17 @@ TEST(AppcastTest, OnlyPagesOfTheWebAreKept) {
 }
 
 TEST(AppcastTest, NotesMayBePlainText) {
-    const auto releases = Appcast::read(
-        list(item("1.0", R"(<description sparkle:format="plain-text">a &lt;b&gt;
+    const auto releases =
+        Appcast::read(list(item("1.0", R"(<description sparkle:format="plain-text">a &lt;b&gt;
 c</description>)")));
     ASSERT_TRUE(releases);
     EXPECT_EQ(releases->front().notes, "a &lt;b&gt;<br>c");
 }
 
 TEST(AppcastTest, WordsOfOtherLanguagesOfTheFormatAreNotTaken) {
-    EXPECT_EQ(versionsOf(list(item("1.0", "<dc:link>x</dc:link><version>9</version><dc:version>8</dc:version>"))), "1.0 ");
+    EXPECT_EQ(
+        versionsOf(list(item("1.0", "<dc:link>x</dc:link><version>9</version><dc:version>8</dc:version>"))),
+        "1.0 ");
 }
 
 TEST(AppcastTest, AnEmptyListIsAList) {
@@ -108,8 +119,9 @@ TEST(AppcastTest, WhatIsNoWholeListIsNone) {
     for (std::size_t length = 0; length < whole.size(); ++length)
         EXPECT_EQ(versionsOf(whole.substr(0, length)), "no list") << length;
     for (const char* const other :
-         {"", " ", "<html><body>Sign in to the network</body></html>", "<rss/>", "<rss></rss>", "{\"version\": 1}",
-          "\xff\xfe\xfd", "<rss><channel/></rss><rss/>", "<feed><rss><channel/></rss></feed>"})
+         {"", " ", "<html><body>Sign in to the network</body></html>", "<rss/>", "<rss></rss>",
+          "{\"version\": 1}", "\xff\xfe\xfd", "<rss><channel/></rss><rss/>",
+          "<feed><rss><channel/></rss></feed>"})
         EXPECT_EQ(versionsOf(other), "no list") << other;
     EXPECT_EQ(versionsOf(whole + "<more/>"), "no list");
 }
@@ -128,8 +140,12 @@ TEST(AppcastTest, SizeAndNumberHaveTheirLimits) {
     EXPECT_EQ(releases->size(), Appcast::mostItems);
 
     const std::string large = list(item("1.0"));
-    EXPECT_NE(versionsOf(large + std::string(static_cast<std::size_t>(largestFeed) - large.size(), ' ')), "no list");
-    EXPECT_EQ(versionsOf(large + std::string(static_cast<std::size_t>(largestFeed) - large.size() + 1, ' ')), "no list");
+    EXPECT_NE(
+        versionsOf(large + std::string(static_cast<std::size_t>(largestFeed) - large.size(), ' ')),
+        "no list");
+    EXPECT_EQ(
+        versionsOf(large + std::string(static_cast<std::size_t>(largestFeed) - large.size() + 1, ' ')),
+        "no list");
 }
 
 TEST(NewerReleaseTest, IsTheNewestOfThoseThatAreNewer) {

@@ -121,7 +121,8 @@ TEST_F(DailyCheckTest, SaysNothingUnlessThereIsANewerRelease) {
     DailyCheck check = makeCheck();
     check.start();
     for (const FeedAnswer& other :
-         {listOf("1.2"), listOf("1.0"), FeedAnswer{404, ""}, FeedAnswer{500, ""}, FeedAnswer{}, FeedAnswer{200, "?"}}) {
+         {listOf("1.2"), listOf("1.0"), FeedAnswer{404, ""}, FeedAnswer{500, ""}, FeedAnswer{},
+          FeedAnswer{200, "?"}}) {
         answer = other;
         pass(day);
     }

@@ -51,8 +51,7 @@ TEST(FeedRequestTest, GetsTheBody) {
 }
 
 TEST(FeedRequestTest, TakesNoBodyOfAnError) {
-    const LocalServer server(
-        LocalServer::saying("HTTP/1.1 500 Broken\r\nContent-Length: 6\r\n\r\n<rss/>"));
+    const LocalServer server(LocalServer::saying("HTTP/1.1 500 Broken\r\nContent-Length: 6\r\n\r\n<rss/>"));
     EXPECT_EQ(get(server), (FeedAnswer{.status = 500}));
 }
 
@@ -70,14 +69,15 @@ TEST(FeedRequestTest, SaysWhoAsksAndPassesCachesOver) {
 
 TEST(FeedRequestTest, KeepsNoCookies) {
     std::string second;
-    const LocalServer server(LocalServer::redirectingTo("/next", "/next", [&](QTcpSocket& client, const std::string& text) {
-        second = text;
-        LocalServer::status(200)(client, text);
-    }));
+    const LocalServer server(
+        LocalServer::redirectingTo("/next", "/next", [&](QTcpSocket& client, const std::string& text) {
+            second = text;
+            LocalServer::status(200)(client, text);
+        }));
     const LocalServer first([&](QTcpSocket& client, const std::string& text) {
         LocalServer::saying(
-            "HTTP/1.1 302 Found\r\nSet-Cookie: who=me\r\nLocation: " + server.url("/next").toString().toStdString()
-            + "\r\nContent-Length: 0\r\n\r\n")(client, text);
+            "HTTP/1.1 302 Found\r\nSet-Cookie: who=me\r\nLocation: "
+            + server.url("/next").toString().toStdString() + "\r\nContent-Length: 0\r\n\r\n")(client, text);
     });
     EXPECT_EQ(head(first).status, 200);
     EXPECT_EQ(second.find("who=me"), std::string::npos) << second;
@@ -93,7 +93,8 @@ TEST(FeedRequestTest, FollowsARedirectionOnThisComputer) {
 }
 
 TEST(FeedRequestTest, DoesNotFollowARedirectionToSomethingLessSafe) {
-    for (const char* const target : {"http://192.0.2.1/appcast.xml", "file:///etc/passwd", "ftp://127.0.0.1/a"}) {
+    for (const char* const target :
+         {"http://192.0.2.1/appcast.xml", "file:///etc/passwd", "ftp://127.0.0.1/a"}) {
         const LocalServer server(LocalServer::redirectingTo(target, "/none", LocalServer::silence()));
         EXPECT_EQ(stateOfFeed(head(server).status), FeedState::failed) << target;
         EXPECT_EQ(server.requests().size(), 1U);
@@ -123,7 +124,8 @@ TEST(FeedRequestTest, WhatIsNotHttpIsNoAnswer) {
 TEST(FeedRequestTest, ABrokenConnectionIsNoAnswer) {
     const LocalServer server([](QTcpSocket& client, const std::string&) {
         const linger atOnce{.l_onoff = 1, .l_linger = 0};
-        setsockopt(static_cast<int>(client.socketDescriptor()), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+        setsockopt(
+            static_cast<int>(client.socketDescriptor()), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
         client.abort();
     });
     EXPECT_EQ(head(server), FeedAnswer());

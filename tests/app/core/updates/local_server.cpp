@@ -48,7 +48,8 @@ LocalServer::Respond LocalServer::status(int status) {
 
 LocalServer::Respond LocalServer::body(std::string text) {
     return [text = std::move(text)](QTcpSocket& client, const std::string& request) {
-        const std::string head = "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(text.size()) + "\r\n\r\n";
+        const std::string head =
+            "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(text.size()) + "\r\n\r\n";
         saying(request.starts_with("HEAD") ? head : head + text)(client, request);
     };
 }
@@ -59,7 +60,8 @@ LocalServer::Respond LocalServer::redirectingTo(std::string address, std::string
         if (request.find(" " + nextPath + " ") != std::string::npos)
             next(client, request);
         else
-            saying("HTTP/1.1 302 Found\r\nLocation: " + address + "\r\nContent-Length: 0\r\n\r\n")(client, request);
+            saying("HTTP/1.1 302 Found\r\nLocation: " + address + "\r\nContent-Length: 0\r\n\r\n")(
+                client, request);
     };
 }
 

@@ -1,5 +1,6 @@
 #include <quillon/app/platform/fake/fake_appearance.h>
 #include <quillon/app/views/updates/release_notes_view.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <gtest/gtest.h>
 
@@ -49,7 +50,7 @@ TEST_F(ReleaseNotesViewTest, ALinkIsReachedAndFollowedWithTheKeyboard) {
     ReleaseNotesView view(themes, "<p><a href=\"https://example.org/a\">more</a></p>");
     const QSignalSpy followed(&view, &QTextBrowser::anchorClicked);
     view.show();
-    QApplication::setActiveWindow(&view);
+    ASSERT_TRUE(makeActive(view));
     view.setFocus();
     QTest::keyClick(&view, Qt::Key_Tab);
     QTest::keyClick(&view, Qt::Key_Return);
