@@ -12,12 +12,13 @@ namespace quillon {
 namespace {
 
 constexpr int padding = 18;
+constexpr int verticalPadding = 14;
 constexpr int spacing = 14;
 /// From the line that the caption stands on down to the keys.
 constexpr int captionGap = 8;
 constexpr int titleGap = 10;
-/// Where the title stands below the keys everything is closer together.
-constexpr int closeGap = 7;
+/// Where the title stands below the keys everything is closer together: this far apart where there is room.
+constexpr int widestCloseGap = 7;
 /// The title keeps at least this part of the room beside names; else it moves below them.
 constexpr double titleShare = 0.4;
 /// The largest text with which the widest keys leave a title some room.
@@ -34,6 +35,13 @@ QFont noLarger(const QFont& font, double pixels) {
 QRectF onLine(const QFont& font, const QString& text, double x, double line) {
     const QFontMetricsF metrics(font);
     return {x, line - metrics.ascent(), metrics.horizontalAdvance(text), metrics.ascent()};
+}
+
+/// Between three lines that together have this height, the first of which is a text.
+int closeGap(double lines, const QFontMetricsF& first) {
+    const double aboveCapitals = first.ascent() - first.capHeight();
+    const double free = ToastLayout::size.height() - 2 * (verticalPadding + aboveCapitals) - lines;
+    return std::clamp(static_cast<int>(std::floor(free / 2)), 1, widestCloseGap);
 }
 
 void mirror(ToastLayout& layout) {
@@ -69,18 +77,18 @@ ToastLayout ToastLayout::of(const ToastMeasures& measures, Qt::LayoutDirection d
     const int besideKeys = std::max(0, room() - measures.keys.width() - titleGap);
     const bool isBelow = measures.isNamed && besideKeys < titleShare * room()
                          && title.horizontalAdvance(measures.title) > besideKeys;
-    const int gap = isBelow ? closeGap : captionGap;
-    const double seen =
-        caption.capHeight() + gap + measures.keys.height() + (isBelow ? closeGap + title.capHeight() : 0);
+    const double lines = caption.capHeight() + measures.keys.height() + (isBelow ? title.capHeight() : 0);
+    const int gap = isBelow ? closeGap(lines, caption) : captionGap;
+    const double seen = lines + gap + (isBelow ? gap : 0);
     const int captionLine = static_cast<int>(std::lround((size.height() - seen) / 2 + caption.capHeight()));
     layout.caption = onLine(measures.fonts.caption, ToastTexts::caption(), x, captionLine);
 
     layout.keys = {QPoint(x, captionLine + gap), measures.keys};
     layout.shownTitle = title.elidedText(measures.title, Qt::ElideRight, isBelow ? room() : besideKeys);
     const int titleX = isBelow ? x : x + measures.keys.width() + titleGap;
-    const double line =
-        isBelow ? std::round(layout.keys.y() + measures.keys.height() + closeGap + title.capHeight())
-                : layout.keys.y() + measures.keysLine;
+    const double line = isBelow
+                            ? std::round(layout.keys.y() + measures.keys.height() + gap + title.capHeight())
+                            : layout.keys.y() + measures.keysLine;
     layout.title = onLine(measures.fonts.title, layout.shownTitle, titleX, line);
 
     if (direction == Qt::RightToLeft)
