@@ -54,8 +54,6 @@ WelcomeView::WelcomeView(
         QTimer::singleShot(0, this, &WelcomeView::makeRoom);
     });
     themeChanged();
-    QWidget* const ask = m_steps->askButton();
-    (ask ? ask : m_done)->setFocus();
 }
 
 QScrollArea* WelcomeView::makeScroll() {
@@ -85,6 +83,12 @@ QWidget* WelcomeView::makeFooter() {
     connect(m_later, &QPushButton::clicked, this, &WelcomeView::close);
     connect(m_done, &QPushButton::clicked, this, &WelcomeView::finish);
     return footer;
+}
+
+void WelcomeView::showEvent(QShowEvent* event) {
+    ThemedWidget::showEvent(event);
+    QWidget* const ask = m_steps->askButton();
+    (ask ? ask : m_done)->setFocus();
 }
 
 void WelcomeView::finish() {

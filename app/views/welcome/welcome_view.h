@@ -29,6 +29,7 @@ class WelcomeView : public ThemedWidget {
   protected:
     void themeChanged() override;
     void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     QScrollArea* makeScroll();

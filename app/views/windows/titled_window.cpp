@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -42,9 +41,8 @@ TitledWindow::TitledWindow(
     setWindowTitle(WindowTexts::title(name));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_content);
+    setCentralWidget(m_content);
+    setContextMenuPolicy(Qt::NoContextMenu);
     auto* closing = new QShortcut(QKeySequence(QKeySequence::Close), this);
     connect(closing, &QShortcut::activated, this, &QWidget::close);
     resize(sizeFor(contentSize));
@@ -63,7 +61,7 @@ void TitledWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && m_escape == EscapeKey::closes)
         close();
     else
-        QWidget::keyPressEvent(event);
+        QMainWindow::keyPressEvent(event);
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "titled_windows.h"
 
+#include <QMainWindow>
 #include <QSize>
 #include <QWidget>
 
@@ -11,7 +12,7 @@ namespace quillon {
 
 /// A window with the title that belongs to its name, around one view. It goes, and the view with it, when it
 /// is closed: by the window manager, Ctrl W or, where it does so, Esc.
-class TitledWindow final : public QWidget {
+class TitledWindow final : public QMainWindow {
     Q_OBJECT
 
   public:

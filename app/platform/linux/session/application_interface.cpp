@@ -26,10 +26,13 @@ void ApplicationInterface::Open(const QStringList&, const QVariantMap& platformD
 }
 
 void ApplicationInterface::ActivateAction(
-    const QString& name, const QVariantList&, const QVariantMap& platformData) {
+    const QString& name, const QVariantList&, const QVariantMap& platformData, const QDBusMessage& message) {
     expect(platformData);
-    if (!act(name) && calledFromDBus())
-        sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("there is no action '%1'").arg(name.left(64)));
+    if (act(name))
+        return;
+    message.setDelayedReply(true); // it is this one
+    m_bus.connection().send(message.createErrorReply(
+        QDBusError::InvalidArgs, QStringLiteral("there is no action '%1'").arg(name.left(64))));
 }
 
 /// The proof that the user asked, under either of its names.

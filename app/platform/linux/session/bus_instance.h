@@ -61,7 +61,7 @@ class BusInstance final : public QObject, public Instance {
     const SessionBus& m_bus;
     std::chrono::milliseconds m_retryInterval;
     InstanceRequests m_requests;
-    ApplicationInterface* m_application = new ApplicationInterface(m_requests, this);
+    ApplicationInterface* m_application = new ApplicationInterface(m_requests, m_bus, this);
     InstanceLock m_lock;
     std::optional<BusObject> m_object;
     std::optional<BusName> m_name;

@@ -1,10 +1,12 @@
 #include "x11_foreground.h"
 
 #include "toolkit_connection.h"
+#include "x11_property.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <string_view>
 #include <utility>
 
 namespace quillon {
@@ -15,11 +17,16 @@ namespace {
 constexpr std::uint32_t actsForUser = 2;
 constexpr std::size_t messageBytes = 20;
 constexpr std::size_t longestToken = 512;
+constexpr std::string_view currentDesktop = "_NET_CURRENT_DESKTOP";
+constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
+constexpr std::uint32_t one = 4;
 
 } // namespace
 
 X11Foreground::X11Foreground(std::shared_ptr<X11Connection> x11, xcb_connection_t* maker)
-    : m_x11(std::move(x11)), m_maker(maker) {
+    : m_x11(std::move(x11)), m_maker(maker),
+      m_currentDesktop(xcb_intern_atom(
+          m_x11->xcb(), 0, static_cast<std::uint16_t>(currentDesktop.size()), currentDesktop.data())) {
     m_events = m_x11->onEvent([this](const xcb_generic_event_t& event) { handle(event); });
 }
 
@@ -60,12 +67,31 @@ void X11Foreground::handle(const xcb_generic_event_t& event) {
         activate(std::exchange(m_wanted, XCB_NONE), change.time);
 }
 
+void X11Foreground::moveHere(xcb_window_t window) {
+    if (!m_currentDesktopName) {
+        const auto name = m_x11->reply<xcb_intern_atom_reply_t>(m_currentDesktop);
+        m_currentDesktopName = name ? name->atom : xcb_atom_t{XCB_ATOM_NONE};
+    }
+    if (*m_currentDesktopName == XCB_ATOM_NONE)
+        return;
+    const xcb_atom_t desktopOf = m_x11->atom(X11Name::netWmDesktop);
+    X11Property shown = X11Property::ask(*m_x11, m_x11->root(), *m_currentDesktopName, one);
+    X11Property own = X11Property::ask(*m_x11, window, desktopOf, one);
+    shown.receive(*m_x11);
+    own.receive(*m_x11);
+    if (!shown.number() || !own.number() || own.number() == shown.number() || own.number() == everyDesktop)
+        return;
+    const std::array<std::uint32_t, 5> data{*shown.number(), actsForUser, 0, 0, 0};
+    sendToRoot(window, desktopOf, 32, data.data());
+}
+
 void X11Foreground::activate(xcb_window_t window, xcb_timestamp_t time) {
+    moveHere(window);
     xcb_change_property(
         maker(), XCB_PROP_MODE_REPLACE, window, m_x11->atom(X11Name::netWmUserTime), XCB_ATOM_CARDINAL, 32, 1,
         &time);
     const std::array<std::uint32_t, 5> data{actsForUser, time, XCB_NONE, 0, 0};
-    sendToRoot(window, X11Name::netActiveWindow, 32, data.data());
+    sendToRoot(window, m_x11->atom(X11Name::netActiveWindow), 32, data.data());
     if (!m_token.empty())
         endStart(std::exchange(m_token, {}));
     xcb_flush(maker());
@@ -84,16 +110,16 @@ void X11Foreground::endStart(const std::string& token) {
     for (std::size_t from = 0; from <= text.size(); from += messageBytes) {
         std::array<char, messageBytes> piece{};
         std::memcpy(piece.data(), text.data() + from, std::min(messageBytes, text.size() - from));
-        sendToRoot(m_clock, std::exchange(type, X11Name::netStartupInfo), 8, piece.data());
+        sendToRoot(m_clock, m_x11->atom(std::exchange(type, X11Name::netStartupInfo)), 8, piece.data());
     }
 }
 
-void X11Foreground::sendToRoot(xcb_window_t window, X11Name type, std::uint8_t format, const void* data) {
+void X11Foreground::sendToRoot(xcb_window_t window, xcb_atom_t type, std::uint8_t format, const void* data) {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = format;
     message.window = window;
-    message.type = m_x11->atom(type);
+    message.type = type;
     std::memcpy(&message.data, data, messageBytes);
     const bool isForManager = format == 32;
     xcb_send_event(

@@ -46,7 +46,8 @@ struct X11ForegroundTest : X11Fixture {
     }
     void note(const xcb_client_message_event_t& event) {
         Message message{.window = event.window, .type = {}, .numbers = {}, .text = {}};
-        for (const char* name : {"_NET_ACTIVE_WINDOW", "_NET_STARTUP_INFO", "_NET_STARTUP_INFO_BEGIN"})
+        for (const char* name :
+             {"_NET_ACTIVE_WINDOW", "_NET_WM_DESKTOP", "_NET_STARTUP_INFO", "_NET_STARTUP_INFO_BEGIN"})
             if (client->atom(name) == event.type)
                 message.type = name;
         if (event.format == 32)
@@ -104,6 +105,22 @@ TEST_F(X11ForegroundTest, TheWindowThatWasAskedForLastIsBrought) {
     ASSERT_TRUE(isAskedFor());
     for (const Message& message : messages("_NET_ACTIVE_WINDOW"))
         EXPECT_EQ(message.window, other);
+}
+
+TEST_F(X11ForegroundTest, AWindowOfAnotherWorkspaceComesToTheShownOne) {
+    client->setNumbers(x11->root(), "_NET_CURRENT_DESKTOP", "CARDINAL", {3});
+    client->setNumbers(window, "_NET_WM_DESKTOP", "CARDINAL", {1});
+    foreground->bring(window);
+    ASSERT_TRUE(isAskedFor());
+    ASSERT_EQ(messages("_NET_WM_DESKTOP").size(), 1u);
+    EXPECT_EQ(messages("_NET_WM_DESKTOP").front().numbers[0], 3u);
+    all.clear();
+    for (const std::uint32_t stays : {3u, 0xFFFFFFFFu}) {
+        client->setNumbers(window, "_NET_WM_DESKTOP", "CARDINAL", {stays});
+        foreground->bring(window);
+        ASSERT_TRUE(isAskedFor());
+    }
+    EXPECT_THAT(messages("_NET_WM_DESKTOP"), IsEmpty());
 }
 
 TEST_F(X11ForegroundTest, ALauncherThatWaitsIsToldThatTheStartIsOver) {
