@@ -86,8 +86,8 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
             .background = background,
             .hasOwnFocus = [] { return QGuiApplication::focusWindow() != nullptr; }},
         m_input);
-    m_silentApps = std::make_unique<LinuxSilentApps>(
-        LinuxSilentApps::ofSession(m_x11, background, m_identifier));
+    m_silentApps =
+        std::make_unique<LinuxSilentApps>(LinuxSilentApps::ofSession(m_x11, background, m_identifier));
     m_activations = m_front->onActivated(logActivation);
 }
 
