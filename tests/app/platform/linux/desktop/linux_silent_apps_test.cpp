@@ -26,8 +26,8 @@ class LinuxSilentAppsTest : public testing::Test {
     }
     static DesktopEntries installed() {
         return DesktopEntries(
-            {{.id = "pad", .name = "Feather Pad", .executable = "pad"},
-             {.id = "draw", .name = "Drawing", .executable = "draw"}});
+            {{.id = "pad", .name = "Feather Pad", .startupWMClass = {}, .icon = {}, .executable = "pad"},
+             {.id = "draw", .name = "Drawing", .startupWMClass = {}, .icon = {}, .executable = "draw"}});
     }
     static WindowFacts windowOf(std::int64_t pid, const std::string& className) {
         return {.pid = pid, .instance = className, .className = className, .gtkApplicationID = {}};
