@@ -4,88 +4,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Usage: quillon [--verbose] [COMMAND]
-
-Teaches the keyboard shortcuts of the applications you already use. Hold the
-trigger key (Super) in any application to see its shortcuts.
-
-Commands:
-  (none)      start the program, or bring up the one that runs
-  show        open the overlay and keep it open
-                --sample          with a made-up drawing application
-  sheet       print an application's shortcuts
-                --app NAME        the application with this id or name
-                --pid N           the application of this process
-                --front           the front application (default)
-                --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default), json or markdown
-                --keys KEYS       symbols (default), or names as they are printed
-                                  on the keyboard; JSON is the same with both
-                --practice N      a practice round of N commands instead, in the
-                                  order in which they are asked
-                --seed S          the same round every time
-  apps        list the running applications that share their menus
-  stats       print what was counted: clicks and typed uses of each command,
-              the most clicked first. "learned" are those typed 5 times more
-              than clicked; "clicks replaced" are the typed uses of commands
-              that were clicked as well
-                --app NAME        of the application with this id or name only
-                --format FORMAT   text (default) or json
-                --keys KEYS       as for sheet
-  doctor      say what works on this desktop and how to mend what does not
-  quit        end the running program
-
-Options:
-  --help      print this text
-  --verbose   before the command: tell on standard error what is read, in
-              front and shown; never what is typed
-  --version   print the version
-
-Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
-4 accessibility is absent or off, 5 the application shares no menu shortcuts.
-</source>
-        <translation>Aufruf: quillon [--verbose] [BEFEHL]
-
-Bringt Ihnen die Tastenkürzel der Anwendungen bei, die Sie schon benutzen.
-Halten Sie in einer Anwendung die Auslösetaste (Super), um sie zu sehen.
-
-Befehle:
-  (keiner)    das Programm starten oder das laufende hervorholen
-  show        die Übersicht öffnen und offen halten
-                --sample          mit einem erfundenen Zeichenprogramm
-  sheet       die Tastenkürzel einer Anwendung ausgeben
-                --app NAME        die Anwendung dieses Namens, auch als Kennung
-                --pid N           die Anwendung dieses Prozesses
-                --front           die Anwendung im Vordergrund (Vorgabe)
-                --query Q         nur die Tastenkürzel, die zu Q passen
-                --format FORMAT   text (Vorgabe), json oder markdown
-                --keys TASTEN     symbols (Vorgabe: Zeichen) oder names, wie auf
-                                  der Tastatur; JSON ist mit beiden gleich
-                --practice N      stattdessen eine Übungsrunde von N Befehlen,
-                                  geordnet, wie sie gefragt werden
-                --seed S          jedes Mal dieselbe Runde
-  apps        die laufenden Anwendungen auflisten, die ihre Menüs freigeben
-  stats       ausgeben, was gezählt wurde: Klicks und Tippen je Befehl, die am
-              meisten geklickten zuerst. „gelernt“ sind solche, die 5-mal öfter
-              getippt als geklickt wurden; „ersetzt“ zählt, wie oft Befehle
-              getippt wurden, die auch geklickt wurden
-                --app NAME        nur die Anwendung mit diesem Namen (Kennung)
-                --format FORMAT   text (Vorgabe) oder json
-                --keys TASTEN     wie bei sheet
-  doctor      sagen, was auf diesem Desktop geht und wie der Rest zu beheben ist
-  quit        das laufende Programm beenden
-
-Optionen:
-  --help      diesen Text ausgeben
-  --verbose   vor dem Befehl: auf der Fehlerausgabe sagen, was gelesen wird,
-              vorn ist und gezeigt wird; nie, was getippt wird
-  --version   die Version ausgeben
-
-Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
-4 Barrierefreiheit fehlt oder ist aus, 5 keine Menü-Tastenkürzel freigegeben.
-</translation>
-    </message>
-    <message>
         <source>%1; see quillon --help</source>
         <translation>%1; siehe quillon --help</translation>
     </message>
@@ -240,6 +158,96 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     <message numerus="yes">
         <source>%1 shortcuts</source>
         <translation><numerusform>%1 Tastenkürzel</numerusform><numerusform>%1 Tastenkürzel</numerusform></translation>
+    </message>
+    <message>
+        <source>Usage: quillon [--verbose] [COMMAND]
+
+Teaches the keyboard shortcuts of the applications you already use. Hold the
+trigger key (Super) in any application to see its shortcuts.
+
+Commands:
+  (none)      start the program, or bring up the one that runs
+  show        open the overlay and keep it open
+                --sample          with a made-up drawing application
+  practice    open the practice window
+  library     open the library of all shortcuts
+  settings    open the settings
+  welcome     open the welcome
+  sheet       print an application's shortcuts
+                --app NAME        the application with this id or name
+                --pid N           the application of this process
+                --front           the front application (default)
+                --query Q         only the shortcuts that match Q
+                --format FORMAT   text (default), json or markdown
+                --keys KEYS       symbols (default), or names as they are printed
+                                  on the keyboard; JSON is the same with both
+                --practice N      a practice round of N commands instead, in the
+                                  order in which they are asked
+                --seed S          the same round every time
+  apps        list the running applications that share their menus
+  stats       print what was counted: clicks and typed uses of each command,
+              the most clicked first. "learned" are those typed 5 times more
+              than clicked; "clicks replaced" are the typed uses of commands
+              that were clicked as well
+                --app NAME        of the application with this id or name only
+                --format FORMAT   text (default) or json
+                --keys KEYS       as for sheet
+  doctor      say what works on this desktop and how to mend what does not
+  quit        end the running program
+
+Options:
+  --help      print this text
+  --verbose   before the command: tell on standard error what is read, in
+              front and shown; never what is typed
+  --version   print the version
+
+Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
+4 accessibility is absent or off, 5 the application shares no menu shortcuts.
+</source>
+        <translation>Aufruf: quillon [--verbose] [BEFEHL]
+
+Bringt Ihnen die Tastenkürzel der Anwendungen bei, die Sie schon benutzen.
+Halten Sie in einer Anwendung die Auslösetaste (Super), um sie zu sehen.
+
+Befehle:
+  (keiner)    das Programm starten oder das laufende hervorholen
+  show        die Übersicht öffnen und offen halten
+                --sample          mit einem erfundenen Zeichenprogramm
+  practice    das Fenster zum Üben öffnen
+  library     die Bibliothek aller Tastenkürzel öffnen
+  settings    die Einstellungen öffnen
+  welcome     die Begrüßung öffnen
+  sheet       die Tastenkürzel einer Anwendung ausgeben
+                --app NAME        die Anwendung dieses Namens, auch als Kennung
+                --pid N           die Anwendung dieses Prozesses
+                --front           die Anwendung im Vordergrund (Vorgabe)
+                --query Q         nur die Tastenkürzel, die zu Q passen
+                --format FORMAT   text (Vorgabe), json oder markdown
+                --keys TASTEN     symbols (Vorgabe: Zeichen) oder names, wie auf
+                                  der Tastatur; JSON ist mit beiden gleich
+                --practice N      stattdessen eine Übungsrunde von N Befehlen,
+                                  geordnet, wie sie gefragt werden
+                --seed S          jedes Mal dieselbe Runde
+  apps        die laufenden Anwendungen auflisten, die ihre Menüs freigeben
+  stats       ausgeben, was gezählt wurde: Klicks und Tippen je Befehl, die am
+              meisten geklickten zuerst. „gelernt“ sind solche, die 5-mal öfter
+              getippt als geklickt wurden; „ersetzt“ zählt, wie oft Befehle
+              getippt wurden, die auch geklickt wurden
+                --app NAME        nur die Anwendung mit diesem Namen (Kennung)
+                --format FORMAT   text (Vorgabe) oder json
+                --keys TASTEN     wie bei sheet
+  doctor      sagen, was auf diesem Desktop geht und wie der Rest zu beheben ist
+  quit        das laufende Programm beenden
+
+Optionen:
+  --help      diesen Text ausgeben
+  --verbose   vor dem Befehl: auf der Fehlerausgabe sagen, was gelesen wird,
+              vorn ist und gezeigt wird; nie, was getippt wird
+  --version   die Version ausgeben
+
+Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
+4 Barrierefreiheit fehlt oder ist aus, 5 keine Menü-Tastenkürzel freigegeben.
+</translation>
     </message>
 </context>
 <context>
@@ -437,10 +445,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
         <translation>Systemleiste</translation>
     </message>
     <message>
-        <source>shows icons</source>
-        <translation>zeigt Symbole</translation>
-    </message>
-    <message>
         <source>there is none</source>
         <translation>es gibt keine</translation>
     </message>
@@ -615,6 +619,25 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     <message>
         <source>Start it with `quillon`.</source>
         <translation>Starten Sie es mit `quillon`.</translation>
+    </message>
+    <message>
+        <source>shows Quillon’s icon</source>
+        <translation>zeigt das Symbol von Quillon</translation>
+    </message>
+    <message>
+        <source>can show Quillon’s icon</source>
+        <translation>kann das Symbol von Quillon zeigen</translation>
+    </message>
+    <message>
+        <source>there is one, which does not show Quillon’s icon</source>
+        <translation>vorhanden, zeigt aber das Symbol von Quillon nicht</translation>
+    </message>
+</context>
+<context>
+    <name>KeyPlaces</name>
+    <message>
+        <source>%1 is %2, %3 is %4, %5 is %6.</source>
+        <translation>%1 ist %2, %3 ist %4, %5 ist %6.</translation>
     </message>
 </context>
 <context>
@@ -861,10 +884,212 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     </message>
 </context>
 <context>
+    <name>Practice</name>
+    <message>
+        <source>Practice</source>
+        <translation>Üben</translation>
+    </message>
+    <message>
+        <source>App to practise</source>
+        <translation>Anwendung zum Üben</translation>
+    </message>
+    <message>
+        <source>Press New Round.</source>
+        <translation>Drücken Sie „Neue Runde“.</translation>
+    </message>
+    <message>
+        <source>New Round</source>
+        <translation>Neue Runde</translation>
+    </message>
+    <message>
+        <source>%1 has no shortcuts to practise.</source>
+        <translation>%1 hat keine Tastenkürzel zum Üben.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Press the shortcut</source>
+        <translation>Drücken Sie das Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Show Answer</source>
+        <translation>Antwort zeigen</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Richtig</translation>
+    </message>
+    <message>
+        <source>You pressed %1</source>
+        <translation>Gedrückt: %1</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>See Results</source>
+        <translation>Ergebnis ansehen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 right</source>
+        <translation>%1 von %2 richtig</translation>
+    </message>
+    <message>
+        <source>These come up more next time:</source>
+        <translation>Diese kommen nächstes Mal öfter:</translation>
+    </message>
+    <message>
+        <source>A clean round. The next one leans on whatever you click next.</source>
+        <translation>Alles richtig. Die nächste Runde richtet sich nach dem, was Sie als Nächstes anklicken.</translation>
+    </message>
+    <message>
+        <source>Another Round</source>
+        <translation>Noch eine Runde</translation>
+    </message>
+    <message>
+        <source>No apps to practise yet</source>
+        <translation>Noch keine Anwendungen zum Üben</translation>
+    </message>
+    <message>
+        <source>Hold %1 in an app first, so Quillon can read its shortcuts.</source>
+        <translation>Halten Sie erst %1 in einer Anwendung, damit Quillon deren Tastenkürzel lesen kann.</translation>
+    </message>
+</context>
+<context>
     <name>SearchBox</name>
     <message>
         <source>Clear search</source>
         <translation>Suche leeren</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Coach</source>
+        <translation>Trainer</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message>
+        <source>Hold this key</source>
+        <translation>Diese Taste halten</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Using the key in a shortcut (%1-click) never opens the overlay.</source>
+        <translation>Wird die Taste in einem Tastenkürzel benutzt (%1-Klick), öffnet sich die Übersicht nie.</translation>
+    </message>
+    <message>
+        <source>Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.</source>
+        <translation>Ihr Desktop öffnet seinen Starter, wenn %1 allein gedrückt wird; Halten bewirkt dann vielleicht beides.</translation>
+    </message>
+    <message>
+        <source>Use %1 Instead</source>
+        <translation>Stattdessen %1 verwenden</translation>
+    </message>
+    <message>
+        <source>Hold time</source>
+        <translation>Haltedauer</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show keys as</source>
+        <translation>Tasten zeigen als</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Namen</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Mit der Sitzung starten</translation>
+    </message>
+    <message>
+        <source>The start with the session could not be changed: your configuration folder cannot be written to. Allow that, then try again.</source>
+        <translation>Der Start mit der Sitzung konnte nicht geändert werden: In Ihren Konfigurationsordner kann nicht geschrieben werden. Erlauben Sie das und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Erlaubt</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Erlauben …</translation>
+    </message>
+    <message>
+        <source>Nudge me when I click a menu command that has a shortcut</source>
+        <translation>Hinweisen, wenn ich einen Menübefehl mit Tastenkürzel anklicke</translation>
+    </message>
+    <message>
+        <source>Count the shortcuts I type (to know which ones I already use)</source>
+        <translation>Getippte Tastenkürzel zählen (um zu wissen, welche ich schon benutze)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Counting looks only at key presses with %1 or %2 and compares them with the front app’s menu shortcuts. Quillon never records what you type. A shortcut stops being nudged once you’ve typed it %3 times more than you’ve clicked it; you can also mute any one in the Library.</source>
+        <translation><numerusform>Gezählt werden nur Tastendrücke mit %1 oder %2, verglichen mit den Menü-Tastenkürzeln der vorderen Anwendung. Quillon zeichnet nie auf, was Sie tippen. Auf ein Tastenkürzel wird nicht mehr hingewiesen, sobald Sie es %3-mal öfter getippt als geklickt haben; in der Bibliothek lässt sich auch jedes einzelne stummschalten.</numerusform><numerusform>Gezählt werden nur Tastendrücke mit %1 oder %2, verglichen mit den Menü-Tastenkürzeln der vorderen Anwendung. Quillon zeichnet nie auf, was Sie tippen. Auf ein Tastenkürzel wird nicht mehr hingewiesen, sobald Sie es %3-mal öfter getippt als geklickt haben; in der Bibliothek lässt sich auch jedes einzelne stummschalten.</numerusform></translation>
+    </message>
+    <message>
+        <source>Everything Quillon learns stays on this %1: the menus it has read, how often you click or type each shortcut, your practice results, pins and notes. There is no folder for it, so it is forgotten when Quillon quits.</source>
+        <translation>Alles, was Quillon lernt, bleibt auf diesem %1: die gelesenen Menüs, wie oft Sie jedes Tastenkürzel klicken oder tippen, Ihre Übungsergebnisse, Angeheftetes und Notizen. Es gibt keinen Ordner dafür, darum ist es vergessen, wenn Quillon endet.</translation>
+    </message>
+    <message>
+        <source>Everything Quillon learns stays on this %1: the menus it has read, how often you click or type each shortcut, your practice results, pins and notes. They’re plain files in %2.</source>
+        <translation>Alles, was Quillon lernt, bleibt auf diesem %1: die gelesenen Menüs, wie oft Sie jedes Tastenkürzel klicken oder tippen, Ihre Übungsergebnisse, Angeheftetes und Notizen. Es sind einfache Dateien in %2.</translation>
+    </message>
+    <message>
+        <source>Quillon goes online only to look for updates.</source>
+        <translation>Quillon geht nur online, um nach Aktualisierungen zu suchen.</translation>
+    </message>
+    <message>
+        <source>Erase Stats, Pins and Notes…</source>
+        <translation>Zählungen, Angeheftetes und Notizen löschen …</translation>
+    </message>
+    <message>
+        <source>Erase everything Quillon has learned?</source>
+        <translation>Alles löschen, was Quillon gelernt hat?</translation>
+    </message>
+    <message>
+        <source>Your counts, practice results, pins, notes and the menus read so far are deleted. Your settings stay.</source>
+        <translation>Ihre Zählungen, Übungsergebnisse, Angeheftetes, Notizen und die bisher gelesenen Menüs werden gelöscht. Ihre Einstellungen bleiben.</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -903,6 +1128,105 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     <message>
         <source>Quit Quillon</source>
         <translation>Quillon beenden</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Üben</translation>
+    </message>
+    <message>
+        <source>Library…</source>
+        <translation>Bibliothek …</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Nach Aktualisierungen suchen …</translation>
+    </message>
+</context>
+<context>
+    <name>Updates</name>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>You’re up to date</source>
+        <translation>Sie sind auf dem neuesten Stand</translation>
+    </message>
+    <message>
+        <source>%1 %2 is the newest version. %1 checks for updates on its own and will let you know when there’s a new one.</source>
+        <translation>%1 %2 ist die neueste Version. %1 sucht von selbst nach Aktualisierungen und sagt Bescheid, wenn es eine neue gibt.</translation>
+    </message>
+    <message>
+        <source>Couldn’t check for updates</source>
+        <translation>Die Suche nach Aktualisierungen ist gescheitert</translation>
+    </message>
+    <message>
+        <source>Check your internet connection and try again. %1 also checks on its own about once a day.</source>
+        <translation>Prüfen Sie Ihre Internetverbindung und versuchen Sie es noch einmal. %1 sucht auch von selbst etwa einmal am Tag.</translation>
+    </message>
+    <message>
+        <source>What was received is no list of releases. Try again later, or in another network. %1 also checks on its own about once a day.</source>
+        <translation>Was empfangen wurde, ist keine Liste von Versionen. Versuchen Sie es später oder in einem anderen Netz noch einmal. %1 sucht auch von selbst etwa einmal am Tag.</translation>
+    </message>
+    <message>
+        <source>Updates come with your system’s software</source>
+        <translation>Aktualisierungen kommen mit der Software Ihres Systems</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not look for updates by itself. A newer version comes the way this one came, as a rule with the updates of your system.</source>
+        <translation>%1 %2 sucht nicht selbst nach Aktualisierungen. Eine neuere Version kommt auf demselben Weg wie diese, in der Regel mit den Aktualisierungen Ihres Systems.</translation>
+    </message>
+    <message>
+        <source>%1 %2 is available</source>
+        <translation>%1 %2 ist verfügbar</translation>
+    </message>
+    <message>
+        <source>You have version %1.</source>
+        <translation>Sie haben Version %1.</translation>
+    </message>
+    <message>
+        <source>Couldn’t open the page</source>
+        <translation>Die Seite konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Open this address in a browser: %1</source>
+        <translation>Öffnen Sie diese Adresse in einem Browser: %1</translation>
+    </message>
+    <message>
+        <source>Couldn’t open the software centre</source>
+        <translation>Die Softwareverwaltung konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Open it from your desktop’s menu and look for %1 there.</source>
+        <translation>Öffnen Sie sie aus dem Menü Ihres Desktops und suchen Sie dort %1.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Open Download Page</source>
+        <translation>Download-Seite öffnen</translation>
+    </message>
+    <message>
+        <source>Open Software Centre</source>
+        <translation>Softwareverwaltung öffnen</translation>
+    </message>
+    <message>
+        <source>Read Release Notes</source>
+        <translation>Versionshinweise lesen</translation>
+    </message>
+    <message>
+        <source>What is new in %1 %2</source>
+        <translation>Neu in %1 %2</translation>
     </message>
 </context>
 <context>
@@ -954,6 +1278,18 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     <message>
         <source>data folder</source>
         <translation>Datenordner</translation>
+    </message>
+    <message>
+        <source>the Super or Windows key</source>
+        <translation>die Super- oder Windows-Taste</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
     </message>
 </context>
 <context>
@@ -1029,6 +1365,22 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     <message>
         <source>Done</source>
         <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.</source>
+        <translation>Ihr Desktop öffnet seinen Starter, wenn %1 allein gedrückt wird; Halten bewirkt dann vielleicht beides.</translation>
+    </message>
+    <message>
+        <source>Use %1 Instead</source>
+        <translation>Stattdessen %1 verwenden</translation>
+    </message>
+    <message>
+        <source>To show the shortcuts of what was open before, quit it and start it again: %1</source>
+        <translation>Um die Tastenkürzel von schon Geöffnetem zu zeigen, beenden und starten Sie es neu: %1</translation>
+    </message>
+    <message>
+        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon --help” do the same.</source>
+        <translation>Dieser Desktop zeigt keine Symbole in einer Systemleiste. Um Quillon zu erreichen, starten Sie es noch einmal aus der Liste der Anwendungen: Das öffnet sein Menü, und ein Rechtsklick dort bietet seine Fenster an. In einem Terminal tun „quillon show“ und „quillon --help“ dasselbe.</translation>
     </message>
 </context>
 <context>

@@ -4,88 +4,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Usage: quillon [--verbose] [COMMAND]
-
-Teaches the keyboard shortcuts of the applications you already use. Hold the
-trigger key (Super) in any application to see its shortcuts.
-
-Commands:
-  (none)      start the program, or bring up the one that runs
-  show        open the overlay and keep it open
-                --sample          with a made-up drawing application
-  sheet       print an application's shortcuts
-                --app NAME        the application with this id or name
-                --pid N           the application of this process
-                --front           the front application (default)
-                --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default), json or markdown
-                --keys KEYS       symbols (default), or names as they are printed
-                                  on the keyboard; JSON is the same with both
-                --practice N      a practice round of N commands instead, in the
-                                  order in which they are asked
-                --seed S          the same round every time
-  apps        list the running applications that share their menus
-  stats       print what was counted: clicks and typed uses of each command,
-              the most clicked first. "learned" are those typed 5 times more
-              than clicked; "clicks replaced" are the typed uses of commands
-              that were clicked as well
-                --app NAME        of the application with this id or name only
-                --format FORMAT   text (default) or json
-                --keys KEYS       as for sheet
-  doctor      say what works on this desktop and how to mend what does not
-  quit        end the running program
-
-Options:
-  --help      print this text
-  --verbose   before the command: tell on standard error what is read, in
-              front and shown; never what is typed
-  --version   print the version
-
-Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
-4 accessibility is absent or off, 5 the application shares no menu shortcuts.
-</source>
-        <translation>Uso: quillon [--verbose] [ORDEN]
-
-Le enseña los atajos de teclado de las aplicaciones que ya usa. Mantenga
-pulsada la tecla de activación (Super) en una aplicación para ver sus atajos.
-
-Órdenes:
-  (ninguna)   iniciar el programa, o mostrar el que está en marcha
-  show        abrir el panel y mantenerlo abierto
-                --sample          con una aplicación de dibujo inventada
-  sheet       mostrar los atajos de una aplicación
-                --app NOMBRE      la aplicación con este identificador o nombre
-                --pid N           la aplicación de este proceso
-                --front           la aplicación en primer plano (por omisión)
-                --query Q         solo los atajos que coincidan con Q
-                --format FORMATO  text (por omisión), json o markdown
-                --keys TECLAS     symbols (por omisión), o names, los nombres
-                                  impresos en el teclado; el JSON es el mismo
-                --practice N      en su lugar, una ronda de práctica de N
-                                  órdenes, en el orden en que se preguntan
-                --seed S          la misma ronda cada vez
-  apps        listar las aplicaciones en marcha que comparten sus menús
-  stats       mostrar lo que se ha contado: clics y tecleos de cada orden, las
-              de más clics primero. «aprendido»: tecleadas 5 veces más que
-              pulsadas con clics; «sustituidos»: los tecleos de órdenes en las
-              que también se hizo clic
-                --app NOMBRE      solo de la aplicación con ese nombre
-                --format FORMATO  text (por omisión) o json
-                --keys TECLAS     como en sheet
-  doctor      decir qué funciona en este escritorio y cómo arreglar lo demás
-  quit        terminar el programa en marcha
-
-Opciones:
-  --help      mostrar este texto
-  --verbose   antes de la orden: decir por la salida de errores qué se lee, qué
-              está en primer plano y qué se muestra; nunca lo que se teclea
-  --version   mostrar la versión
-
-Códigos de salida: 0 éxito, 1 fallo, 2 uso incorrecto, 3 no existe tal
-aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de menú.
-</translation>
-    </message>
-    <message>
         <source>%1; see quillon --help</source>
         <translation>%1; consulte quillon --help</translation>
     </message>
@@ -240,6 +158,96 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     <message>
         <source>the session bus cannot be reached; menus cannot be read, see quillon doctor</source>
         <translation>no se puede acceder al bus de sesión; no se pueden leer los menús, consulte quillon doctor</translation>
+    </message>
+    <message>
+        <source>Usage: quillon [--verbose] [COMMAND]
+
+Teaches the keyboard shortcuts of the applications you already use. Hold the
+trigger key (Super) in any application to see its shortcuts.
+
+Commands:
+  (none)      start the program, or bring up the one that runs
+  show        open the overlay and keep it open
+                --sample          with a made-up drawing application
+  practice    open the practice window
+  library     open the library of all shortcuts
+  settings    open the settings
+  welcome     open the welcome
+  sheet       print an application's shortcuts
+                --app NAME        the application with this id or name
+                --pid N           the application of this process
+                --front           the front application (default)
+                --query Q         only the shortcuts that match Q
+                --format FORMAT   text (default), json or markdown
+                --keys KEYS       symbols (default), or names as they are printed
+                                  on the keyboard; JSON is the same with both
+                --practice N      a practice round of N commands instead, in the
+                                  order in which they are asked
+                --seed S          the same round every time
+  apps        list the running applications that share their menus
+  stats       print what was counted: clicks and typed uses of each command,
+              the most clicked first. "learned" are those typed 5 times more
+              than clicked; "clicks replaced" are the typed uses of commands
+              that were clicked as well
+                --app NAME        of the application with this id or name only
+                --format FORMAT   text (default) or json
+                --keys KEYS       as for sheet
+  doctor      say what works on this desktop and how to mend what does not
+  quit        end the running program
+
+Options:
+  --help      print this text
+  --verbose   before the command: tell on standard error what is read, in
+              front and shown; never what is typed
+  --version   print the version
+
+Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
+4 accessibility is absent or off, 5 the application shares no menu shortcuts.
+</source>
+        <translation>Uso: quillon [--verbose] [ORDEN]
+
+Le enseña los atajos de teclado de las aplicaciones que ya usa. Mantenga
+pulsada la tecla de activación (Super) en una aplicación para ver sus atajos.
+
+Órdenes:
+  (ninguna)   iniciar el programa, o mostrar el que está en marcha
+  show        abrir el panel y mantenerlo abierto
+                --sample          con una aplicación de dibujo inventada
+  practice    abrir la ventana de práctica
+  library     abrir la biblioteca de todos los atajos
+  settings    abrir la configuración
+  welcome     abrir la bienvenida
+  sheet       mostrar los atajos de una aplicación
+                --app NOMBRE      la aplicación con este identificador o nombre
+                --pid N           la aplicación de este proceso
+                --front           la aplicación en primer plano (por omisión)
+                --query Q         solo los atajos que coincidan con Q
+                --format FORMATO  text (por omisión), json o markdown
+                --keys TECLAS     symbols (por omisión), o names, los nombres
+                                  impresos en el teclado; el JSON es el mismo
+                --practice N      en su lugar, una ronda de práctica de N
+                                  órdenes, en el orden en que se preguntan
+                --seed S          la misma ronda cada vez
+  apps        listar las aplicaciones en marcha que comparten sus menús
+  stats       mostrar lo que se ha contado: clics y tecleos de cada orden, las
+              de más clics primero. «aprendido»: tecleadas 5 veces más que
+              pulsadas con clics; «sustituidos»: los tecleos de órdenes en las
+              que también se hizo clic
+                --app NOMBRE      solo de la aplicación con ese nombre
+                --format FORMATO  text (por omisión) o json
+                --keys TECLAS     como en sheet
+  doctor      decir qué funciona en este escritorio y cómo arreglar lo demás
+  quit        terminar el programa en marcha
+
+Opciones:
+  --help      mostrar este texto
+  --verbose   antes de la orden: decir por la salida de errores qué se lee, qué
+              está en primer plano y qué se muestra; nunca lo que se teclea
+  --version   mostrar la versión
+
+Códigos de salida: 0 éxito, 1 fallo, 2 uso incorrecto, 3 no existe tal
+aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de menú.
+</translation>
     </message>
 </context>
 <context>
@@ -437,10 +445,6 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
         <translation>Bandeja del sistema</translation>
     </message>
     <message>
-        <source>shows icons</source>
-        <translation>muestra iconos</translation>
-    </message>
-    <message>
         <source>there is none</source>
         <translation>no hay</translation>
     </message>
@@ -615,6 +619,25 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     <message>
         <source>Start it with `quillon`.</source>
         <translation>Inícielo con `quillon`.</translation>
+    </message>
+    <message>
+        <source>shows Quillon’s icon</source>
+        <translation>muestra el icono de Quillon</translation>
+    </message>
+    <message>
+        <source>can show Quillon’s icon</source>
+        <translation>puede mostrar el icono de Quillon</translation>
+    </message>
+    <message>
+        <source>there is one, which does not show Quillon’s icon</source>
+        <translation>la hay, pero no muestra el icono de Quillon</translation>
+    </message>
+</context>
+<context>
+    <name>KeyPlaces</name>
+    <message>
+        <source>%1 is %2, %3 is %4, %5 is %6.</source>
+        <translation>%1 es %2, %3 es %4, %5 es %6.</translation>
     </message>
 </context>
 <context>
@@ -861,10 +884,212 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     </message>
 </context>
 <context>
+    <name>Practice</name>
+    <message>
+        <source>Practice</source>
+        <translation>Práctica</translation>
+    </message>
+    <message>
+        <source>App to practise</source>
+        <translation>Aplicación que practicar</translation>
+    </message>
+    <message>
+        <source>Press New Round.</source>
+        <translation>Pulse «Nueva ronda».</translation>
+    </message>
+    <message>
+        <source>New Round</source>
+        <translation>Nueva ronda</translation>
+    </message>
+    <message>
+        <source>%1 has no shortcuts to practise.</source>
+        <translation>%1 no tiene atajos que practicar.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Press the shortcut</source>
+        <translation>Pulse el atajo</translation>
+    </message>
+    <message>
+        <source>Show Answer</source>
+        <translation>Mostrar la respuesta</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>You pressed %1</source>
+        <translation>Ha pulsado %1</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>See Results</source>
+        <translation>Ver el resultado</translation>
+    </message>
+    <message>
+        <source>%1 of %2 right</source>
+        <translation>%1 de %2 correctas</translation>
+    </message>
+    <message>
+        <source>These come up more next time:</source>
+        <translation>Estos saldrán más la próxima vez:</translation>
+    </message>
+    <message>
+        <source>A clean round. The next one leans on whatever you click next.</source>
+        <translation>Una ronda perfecta. La siguiente se basará en lo próximo en que haga clic.</translation>
+    </message>
+    <message>
+        <source>Another Round</source>
+        <translation>Otra ronda</translation>
+    </message>
+    <message>
+        <source>No apps to practise yet</source>
+        <translation>Aún no hay aplicaciones que practicar</translation>
+    </message>
+    <message>
+        <source>Hold %1 in an app first, so Quillon can read its shortcuts.</source>
+        <translation>Mantenga primero %1 en una aplicación, para que Quillon pueda leer sus atajos.</translation>
+    </message>
+</context>
+<context>
     <name>SearchBox</name>
     <message>
         <source>Clear search</source>
         <translation>Borrar la búsqueda</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Coach</source>
+        <translation>Entrenador</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>Privacidad</translation>
+    </message>
+    <message>
+        <source>Hold this key</source>
+        <translation>Mantener esta tecla</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Opción</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Using the key in a shortcut (%1-click) never opens the overlay.</source>
+        <translation>Usar la tecla en un atajo (%1-clic) nunca abre el panel.</translation>
+    </message>
+    <message>
+        <source>Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.</source>
+        <translation>Su escritorio abre su lanzador al pulsar solo %1, así que mantenerla puede hacer ambas cosas.</translation>
+    </message>
+    <message>
+        <source>Use %1 Instead</source>
+        <translation>Usar %1 en su lugar</translation>
+    </message>
+    <message>
+        <source>Hold time</source>
+        <translation>Tiempo de pulsación</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show keys as</source>
+        <translation>Mostrar las teclas con</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Símbolos</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Nombres</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Iniciar con la sesión</translation>
+    </message>
+    <message>
+        <source>The start with the session could not be changed: your configuration folder cannot be written to. Allow that, then try again.</source>
+        <translation>No se pudo cambiar el inicio con la sesión: no se puede escribir en su carpeta de configuración. Permítalo y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accesibilidad</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Permitida</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Permitir…</translation>
+    </message>
+    <message>
+        <source>Nudge me when I click a menu command that has a shortcut</source>
+        <translation>Avisarme cuando haga clic en una orden de menú que tenga atajo</translation>
+    </message>
+    <message>
+        <source>Count the shortcuts I type (to know which ones I already use)</source>
+        <translation>Contar los atajos que tecleo (para saber cuáles uso ya)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Counting looks only at key presses with %1 or %2 and compares them with the front app’s menu shortcuts. Quillon never records what you type. A shortcut stops being nudged once you’ve typed it %3 times more than you’ve clicked it; you can also mute any one in the Library.</source>
+        <translation><numerusform>El recuento solo mira las pulsaciones con %1 o %2 y las compara con los atajos de menú de la aplicación en primer plano. Quillon nunca registra lo que escribe. Un atajo deja de avisarse cuando lo ha tecleado %3 vez más de las que ha hecho clic; también puede silenciar cualquiera en la biblioteca.</numerusform><numerusform>El recuento solo mira las pulsaciones con %1 o %2 y las compara con los atajos de menú de la aplicación en primer plano. Quillon nunca registra lo que escribe. Un atajo deja de avisarse cuando lo ha tecleado %3 veces más de las que ha hecho clic; también puede silenciar cualquiera en la biblioteca.</numerusform></translation>
+    </message>
+    <message>
+        <source>Everything Quillon learns stays on this %1: the menus it has read, how often you click or type each shortcut, your practice results, pins and notes. There is no folder for it, so it is forgotten when Quillon quits.</source>
+        <translation>Todo lo que Quillon aprende se queda en este %1: los menús leídos, cuántas veces hace clic o teclea cada atajo, sus resultados de práctica, fijados y notas. No hay carpeta para ello, así que se olvida al salir de Quillon.</translation>
+    </message>
+    <message>
+        <source>Everything Quillon learns stays on this %1: the menus it has read, how often you click or type each shortcut, your practice results, pins and notes. They’re plain files in %2.</source>
+        <translation>Todo lo que Quillon aprende se queda en este %1: los menús leídos, cuántas veces hace clic o teclea cada atajo, sus resultados de práctica, fijados y notas. Son archivos sencillos en %2.</translation>
+    </message>
+    <message>
+        <source>Quillon goes online only to look for updates.</source>
+        <translation>Quillon solo se conecta para buscar actualizaciones.</translation>
+    </message>
+    <message>
+        <source>Erase Stats, Pins and Notes…</source>
+        <translation>Borrar estadísticas, fijados y notas…</translation>
+    </message>
+    <message>
+        <source>Erase everything Quillon has learned?</source>
+        <translation>¿Borrar todo lo que Quillon ha aprendido?</translation>
+    </message>
+    <message>
+        <source>Your counts, practice results, pins, notes and the menus read so far are deleted. Your settings stay.</source>
+        <translation>Se eliminan sus recuentos, resultados de práctica, fijados, notas y los menús leídos hasta ahora. Su configuración se conserva.</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -903,6 +1128,105 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     <message>
         <source>Quit Quillon</source>
         <translation>Salir de Quillon</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Práctica</translation>
+    </message>
+    <message>
+        <source>Library…</source>
+        <translation>Biblioteca…</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Buscar actualizaciones…</translation>
+    </message>
+</context>
+<context>
+    <name>Updates</name>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>You’re up to date</source>
+        <translation>Está al día</translation>
+    </message>
+    <message>
+        <source>%1 %2 is the newest version. %1 checks for updates on its own and will let you know when there’s a new one.</source>
+        <translation>%1 %2 es la versión más reciente. %1 busca actualizaciones por su cuenta y le avisará cuando haya una nueva.</translation>
+    </message>
+    <message>
+        <source>Couldn’t check for updates</source>
+        <translation>No se pudieron buscar actualizaciones</translation>
+    </message>
+    <message>
+        <source>Check your internet connection and try again. %1 also checks on its own about once a day.</source>
+        <translation>Compruebe su conexión a internet y vuelva a intentarlo. %1 también busca por su cuenta más o menos una vez al día.</translation>
+    </message>
+    <message>
+        <source>What was received is no list of releases. Try again later, or in another network. %1 also checks on its own about once a day.</source>
+        <translation>Lo recibido no es una lista de versiones. Vuelva a intentarlo más tarde o en otra red. %1 también busca por su cuenta más o menos una vez al día.</translation>
+    </message>
+    <message>
+        <source>Updates come with your system’s software</source>
+        <translation>Las actualizaciones llegan con el software del sistema</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not look for updates by itself. A newer version comes the way this one came, as a rule with the updates of your system.</source>
+        <translation>%1 %2 no busca actualizaciones por sí mismo. Una versión más reciente llega igual que esta, por lo general con las actualizaciones del sistema.</translation>
+    </message>
+    <message>
+        <source>%1 %2 is available</source>
+        <translation>%1 %2 está disponible</translation>
+    </message>
+    <message>
+        <source>You have version %1.</source>
+        <translation>Tiene la versión %1.</translation>
+    </message>
+    <message>
+        <source>Couldn’t open the page</source>
+        <translation>No se pudo abrir la página</translation>
+    </message>
+    <message>
+        <source>Open this address in a browser: %1</source>
+        <translation>Abra esta dirección en un navegador: %1</translation>
+    </message>
+    <message>
+        <source>Couldn’t open the software centre</source>
+        <translation>No se pudo abrir el centro de software</translation>
+    </message>
+    <message>
+        <source>Open it from your desktop’s menu and look for %1 there.</source>
+        <translation>Ábralo desde el menú de su escritorio y busque allí %1.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Open Download Page</source>
+        <translation>Abrir la página de descarga</translation>
+    </message>
+    <message>
+        <source>Open Software Centre</source>
+        <translation>Abrir el centro de software</translation>
+    </message>
+    <message>
+        <source>Read Release Notes</source>
+        <translation>Leer las notas de la versión</translation>
+    </message>
+    <message>
+        <source>What is new in %1 %2</source>
+        <translation>Novedades de %1 %2</translation>
     </message>
 </context>
 <context>
@@ -954,6 +1278,18 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     <message>
         <source>data folder</source>
         <translation>carpeta de datos</translation>
+    </message>
+    <message>
+        <source>the Super or Windows key</source>
+        <translation>la tecla Super o Windows</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
     </message>
 </context>
 <context>
@@ -1029,6 +1365,22 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     <message>
         <source>Done</source>
         <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.</source>
+        <translation>Su escritorio abre su lanzador al pulsar solo %1, así que mantenerla puede hacer ambas cosas.</translation>
+    </message>
+    <message>
+        <source>Use %1 Instead</source>
+        <translation>Usar %1 en su lugar</translation>
+    </message>
+    <message>
+        <source>To show the shortcuts of what was open before, quit it and start it again: %1</source>
+        <translation>Para mostrar los atajos de lo que ya estaba abierto, ciérrelo y vuelva a iniciarlo: %1</translation>
+    </message>
+    <message>
+        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon --help” do the same.</source>
+        <translation>Este escritorio no muestra iconos en una bandeja. Para llegar a Quillon, inícielo de nuevo desde la lista de aplicaciones: eso abre su menú, y un clic derecho allí ofrece sus ventanas. En un terminal, «quillon show» y «quillon --help» hacen lo mismo.</translation>
     </message>
 </context>
 <context>

@@ -4,88 +4,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Usage: quillon [--verbose] [COMMAND]
-
-Teaches the keyboard shortcuts of the applications you already use. Hold the
-trigger key (Super) in any application to see its shortcuts.
-
-Commands:
-  (none)      start the program, or bring up the one that runs
-  show        open the overlay and keep it open
-                --sample          with a made-up drawing application
-  sheet       print an application's shortcuts
-                --app NAME        the application with this id or name
-                --pid N           the application of this process
-                --front           the front application (default)
-                --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default), json or markdown
-                --keys KEYS       symbols (default), or names as they are printed
-                                  on the keyboard; JSON is the same with both
-                --practice N      a practice round of N commands instead, in the
-                                  order in which they are asked
-                --seed S          the same round every time
-  apps        list the running applications that share their menus
-  stats       print what was counted: clicks and typed uses of each command,
-              the most clicked first. "learned" are those typed 5 times more
-              than clicked; "clicks replaced" are the typed uses of commands
-              that were clicked as well
-                --app NAME        of the application with this id or name only
-                --format FORMAT   text (default) or json
-                --keys KEYS       as for sheet
-  doctor      say what works on this desktop and how to mend what does not
-  quit        end the running program
-
-Options:
-  --help      print this text
-  --verbose   before the command: tell on standard error what is read, in
-              front and shown; never what is typed
-  --version   print the version
-
-Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
-4 accessibility is absent or off, 5 the application shares no menu shortcuts.
-</source>
-        <translation>Usage : quillon [--verbose] [COMMANDE]
-
-Vous apprend les raccourcis clavier des applications que vous utilisez déjà.
-Maintenez la touche de déclenchement (Super) dans une application pour les voir.
-
-Commandes :
-  (aucune)    lancer le programme, ou montrer celui qui est lancé
-  show        ouvrir le panneau et le garder ouvert
-                --sample          avec une application de dessin inventée
-  sheet       afficher les raccourcis d’une application
-                --app NOM         l’application de cet identifiant ou de ce nom
-                --pid N           l’application de ce processus
-                --front           l’application au premier plan (par défaut)
-                --query Q         seulement les raccourcis correspondant à Q
-                --format FORMAT   text (par défaut), json ou markdown
-                --keys TOUCHES    symbols (par défaut), ou names, les noms
-                                  sur le clavier ; le JSON est le même
-                --practice N      plutôt une série d’exercices de N commandes,
-                                  dans l’ordre où elles sont demandées
-                --seed S          la même série à chaque fois
-  apps        lister les applications lancées qui partagent leurs menus
-  stats       afficher ce qui a été compté : clics et frappes par commande, les
-              plus cliquées d’abord. « acquis » : tapées 5 fois de plus que
-              cliquées ; « remplacés » : les frappes de commandes qui ont aussi
-              été cliquées
-                --app NOM         seulement de l’application ainsi nommée
-                --format FORMAT   text (par défaut) ou json
-                --keys TOUCHES    comme pour sheet
-  doctor      dire ce qui marche sur ce bureau et comment réparer le reste
-  quit        arrêter le programme lancé
-
-Options :
-  --help      afficher ce texte
-  --verbose   avant la commande : dire sur la sortie d’erreur ce qui est lu, au
-              premier plan et montré ; jamais ce qui est tapé
-  --version   afficher la version
-
-Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue,
-4 accessibilité absente ou désactivée, 5 aucun raccourci de menu partagé.
-</translation>
-    </message>
-    <message>
         <source>%1; see quillon --help</source>
         <translation>%1 ; voir quillon --help</translation>
     </message>
@@ -240,6 +158,96 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     <message>
         <source>the session bus cannot be reached; menus cannot be read, see quillon doctor</source>
         <translation>le bus de session est inaccessible ; les menus ne peuvent pas être lus, voir quillon doctor</translation>
+    </message>
+    <message>
+        <source>Usage: quillon [--verbose] [COMMAND]
+
+Teaches the keyboard shortcuts of the applications you already use. Hold the
+trigger key (Super) in any application to see its shortcuts.
+
+Commands:
+  (none)      start the program, or bring up the one that runs
+  show        open the overlay and keep it open
+                --sample          with a made-up drawing application
+  practice    open the practice window
+  library     open the library of all shortcuts
+  settings    open the settings
+  welcome     open the welcome
+  sheet       print an application's shortcuts
+                --app NAME        the application with this id or name
+                --pid N           the application of this process
+                --front           the front application (default)
+                --query Q         only the shortcuts that match Q
+                --format FORMAT   text (default), json or markdown
+                --keys KEYS       symbols (default), or names as they are printed
+                                  on the keyboard; JSON is the same with both
+                --practice N      a practice round of N commands instead, in the
+                                  order in which they are asked
+                --seed S          the same round every time
+  apps        list the running applications that share their menus
+  stats       print what was counted: clicks and typed uses of each command,
+              the most clicked first. "learned" are those typed 5 times more
+              than clicked; "clicks replaced" are the typed uses of commands
+              that were clicked as well
+                --app NAME        of the application with this id or name only
+                --format FORMAT   text (default) or json
+                --keys KEYS       as for sheet
+  doctor      say what works on this desktop and how to mend what does not
+  quit        end the running program
+
+Options:
+  --help      print this text
+  --verbose   before the command: tell on standard error what is read, in
+              front and shown; never what is typed
+  --version   print the version
+
+Exit codes: 0 success, 1 failure, 2 wrong usage, 3 no such application,
+4 accessibility is absent or off, 5 the application shares no menu shortcuts.
+</source>
+        <translation>Usage : quillon [--verbose] [COMMANDE]
+
+Vous apprend les raccourcis clavier des applications que vous utilisez déjà.
+Maintenez la touche de déclenchement (Super) dans une application pour les voir.
+
+Commandes :
+  (aucune)    lancer le programme, ou montrer celui qui est lancé
+  show        ouvrir le panneau et le garder ouvert
+                --sample          avec une application de dessin inventée
+  practice    ouvrir la fenêtre d’exercices
+  library     ouvrir la bibliothèque de tous les raccourcis
+  settings    ouvrir les réglages
+  welcome     ouvrir la fenêtre de bienvenue
+  sheet       afficher les raccourcis d’une application
+                --app NOM         l’application de cet identifiant ou de ce nom
+                --pid N           l’application de ce processus
+                --front           l’application au premier plan (par défaut)
+                --query Q         seulement les raccourcis correspondant à Q
+                --format FORMAT   text (par défaut), json ou markdown
+                --keys TOUCHES    symbols (par défaut), ou names, les noms
+                                  sur le clavier ; le JSON est le même
+                --practice N      plutôt une série d’exercices de N commandes,
+                                  dans l’ordre où elles sont demandées
+                --seed S          la même série à chaque fois
+  apps        lister les applications lancées qui partagent leurs menus
+  stats       afficher ce qui a été compté : clics et frappes par commande, les
+              plus cliquées d’abord. « acquis » : tapées 5 fois de plus que
+              cliquées ; « remplacés » : les frappes de commandes qui ont aussi
+              été cliquées
+                --app NOM         seulement de l’application ainsi nommée
+                --format FORMAT   text (par défaut) ou json
+                --keys TOUCHES    comme pour sheet
+  doctor      dire ce qui marche sur ce bureau et comment réparer le reste
+  quit        arrêter le programme lancé
+
+Options :
+  --help      afficher ce texte
+  --verbose   avant la commande : dire sur la sortie d’erreur ce qui est lu, au
+              premier plan et montré ; jamais ce qui est tapé
+  --version   afficher la version
+
+Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue,
+4 accessibilité absente ou désactivée, 5 aucun raccourci de menu partagé.
+</translation>
     </message>
 </context>
 <context>
@@ -437,10 +445,6 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
         <translation>Zone de notification</translation>
     </message>
     <message>
-        <source>shows icons</source>
-        <translation>affiche des icônes</translation>
-    </message>
-    <message>
         <source>there is none</source>
         <translation>il n’y en a pas</translation>
     </message>
@@ -615,6 +619,25 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     <message>
         <source>Start it with `quillon`.</source>
         <translation>Lancez-le avec `quillon`.</translation>
+    </message>
+    <message>
+        <source>shows Quillon’s icon</source>
+        <translation>affiche l’icône de Quillon</translation>
+    </message>
+    <message>
+        <source>can show Quillon’s icon</source>
+        <translation>peut afficher l’icône de Quillon</translation>
+    </message>
+    <message>
+        <source>there is one, which does not show Quillon’s icon</source>
+        <translation>présente, mais n’affiche pas l’icône de Quillon</translation>
+    </message>
+</context>
+<context>
+    <name>KeyPlaces</name>
+    <message>
+        <source>%1 is %2, %3 is %4, %5 is %6.</source>
+        <translation>%1 est %2, %3 est %4, %5 est %6.</translation>
     </message>
 </context>
 <context>
@@ -861,10 +884,212 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     </message>
 </context>
 <context>
+    <name>Practice</name>
+    <message>
+        <source>Practice</source>
+        <translation>Exercices</translation>
+    </message>
+    <message>
+        <source>App to practise</source>
+        <translation>Application à exercer</translation>
+    </message>
+    <message>
+        <source>Press New Round.</source>
+        <translation>Appuyez sur « Nouvelle série ».</translation>
+    </message>
+    <message>
+        <source>New Round</source>
+        <translation>Nouvelle série</translation>
+    </message>
+    <message>
+        <source>%1 has no shortcuts to practise.</source>
+        <translation>%1 n’a pas de raccourcis à exercer.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Press the shortcut</source>
+        <translation>Tapez le raccourci</translation>
+    </message>
+    <message>
+        <source>Show Answer</source>
+        <translation>Afficher la réponse</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Juste</translation>
+    </message>
+    <message>
+        <source>You pressed %1</source>
+        <translation>Vous avez tapé %1</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>See Results</source>
+        <translation>Voir le résultat</translation>
+    </message>
+    <message>
+        <source>%1 of %2 right</source>
+        <translation>%1 sur %2 justes</translation>
+    </message>
+    <message>
+        <source>These come up more next time:</source>
+        <translation>Ceux-ci reviendront plus souvent la prochaine fois :</translation>
+    </message>
+    <message>
+        <source>A clean round. The next one leans on whatever you click next.</source>
+        <translation>Un sans-faute. La prochaine série s’appuiera sur vos prochains clics.</translation>
+    </message>
+    <message>
+        <source>Another Round</source>
+        <translation>Encore une série</translation>
+    </message>
+    <message>
+        <source>No apps to practise yet</source>
+        <translation>Aucune application à exercer pour l’instant</translation>
+    </message>
+    <message>
+        <source>Hold %1 in an app first, so Quillon can read its shortcuts.</source>
+        <translation>Maintenez d’abord %1 dans une application, pour que Quillon puisse lire ses raccourcis.</translation>
+    </message>
+</context>
+<context>
     <name>SearchBox</name>
     <message>
         <source>Clear search</source>
         <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Coach</source>
+        <translation>Coach</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>Confidentialité</translation>
+    </message>
+    <message>
+        <source>Hold this key</source>
+        <translation>Touche à maintenir</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Contrôle</translation>
+    </message>
+    <message>
+        <source>Using the key in a shortcut (%1-click) never opens the overlay.</source>
+        <translation>Utiliser la touche dans un raccourci (%1-clic) n’ouvre jamais le panneau.</translation>
+    </message>
+    <message>
+        <source>Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.</source>
+        <translation>Votre bureau ouvre son lanceur quand %1 est pressée seule : la maintenir peut faire les deux.</translation>
+    </message>
+    <message>
+        <source>Use %1 Instead</source>
+        <translation>Utiliser plutôt %1</translation>
+    </message>
+    <message>
+        <source>Hold time</source>
+        <translation>Durée du maintien</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show keys as</source>
+        <translation>Afficher les touches par</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symboles</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Noms</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Démarrer avec la session</translation>
+    </message>
+    <message>
+        <source>The start with the session could not be changed: your configuration folder cannot be written to. Allow that, then try again.</source>
+        <translation>Le démarrage avec la session n’a pas pu être changé : votre dossier de configuration est protégé en écriture. Autorisez l’écriture, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accessibilité</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Autorisée</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Autoriser…</translation>
+    </message>
+    <message>
+        <source>Nudge me when I click a menu command that has a shortcut</source>
+        <translation>Me le rappeler quand je clique une commande de menu qui a un raccourci</translation>
+    </message>
+    <message>
+        <source>Count the shortcuts I type (to know which ones I already use)</source>
+        <translation>Compter les raccourcis que je tape (pour savoir lesquels j’utilise déjà)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Counting looks only at key presses with %1 or %2 and compares them with the front app’s menu shortcuts. Quillon never records what you type. A shortcut stops being nudged once you’ve typed it %3 times more than you’ve clicked it; you can also mute any one in the Library.</source>
+        <translation><numerusform>Le comptage ne regarde que les frappes avec %1 ou %2 et les compare aux raccourcis des menus de l’application au premier plan. Quillon n’enregistre jamais ce que vous tapez. Un raccourci n’est plus rappelé dès que vous l’avez tapé %3 fois de plus que cliqué ; vous pouvez aussi rendre muet n’importe lequel dans la bibliothèque.</numerusform><numerusform>Le comptage ne regarde que les frappes avec %1 ou %2 et les compare aux raccourcis des menus de l’application au premier plan. Quillon n’enregistre jamais ce que vous tapez. Un raccourci n’est plus rappelé dès que vous l’avez tapé %3 fois de plus que cliqué ; vous pouvez aussi rendre muet n’importe lequel dans la bibliothèque.</numerusform></translation>
+    </message>
+    <message>
+        <source>Everything Quillon learns stays on this %1: the menus it has read, how often you click or type each shortcut, your practice results, pins and notes. There is no folder for it, so it is forgotten when Quillon quits.</source>
+        <translation>Tout ce que Quillon apprend reste sur votre %1 : les menus lus, la fréquence de vos clics et frappes pour chaque raccourci, vos résultats d’exercices, épingles et notes. Il n’y a pas de dossier pour cela : tout est oublié quand Quillon quitte.</translation>
+    </message>
+    <message>
+        <source>Everything Quillon learns stays on this %1: the menus it has read, how often you click or type each shortcut, your practice results, pins and notes. They’re plain files in %2.</source>
+        <translation>Tout ce que Quillon apprend reste sur votre %1 : les menus lus, la fréquence de vos clics et frappes pour chaque raccourci, vos résultats d’exercices, épingles et notes. Ce sont de simples fichiers dans %2.</translation>
+    </message>
+    <message>
+        <source>Quillon goes online only to look for updates.</source>
+        <translation>Quillon ne va en ligne que pour chercher des mises à jour.</translation>
+    </message>
+    <message>
+        <source>Erase Stats, Pins and Notes…</source>
+        <translation>Effacer statistiques, épingles et notes…</translation>
+    </message>
+    <message>
+        <source>Erase everything Quillon has learned?</source>
+        <translation>Effacer tout ce que Quillon a appris ?</translation>
+    </message>
+    <message>
+        <source>Your counts, practice results, pins, notes and the menus read so far are deleted. Your settings stay.</source>
+        <translation>Vos comptes, résultats d’exercices, épingles, notes et les menus lus jusqu’ici sont supprimés. Vos réglages restent.</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -903,6 +1128,105 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     <message>
         <source>Quit Quillon</source>
         <translation>Quitter Quillon</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Exercices</translation>
+    </message>
+    <message>
+        <source>Library…</source>
+        <translation>Bibliothèque…</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Rechercher des mises à jour…</translation>
+    </message>
+</context>
+<context>
+    <name>Updates</name>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>You’re up to date</source>
+        <translation>Vous êtes à jour</translation>
+    </message>
+    <message>
+        <source>%1 %2 is the newest version. %1 checks for updates on its own and will let you know when there’s a new one.</source>
+        <translation>%1 %2 est la version la plus récente. %1 cherche les mises à jour de lui-même et vous préviendra quand il y en aura une.</translation>
+    </message>
+    <message>
+        <source>Couldn’t check for updates</source>
+        <translation>Impossible de chercher des mises à jour</translation>
+    </message>
+    <message>
+        <source>Check your internet connection and try again. %1 also checks on its own about once a day.</source>
+        <translation>Vérifiez votre connexion à internet et réessayez. %1 cherche aussi de lui-même environ une fois par jour.</translation>
+    </message>
+    <message>
+        <source>What was received is no list of releases. Try again later, or in another network. %1 also checks on its own about once a day.</source>
+        <translation>Ce qui a été reçu n’est pas une liste de versions. Réessayez plus tard, ou sur un autre réseau. %1 cherche aussi de lui-même environ une fois par jour.</translation>
+    </message>
+    <message>
+        <source>Updates come with your system’s software</source>
+        <translation>Les mises à jour viennent avec les logiciels du système</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not look for updates by itself. A newer version comes the way this one came, as a rule with the updates of your system.</source>
+        <translation>%1 %2 ne cherche pas de mises à jour de lui-même. Une version plus récente arrive comme celle-ci, en général avec les mises à jour du système.</translation>
+    </message>
+    <message>
+        <source>%1 %2 is available</source>
+        <translation>%1 %2 est disponible</translation>
+    </message>
+    <message>
+        <source>You have version %1.</source>
+        <translation>Vous avez la version %1.</translation>
+    </message>
+    <message>
+        <source>Couldn’t open the page</source>
+        <translation>Impossible d’ouvrir la page</translation>
+    </message>
+    <message>
+        <source>Open this address in a browser: %1</source>
+        <translation>Ouvrez cette adresse dans un navigateur : %1</translation>
+    </message>
+    <message>
+        <source>Couldn’t open the software centre</source>
+        <translation>Impossible d’ouvrir la logithèque</translation>
+    </message>
+    <message>
+        <source>Open it from your desktop’s menu and look for %1 there.</source>
+        <translation>Ouvrez-la depuis le menu de votre bureau et cherchez-y %1.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Open Download Page</source>
+        <translation>Ouvrir la page de téléchargement</translation>
+    </message>
+    <message>
+        <source>Open Software Centre</source>
+        <translation>Ouvrir la logithèque</translation>
+    </message>
+    <message>
+        <source>Read Release Notes</source>
+        <translation>Lire les notes de version</translation>
+    </message>
+    <message>
+        <source>What is new in %1 %2</source>
+        <translation>Nouveautés de %1 %2</translation>
     </message>
 </context>
 <context>
@@ -954,6 +1278,18 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     <message>
         <source>data folder</source>
         <translation>dossier de données</translation>
+    </message>
+    <message>
+        <source>the Super or Windows key</source>
+        <translation>la touche Super ou Windows</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
     </message>
 </context>
 <context>
@@ -1029,6 +1365,22 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     <message>
         <source>Done</source>
         <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.</source>
+        <translation>Votre bureau ouvre son lanceur quand %1 est pressée seule : la maintenir peut faire les deux.</translation>
+    </message>
+    <message>
+        <source>Use %1 Instead</source>
+        <translation>Utiliser plutôt %1</translation>
+    </message>
+    <message>
+        <source>To show the shortcuts of what was open before, quit it and start it again: %1</source>
+        <translation>Pour afficher les raccourcis de ce qui était déjà ouvert, quittez et relancez : %1</translation>
+    </message>
+    <message>
+        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon --help” do the same.</source>
+        <translation>Ce bureau n’affiche pas d’icônes de notification. Pour retrouver Quillon, relancez-le depuis la liste des applications : cela ouvre son menu, et un clic droit y propose ses fenêtres. Dans un terminal, « quillon show » et « quillon --help » font de même.</translation>
     </message>
 </context>
 <context>

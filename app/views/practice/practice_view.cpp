@@ -5,9 +5,11 @@
 #include "question_page.h"
 #include "results_page.h"
 
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/symbol_view.h>
 #include <quillon/app/views/components/text.h>
+#include <quillon/kit/shortcut/key_names.h>
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -76,11 +78,14 @@ PracticeView::PracticeView(AppModel& model, ThemeSource& themeSource, Draw draw,
     connect(m_question, &QuestionPage::buttonPressed, this, &PracticeView::pressButton);
     connect(m_results, &ResultsPage::anotherRoundWanted, this, &PracticeView::newRound);
     m_modelChange = model.changed.subscribe([this](ModelField field) {
-        if (field == ModelField::sheets || field == ModelField::trigger)
+        if (field == ModelField::sheets)
             followSheets();
+        else if (field == ModelField::trigger || field == ModelField::keyLabels)
+            tellHowToBegin();
     });
     if (model.current() && model.sheets().contains(model.current()->bundleID))
         m_appID = model.current()->bundleID;
+    tellHowToBegin();
     followSheets();
 }
 
@@ -142,13 +147,17 @@ void PracticeView::layOut() {
     whole->addWidget(m_empty);
 }
 
+void PracticeView::tellHowToBegin() {
+    m_emptyBody->setText(
+        PracticeTexts::noAppsBody(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels())));
+}
+
 /// A sheet came or went. The round that runs is of what was known when it was drawn.
 void PracticeView::followSheets() {
     const std::vector<AppChoice> choices = choicesOf(m_model.sheets());
     m_apps->clear();
     for (const AppChoice& choice : choices)
         m_apps->addItem(choice.name, text(choice.appID));
-    m_emptyBody->setText(PracticeTexts::noAppsBody(text(glyph(m_model.trigger()))));
     m_practice->setVisible(!choices.empty());
     m_empty->setVisible(choices.empty());
     if (m_apps->findData(text(m_appID)) < 0)
@@ -239,7 +248,7 @@ bool PracticeView::takesPress(const QKeyEvent& press) {
         return false;
     if (press.isAutoRepeat())
         return true;
-    if (const auto result = m_round.press(keys->stroke, keys->shortcut.display()))
+    if (const auto result = m_round.press(keys->stroke, displayWith(keys->shortcut, theme().keyNames.get())))
         record(*result);
     refresh();
     return true;

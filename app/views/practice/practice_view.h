@@ -50,6 +50,7 @@ class PracticeView : public ThemedWidget {
     QWidget* makeStart();
     QWidget* makeEmpty();
     void layOut();
+    void tellHowToBegin();
     void followSheets();
     void choose(const std::string& appID);
     void newRound();

@@ -4,6 +4,7 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/views/components/switch_control.h>
+#include <quillon/app/views/components/themed_label.h>
 
 namespace quillon {
 
@@ -24,6 +25,7 @@ class CoachPage : public SettingsPage {
     AppModel& m_model;
     SwitchControl* m_nudges;
     SwitchControl* m_counting;
+    ThemedLabel* m_explanation;
     Subscription m_modelChange;
 };
 

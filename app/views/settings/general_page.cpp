@@ -2,8 +2,9 @@
 
 #include "settings_texts.h"
 
+#include <quillon/app/languages/translated_keys.h>
+#include <quillon/app/views/components/key_places.h>
 #include <quillon/app/views/components/symbol_view.h>
-#include <quillon/app/views/components/text.h>
 
 #include <QHBoxLayout>
 
@@ -67,7 +68,7 @@ FormRow* GeneralPage::makeTrigger() {
     });
     auto* row = new FormRow(themes(), SettingsTexts::holdThisKey(), m_trigger, this);
     m_usingTheKey = row->addNote({});
-    if (const QString places = SettingsTexts::placesOfKeys(Vocabulary::here()); !places.isEmpty())
+    if (const QString places = placesOfKeys(Vocabulary::here()); !places.isEmpty())
         row->addNote(places);
     row->addBelow(makeLauncherNotice(row));
     return row;
@@ -80,8 +81,7 @@ QWidget* GeneralPage::makeLauncherNotice(QWidget* parent) {
         themes(), [](const TextStyles& styles) { return styles.callout; }, &Palette::badgeText,
         m_launcherNotice);
     m_opensLauncher->setWordWrap(true);
-    m_useOther =
-        new PlainButton(themes(), SettingsTexts::useInstead(text(glyph(otherTrigger))), m_launcherNotice);
+    m_useOther = new PlainButton(themes(), {}, m_launcherNotice);
     connect(m_useOther, &QPushButton::clicked, this, [this] {
         m_trigger->setFocus();
         m_model.setTrigger(otherTrigger);
@@ -153,19 +153,26 @@ void GeneralPage::modelChanged(ModelField field) {
     case ModelField::trigger: return triggerChanged();
     case ModelField::holdDelay: return holdDelayChanged();
     case ModelField::keyLabels:
-        return m_keyLabels->setCurrentIndex(indexOf(allKeyLabels, m_model.keyLabels()));
+        m_keyLabels->setCurrentIndex(indexOf(allKeyLabels, m_model.keyLabels()));
+        return triggerChanged();
     case ModelField::trusted: return trustChanged();
     default: return;
     }
 }
 
+QString GeneralPage::labelOf(TriggerKey key) const {
+    return modifierLabel(modifier(key), m_model.keyLabels());
+}
+
 void GeneralPage::triggerChanged() {
     const TriggerKey key = m_model.trigger();
-    const QString shown = text(glyph(key));
+    const QString shown = labelOf(key);
     m_trigger->setCurrentIndex(indexOf(allTriggerKeys, key));
     m_usingTheKey->setText(SettingsTexts::usingTheKey(shown));
     m_trigger->setAccessibleDescription(m_usingTheKey->text());
     m_opensLauncher->setText(SettingsTexts::opensLauncher(shown));
+    m_useOther->setText(SettingsTexts::useInstead(labelOf(otherTrigger)));
+    m_useOther->updateGeometry();
     m_launcherNotice->setVisible(key != otherTrigger && m_launcherKey.modifier() == modifier(key));
 }
 

@@ -43,6 +43,8 @@ class GeneralPage : public SettingsPage {
     QWidget* makeLauncherNotice(QWidget* parent);
 
     void modelChanged(ModelField field);
+    /// What the key is called in sentences.
+    QString labelOf(TriggerKey key) const;
     void triggerChanged();
     void holdDelayChanged();
     void trustChanged();

@@ -1,19 +1,10 @@
 #include "settings_texts.h"
 
-#include <quillon/app/views/components/text.h>
 #include <quillon/kit/coach/nudge_policy.h>
 
 #include <QCoreApplication>
 
 namespace quillon::SettingsTexts {
-
-namespace {
-
-QString glyphOf(TriggerKey key) {
-    return text(glyph(key));
-}
-
-} // namespace
 
 QString tab(SettingsTab tab) {
     switch (tab) {
@@ -37,30 +28,21 @@ QString name(TriggerKey key) {
     Q_UNREACHABLE();
 }
 
-QString usingTheKey(const QString& glyph) {
+QString usingTheKey(const QString& key) {
     return QCoreApplication::translate(
                "Settings", "Using the key in a shortcut (%1-click) never opens the overlay.")
-        .arg(glyph);
+        .arg(key);
 }
 
-QString placesOfKeys(const Vocabulary& vocabulary) {
-    if (vocabulary.commandKey.isEmpty())
-        return {};
-    return QCoreApplication::translate("Settings", "%1 is %2, %3 is %4, %5 is %6.")
-        .arg(
-            glyphOf(TriggerKey::command), vocabulary.commandKey, glyphOf(TriggerKey::option),
-            vocabulary.optionKey, glyphOf(TriggerKey::control), vocabulary.controlKey);
-}
-
-QString opensLauncher(const QString& glyph) {
+QString opensLauncher(const QString& key) {
     return QCoreApplication::translate(
                "Settings", "Your desktop opens its launcher when %1 is pressed alone, so holding it may do "
                            "both.")
-        .arg(glyph);
+        .arg(key);
 }
 
-QString useInstead(const QString& glyph) {
-    return QCoreApplication::translate("Settings", "Use %1 Instead").arg(glyph);
+QString useInstead(const QString& key) {
+    return QCoreApplication::translate("Settings", "Use %1 Instead").arg(key);
 }
 
 QString holdTime() {
@@ -115,7 +97,7 @@ QString countTyped() {
         "Settings", "Count the shortcuts I type (to know which ones I already use)");
 }
 
-QString counting() {
+QString counting(const QString& command, const QString& control) {
     const auto lead = static_cast<int>(defaultNudgePolicy.graduateAfter);
     return QCoreApplication::translate(
                "Settings",
@@ -123,7 +105,7 @@ QString counting() {
                "shortcuts. Quillon never records what you type. A shortcut stops being nudged once you’ve "
                "typed it %3 times more than you’ve clicked it; you can also mute any one in the Library.",
                nullptr, lead)
-        .arg(glyphOf(TriggerKey::command), glyphOf(TriggerKey::control), QString::number(lead));
+        .arg(command, control, QString::number(lead));
 }
 
 QString whatIsKept(const Vocabulary& vocabulary, const QString& dataFolder) {

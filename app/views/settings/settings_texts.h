@@ -18,13 +18,11 @@ QString holdThisKey();
 /// "Command", "Option" or "Control".
 QString name(TriggerKey key);
 /// "Using the key in a shortcut (⌘-click) never opens the overlay."
-QString usingTheKey(const QString& glyph);
-/// Where the keys are on the keyboard; empty where they are called as they are labelled.
-QString placesOfKeys(const Vocabulary& vocabulary);
+QString usingTheKey(const QString& key);
 /// That the desktop uses the key alone as well.
-QString opensLauncher(const QString& glyph);
+QString opensLauncher(const QString& key);
 /// The button that takes another key instead.
-QString useInstead(const QString& glyph);
+QString useInstead(const QString& key);
 
 QString holdTime();
 /// "0.8 s"
@@ -42,7 +40,8 @@ QString allow();
 
 QString nudgeMe();
 QString countTyped();
-QString counting();
+/// What is looked at to count; `command` and `control` are how these keys are shown.
+QString counting(const QString& command, const QString& control);
 
 /// What is learned, and where it is: in `dataFolder`, or nowhere when that is empty.
 QString whatIsKept(const Vocabulary& vocabulary, const QString& dataFolder);

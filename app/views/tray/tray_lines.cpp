@@ -2,6 +2,7 @@
 
 #include "tray_texts.h"
 
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/text.h>
 
@@ -32,7 +33,7 @@ TrayMenuItem holdHint(const TrayFacts& facts) {
     return {
         .id = idOf(TrayLine::holdHint),
         .kind = Kind::line,
-        .label = utf8(TrayTexts::holdHint(text(glyph(facts.trigger))))};
+        .label = utf8(TrayTexts::holdHint(modifierLabel(modifier(facts.trigger), facts.keyLabels)))};
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <quillon/app/core/trigger_key.h>
 #include <quillon/app/ports/tray.h>
+#include <quillon/kit/shortcut/key_labels.h>
 
 #include <optional>
 #include <string>
@@ -29,6 +30,7 @@ struct TrayFacts {
     bool trusted = false;               ///< other applications' menus may be read
     std::optional<std::string> appName; ///< of the current application; absent without one
     TriggerKey trigger = TriggerKey::command;
+    KeyLabels keyLabels = KeyLabels::symbols;
 };
 
 /// The menu as it reads for these facts.

@@ -12,8 +12,13 @@ namespace quillon {
 TrayMenu::TrayMenu(AppModel& model, Tray& tray, TrayActions actions)
     : m_model(model), m_tray(tray), m_actions(std::move(actions)) {
     m_modelChange = model.changed.subscribe([this](ModelField field) {
-        if (field == ModelField::trusted || field == ModelField::current || field == ModelField::trigger)
-            update();
+        switch (field) {
+        case ModelField::trusted:
+        case ModelField::current:
+        case ModelField::trigger:
+        case ModelField::keyLabels: return update();
+        default: return;
+        }
     });
     update();
 }
@@ -34,6 +39,7 @@ void TrayMenu::update() {
         .trusted = m_model.trusted(),
         .appName = current ? std::optional(current->appName) : std::nullopt,
         .trigger = m_model.trigger(),
+        .keyLabels = m_model.keyLabels(),
     });
     if (lines == m_lines)
         return;

@@ -20,8 +20,8 @@ QString showShortcutsFor(const QString& appName) {
     return QCoreApplication::translate("Tray", "Show Shortcuts for %1").arg(appName);
 }
 
-QString holdHint(const QString& triggerGlyph) {
-    return QCoreApplication::translate("Tray", "Or hold %1 in any app").arg(triggerGlyph);
+QString holdHint(const QString& trigger) {
+    return QCoreApplication::translate("Tray", "Or hold %1 in any app").arg(trigger);
 }
 
 QString practice() {

@@ -14,7 +14,7 @@ QString showShortcuts();
 /// "Show Shortcuts for Sketchpad"
 QString showShortcutsFor(const QString& appName);
 /// "Or hold ⌘ in any app"
-QString holdHint(const QString& triggerGlyph);
+QString holdHint(const QString& trigger);
 QString practice();
 QString library();
 QString settings();

@@ -38,6 +38,13 @@ ThemedLabel* WelcomeStep::makeText() {
     return label;
 }
 
+ThemedLabel* WelcomeStep::addText(const QString& text) {
+    ThemedLabel* const label = makeText();
+    label->setText(text);
+    m_column->addWidget(label);
+    return label;
+}
+
 void WelcomeStep::setText(const QString& title, const QString& body) {
     m_title->setText(title);
     m_body->setText(body);

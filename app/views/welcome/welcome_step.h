@@ -19,6 +19,8 @@ class WelcomeStep : public ThemedWidget {
     void setText(const QString& title, const QString& body);
     void setDone(bool done) { m_marker->setDone(done); }
 
+    /// Another text below the first.
+    ThemedLabel* addText(const QString& text);
     /// A part below the text, over the whole width.
     void addPart(QWidget* part) { m_column->addWidget(part); }
 

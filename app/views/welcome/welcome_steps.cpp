@@ -3,7 +3,9 @@
 #include "product_mark.h"
 #include "welcome_texts.h"
 
+#include <quillon/app/languages/translated_keys.h>
 #include <quillon/app/views/components/foreign_text.h>
+#include <quillon/app/views/components/key_places.h>
 #include <quillon/app/views/components/symbol_view.h>
 
 #include <QHBoxLayout>
@@ -47,6 +49,7 @@ WelcomeSteps::WelcomeSteps(
     m_allow->setText(WelcomeTexts::allowTitle(), WelcomeTexts::allowBody(vocabulary));
     m_allow->addPart(makePermission());
     m_hold = addStep(2);
+    m_places = m_hold->addText(placesOfKeys(vocabulary));
     addStep(3)->setText(WelcomeTexts::privacyTitle(vocabulary), WelcomeTexts::privacyBody(vocabulary));
     addNotes();
     m_column->addStretch(1);
@@ -151,7 +154,7 @@ void WelcomeSteps::setShown(QWidget& part, bool shown) {
 void WelcomeSteps::modelChanged(ModelField field) {
     if (field == ModelField::trusted)
         trustChanged();
-    else if (field == ModelField::trigger)
+    else if (field == ModelField::trigger || field == ModelField::keyLabels)
         triggerChanged();
 }
 
@@ -175,11 +178,15 @@ void WelcomeSteps::trustChanged() {
 
 void WelcomeSteps::triggerChanged() {
     const TriggerKey trigger = m_model.trigger();
-    m_hold->setText(WelcomeTexts::holdTitle(trigger), WelcomeTexts::holdBody(trigger));
+    const KeyLabels labels = m_model.keyLabels();
+    const QString shown = modifierLabel(modifier(trigger), labels);
+    m_hold->setText(WelcomeTexts::holdTitle(shown), WelcomeTexts::holdBody(trigger, shown));
+    // A name says by itself which key it is.
+    setShown(*m_places, labels == KeyLabels::symbols && !m_places->text().isEmpty());
     const bool opensLauncher =
         trigger != TriggerKey::control && m_needs.launcherKey.modifier() == modifier(trigger);
-    m_launcher->setText(WelcomeTexts::opensLauncher(trigger));
-    m_launcher->setAction(WelcomeTexts::useInstead(TriggerKey::control));
+    m_launcher->setText(WelcomeTexts::opensLauncher(shown));
+    m_launcher->setAction(WelcomeTexts::useInstead(modifierLabel(modifier(TriggerKey::control), labels)));
     setShown(*m_launcher, opensLauncher);
 }
 

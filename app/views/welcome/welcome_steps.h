@@ -59,6 +59,7 @@ class WelcomeSteps : public ThemedWidget {
     QVBoxLayout* m_column;
     WelcomeStep* m_allow;
     WelcomeStep* m_hold;
+    ThemedLabel* m_places; ///< where the keys are on the keyboard
     QWidget* m_buttons;
     ProminentButton* m_ask;
     PlainButton* m_openSettings;

@@ -1,7 +1,5 @@
 #include "welcome_texts.h"
 
-#include <quillon/app/views/components/text.h>
-
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -16,10 +14,6 @@ QString nameOf(TriggerKey key) {
     case TriggerKey::control: return QCoreApplication::translate("Welcome", "Control");
     }
     return {};
-}
-
-QString glyphOf(TriggerKey key) {
-    return text(glyph(key));
 }
 
 } // namespace
@@ -56,28 +50,28 @@ QString allowed() {
     return QCoreApplication::translate("Welcome", "Allowed");
 }
 
-QString holdTitle(TriggerKey trigger) {
-    return QCoreApplication::translate("Welcome", "Hold %1 in any app").arg(glyphOf(trigger));
+QString holdTitle(const QString& trigger) {
+    return QCoreApplication::translate("Welcome", "Hold %1 in any app").arg(trigger);
 }
 
-QString holdBody(TriggerKey trigger) {
+QString holdBody(TriggerKey key, const QString& trigger) {
     return QCoreApplication::translate(
                "Welcome",
                "Keep the %1 key (%2) down for a moment and that app’s shortcuts appear, grouped by menu. Let "
                "go to close it, or click it to keep it open and search. No other permission is needed for "
                "this.")
-        .arg(nameOf(trigger), glyphOf(trigger));
+        .arg(nameOf(key), trigger);
 }
 
-QString opensLauncher(TriggerKey trigger) {
+QString opensLauncher(const QString& trigger) {
     return QCoreApplication::translate(
                "Welcome",
                "Your desktop opens its launcher when %1 is pressed alone, so holding it may do both.")
-        .arg(glyphOf(trigger));
+        .arg(trigger);
 }
 
-QString useInstead(TriggerKey other) {
-    return QCoreApplication::translate("Welcome", "Use %1 Instead").arg(glyphOf(other));
+QString useInstead(const QString& other) {
+    return QCoreApplication::translate("Welcome", "Use %1 Instead").arg(other);
 }
 
 QString restart(const QStringList& apps) {

@@ -22,13 +22,13 @@ QString allowAccessibility();
 QString openSystemSettings();
 QString allowed();
 
-/// "Hold ⌘ in any app"
-QString holdTitle(TriggerKey trigger);
-QString holdBody(TriggerKey trigger);
+/// "Hold ⌘ in any app"; here and below `trigger` is how the key is shown.
+QString holdTitle(const QString& trigger);
+QString holdBody(TriggerKey key, const QString& trigger);
 
 /// Where the desktop uses the trigger key alone, and the button that takes another.
-QString opensLauncher(TriggerKey trigger);
-QString useInstead(TriggerKey other);
+QString opensLauncher(const QString& trigger);
+QString useInstead(const QString& other);
 
 /// Names the applications that were open before the permission was given.
 QString restart(const QStringList& apps);

@@ -97,6 +97,17 @@ TEST_F(PracticeViewTest, SaysHowToBeginWithoutAnyApp) {
     EXPECT_TRUE(buttons().isEmpty());
     desk.model.setTrigger(TriggerKey::option);
     EXPECT_THAT(texts(), Contains(u"Hold ⌥ in an app first, so Quillon can read its shortcuts."_s));
+    desk.settings.setKeyLabels(KeyLabels::names);
+    EXPECT_THAT(texts(), Contains(u"Hold Alt in an app first, so Quillon can read its shortcuts."_s));
+}
+
+TEST_F(PracticeViewTest, WhatWasPressedIsNamedWhereKeysAre) {
+    desk.settings.setKeyLabels(KeyLabels::names);
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    press(Qt::Key_X, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_THAT(texts(), Contains(u"You pressed Ctrl Shift X"_s));
 }
 
 TEST_F(PracticeViewTest, NoticesTheFirstApp) {

@@ -43,6 +43,20 @@ TEST_F(GeneralPageTest, TheExplanationFollowsTheKeyAtOnce) {
     EXPECT_THAT(texts(), Contains(u"Using the key in a shortcut (⌥-click) never opens the overlay."_s));
 }
 
+TEST_F(GeneralPageTest, TheExplanationShowsKeysAsTheyAreChosenToBeShown) {
+    desk.desktop.launcherKey.set(Modifiers::command);
+    pick(page().keyLabels(), 1);
+    EXPECT_THAT(texts(), Contains(u"Using the key in a shortcut (Super-click) never opens the overlay."_s));
+    EXPECT_THAT(
+        texts(),
+        Contains(
+            u"Your desktop opens its launcher when Super is pressed alone, so holding it may do both."_s));
+    EXPECT_EQ(page().useOther().text(), u"Use Ctrl Instead"_s);
+    pick(page().keyLabels(), -1);
+    EXPECT_THAT(texts(), Contains(u"Using the key in a shortcut (⌘-click) never opens the overlay."_s));
+    EXPECT_EQ(page().useOther().text(), u"Use ⌃ Instead"_s);
+}
+
 TEST_F(GeneralPageTest, AKeyThatAlsoOpensTheLauncherIsToldAndReplacedWithOneClick) {
     EXPECT_FALSE(page().useOther().isVisible());
     desk.desktop.launcherKey.set(Modifiers::command);

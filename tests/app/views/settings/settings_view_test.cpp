@@ -106,6 +106,8 @@ TEST_F(SettingsViewTest, TheCoachIsSwitchedOnAndOff) {
                      "Quillon never records what you type. A shortcut stops being nudged once you’ve typed "
                      "it 5 times more than "
                      "you’ve clicked it; you can also mute any one in the Library."_s));
+    desk.model.setKeyLabels(KeyLabels::names);
+    EXPECT_TRUE(texts().at(2).startsWith(u"Counting looks only at key presses with Super or Ctrl and "_s));
     QTest::mouseClick(&view->coach().nudges(), Qt::LeftButton);
     EXPECT_FALSE(desk.model.nudgesOn());
     EXPECT_TRUE(desk.model.countTyped());

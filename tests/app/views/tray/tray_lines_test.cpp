@@ -1,3 +1,4 @@
+#include <quillon/app/languages/translations.h>
 #include <quillon/app/views/tray/tray_lines.h>
 
 #include <gmock/gmock.h>
@@ -67,6 +68,30 @@ TEST(TrayLines, TheHintNamesTheTriggerKey) {
         read({.trusted = true, .appName = {}, .trigger = TriggerKey::option})[1], "[Or hold ⌥ in any app]");
     EXPECT_EQ(
         read({.trusted = true, .appName = {}, .trigger = TriggerKey::control})[1], "[Or hold ⌃ in any app]");
+}
+
+TEST(TrayLines, TheHintShowsTheTriggerKeyByItsName) {
+    EXPECT_EQ(
+        read(
+            {.trusted = true,
+             .appName = {},
+             .trigger = TriggerKey::command,
+             .keyLabels = KeyLabels::names})[1],
+        "[Or hold Super in any app]");
+}
+
+TEST(TrayLines, AreInTheLanguageOfTheProgram) {
+    const Translations german({QStringLiteral("de")});
+    EXPECT_THAT(
+        read(
+            {.trusted = true,
+             .appName = "Sketchpad",
+             .trigger = TriggerKey::control,
+             .keyLabels = KeyLabels::names}),
+        ElementsAre(
+            "Tastenkürzel von Sketchpad zeigen", "[Oder Strg in einer Anwendung halten]", "-", "Üben",
+            "Bibliothek …", "-", "Einstellungen | ,", "Nach Aktualisierungen suchen …",
+            "Quillon beenden | Q"));
 }
 
 TEST(TrayLines, EveryLineKeepsAnIdOfItsOwn) {

@@ -58,6 +58,13 @@ TEST_F(TrayMenuTest, FollowsThePermissionTheApplicationAndTheTriggerAtOnce) {
     EXPECT_EQ(label(TrayLine::allowAccessibility), "Allow Accessibility…");
 }
 
+TEST_F(TrayMenuTest, FollowsHowKeysAreShown) {
+    desk.model.setKeyLabels(KeyLabels::names);
+    EXPECT_EQ(label(TrayLine::holdHint), "Or hold Super in any app");
+    desk.model.setKeyLabels(KeyLabels::symbols);
+    EXPECT_EQ(label(TrayLine::holdHint), "Or hold ⌘ in any app");
+}
+
 TEST_F(TrayMenuTest, EveryCommandDoesItsWork) {
     tray.show();
     for (const TrayLine line :

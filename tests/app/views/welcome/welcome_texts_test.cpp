@@ -36,21 +36,23 @@ TEST(WelcomeTexts, TellWhereThePermissionIsGivenOnEachPlatform) {
 }
 
 TEST(WelcomeTexts, NameTheTriggerKey) {
-    EXPECT_EQ(WelcomeTexts::holdTitle(TriggerKey::command), u"Hold ⌘ in any app"_s);
-    EXPECT_EQ(WelcomeTexts::holdTitle(TriggerKey::option), u"Hold ⌥ in any app"_s);
+    EXPECT_EQ(WelcomeTexts::holdTitle(u"⌘"_s), u"Hold ⌘ in any app"_s);
+    EXPECT_EQ(WelcomeTexts::holdTitle(u"⌥"_s), u"Hold ⌥ in any app"_s);
     EXPECT_EQ(
-        WelcomeTexts::holdBody(TriggerKey::option),
+        WelcomeTexts::holdBody(TriggerKey::option, u"⌥"_s),
         u"Keep the Option key (⌥) down for a moment and that app’s shortcuts appear, grouped by menu. Let go "
         "to close it, or click it to keep it open and search. No other permission is needed for this."_s);
-    EXPECT_TRUE(WelcomeTexts::holdBody(TriggerKey::command).startsWith(u"Keep the Command key (⌘) down "_s));
-    EXPECT_TRUE(WelcomeTexts::holdBody(TriggerKey::control).startsWith(u"Keep the Control key (⌃) down "_s));
+    EXPECT_TRUE(WelcomeTexts::holdBody(TriggerKey::command, u"Super"_s)
+                    .startsWith(u"Keep the Command key (Super) down "_s));
+    EXPECT_TRUE(
+        WelcomeTexts::holdBody(TriggerKey::control, u"⌃"_s).startsWith(u"Keep the Control key (⌃) down "_s));
 }
 
 TEST(WelcomeTexts, TellWhatThisDesktopAsksFor) {
     EXPECT_EQ(
-        WelcomeTexts::opensLauncher(TriggerKey::command),
+        WelcomeTexts::opensLauncher(u"⌘"_s),
         u"Your desktop opens its launcher when ⌘ is pressed alone, so holding it may do both."_s);
-    EXPECT_EQ(WelcomeTexts::useInstead(TriggerKey::control), u"Use ⌃ Instead"_s);
+    EXPECT_EQ(WelcomeTexts::useInstead(u"⌃"_s), u"Use ⌃ Instead"_s);
     EXPECT_EQ(
         WelcomeTexts::restart({u"Designer"_s}),
         u"To show the shortcuts of what was open before, quit it and start it again: Designer"_s);

@@ -1,3 +1,4 @@
+#include <quillon/app/views/components/key_places.h>
 #include <quillon/app/views/welcome/step_marker.h>
 #include <quillon/app/views/welcome/welcome_note.h>
 #include <quillon/app/views/welcome/welcome_step.h>
@@ -94,7 +95,7 @@ TEST_F(WelcomeViewTest, AsksForThePermission) {
     EXPECT_EQ(step(1).title(), u"Allow Accessibility"_s);
     EXPECT_EQ(step(1).body(), WelcomeTexts::allowBody(Vocabulary::here()));
     EXPECT_EQ(step(2).title(), u"Hold ⌘ in any app"_s);
-    EXPECT_EQ(step(2).body(), WelcomeTexts::holdBody(TriggerKey::command));
+    EXPECT_EQ(step(2).body(), WelcomeTexts::holdBody(TriggerKey::command, u"⌘"_s));
     EXPECT_EQ(step(3).title(), WelcomeTexts::privacyTitle(Vocabulary::here()));
     EXPECT_EQ(step(3).body(), WelcomeTexts::privacyBody(Vocabulary::here()));
 }
@@ -170,10 +171,27 @@ TEST_F(WelcomeViewTest, WhatComesIntoViewMakesTheWindowTaller) {
     EXPECT_EQ(view.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
 }
 
+TEST_F(WelcomeViewTest, TellsOnceWhereTheKeysAre) {
+    EXPECT_EQ(texts().count(u"⌘ is the Super or Windows key, ⌥ is Alt, ⌃ is Ctrl."_s), 1);
+}
+
+TEST_F(WelcomeViewTest, ShowsTheTriggerKeyByItsNameWhereKeysAreNamed) {
+    desk.desktop.launcherKey.set(Modifiers::command);
+    desk.model.setKeyLabels(KeyLabels::names);
+    EXPECT_EQ(step(2).title(), u"Hold Super in any app"_s);
+    EXPECT_EQ(step(2).body(), WelcomeTexts::holdBody(TriggerKey::command, u"Super"_s));
+    EXPECT_EQ(notes(), QStringList(WelcomeTexts::opensLauncher(u"Super"_s)));
+    EXPECT_TRUE(button(u"Use Ctrl Instead"_s).isVisible());
+    EXPECT_EQ(texts().filter(u"⌘"_s), QStringList());
+    desk.model.setKeyLabels(KeyLabels::symbols);
+    EXPECT_EQ(step(2).title(), u"Hold ⌘ in any app"_s);
+    EXPECT_TRUE(texts().contains(placesOfKeys(Vocabulary::here())));
+}
+
 TEST_F(WelcomeViewTest, WhereTheDesktopTakesTheTriggerKeyItOffersAnother) {
     EXPECT_FALSE(button(u"Use ⌃ Instead"_s).isVisible());
     desk.desktop.launcherKey.set(Modifiers::command);
-    EXPECT_EQ(notes(), QStringList(WelcomeTexts::opensLauncher(TriggerKey::command)));
+    EXPECT_EQ(notes(), QStringList(WelcomeTexts::opensLauncher(u"⌘"_s)));
     button(u"Use ⌃ Instead"_s).setFocus();
     button(u"Use ⌃ Instead"_s).click();
     EXPECT_EQ(desk.model.trigger(), TriggerKey::control);
