@@ -76,7 +76,6 @@ ExitCode runProgram(Platform& platform, ProgramRequest request, int& argc, char*
     if (const auto problem = platform.prepareDisplay())
         return output.fail(ExitCode::failure, TerminalText::of(*problem));
     QApplication::setApplicationName(QStringLiteral("Quillon")); // trays and screen readers tell it
-    QApplication::setApplicationDisplayName(QStringLiteral("Quillon"));
     QApplication::setDesktopFileName(QStringLiteral("app.quillon.Quillon"));
 
     // What was asked of the first start is done; how it tells what it does stays.

@@ -40,11 +40,11 @@ class SettingsTest(OwnWindowsTestCase):
 
     def open_tab(self, label):
         self.click_control("page tab", label)
-        self.wait_state("page tab", label, "selected")
+        self.wait_state("page tab", label, "focused")
 
     def choose_trigger(self, downs):
         """Opens the choices by a click and takes the one that is so many below."""
-        self.click_control("combo box", "Hold this key")
+        self.click_control("combo box", "Command")
         wait_until("the choices", lambda: len(desktop.visible_windows(self.quillon.pid)) > 1)
         desktop.press(*["Down"] * downs, "Return")
         wait_until("the choices to close", lambda: len(desktop.visible_windows(self.quillon.pid)) == 1)
@@ -69,7 +69,7 @@ class SettingsTest(OwnWindowsTestCase):
         self.open_window("settings")
         slider = self.control("slider", "Hold time")
         self.assertEqual(slider.description(), "0.8 s")
-        desktop.click(*self.control("combo box", "Show keys as").centre())
+        desktop.click(*self.control("combo box", "Symbols").centre())
         desktop.press("Escape")
         desktop.press("shift+Tab", "Left", "Left")
         wait_until("the time to be told", lambda: slider.description() == "0.6 s")
@@ -106,13 +106,13 @@ class SettingsTest(OwnWindowsTestCase):
 
     def test_the_tab_is_remembered(self):
         self.open_window("settings")
-        self.wait_state("page tab", "General", "selected")
+        self.wait_state("page tab", "General", "focused")
         self.open_tab("Coach")
         self.assertEqual(Ran("quit").status, 0)
         self.quillon.process.wait(timeout=5)
         self.start_quillon()
         self.open_window("settings")
-        self.wait_state("page tab", "Coach", "selected")
+        self.wait_state("page tab", "Coach", "focused")
 
     def test_starting_with_the_session_is_an_entry_that_comes_and_goes(self):
         self.open_window("settings")

@@ -37,6 +37,7 @@ def words_of_help():
             if same := re.match(r"as for (\w+)", told):
                 found[command, option] = found[same[1], option]
             else:
+                told = re.sub(r" as they .*", "", told, flags=re.S)
                 listed = re.match(r"\w+(?: \(default\))?(?:,? (?:or )?\w+)*", told)[0]
                 found[command, option] = set(re.findall(r"\w+", listed)) - {"default", "or"}
     return found

@@ -34,6 +34,7 @@ FormRow::FormRow(ThemeSource& themes, const QString& label, QWidget* control, QW
     auto* line = new QHBoxLayout;
     line->setSpacing(controlGap);
     ThemedLabel* const name = makeText(label, &Palette::primary);
+    name->setBuddy(control);
     line->addWidget(name, 1, Qt::AlignVCenter);
     line->addWidget(control, 0, Qt::AlignVCenter);
     line->addStrut(lowestLine);

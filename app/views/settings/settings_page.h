@@ -16,6 +16,9 @@ class SettingsPage : public QWidget {
   public:
     explicit SettingsPage(ThemeSource& themes, QWidget* parent = nullptr);
 
+    /// How high it is depends on its width alone.
+    QSize minimumSizeHint() const override { return {QWidget::minimumSizeHint().width(), 0}; }
+
   protected:
     ThemeSource& themes() const { return m_themes; }
     FormGroup* addGroup();

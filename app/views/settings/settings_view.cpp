@@ -2,6 +2,7 @@
 
 #include "settings_texts.h"
 
+#include <quillon/app/views/components/content_height.h>
 #include <quillon/app/views/components/thin_scroll_bar.h>
 
 #include <QPainter>
@@ -81,7 +82,7 @@ QSize SettingsView::sizeHint() const {
         width = std::max(width, page->minimumSizeHint().width());
     int height = 0;
     for (const QWidget* const page : m_pages)
-        height = std::max(height, page->heightForWidth(width));
+        height = std::max(height, contentHeight(*page, width));
     return QSize(width, m_tabs->sizeHint().height() + 2 * tabsPadding + 1 + height).expandedTo(usualSize);
 }
 

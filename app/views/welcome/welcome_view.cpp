@@ -3,6 +3,7 @@
 #include "welcome_steps.h"
 #include "welcome_texts.h"
 
+#include <quillon/app/views/components/content_height.h>
 #include <quillon/app/views/components/thin_scroll_bar.h>
 
 #include <QHBoxLayout>
@@ -28,13 +29,6 @@ constexpr int lowest = 240;
 int readableWidth(const Theme& theme) {
     constexpr double ems = 43;
     return std::max(560, static_cast<int>(std::lround(ems * pixelSize(theme.styles.body))));
-}
-
-/// What became visible or not since the last event is in the layouts' own reckoning only after the next.
-int heightOf(const QWidget& content, int width) {
-    for (QLayout* const layout : content.findChildren<QLayout*>())
-        layout->invalidate();
-    return content.heightForWidth(width);
 }
 
 } // namespace
@@ -119,7 +113,7 @@ void WelcomeView::makeRoom() {
 
 QSize WelcomeView::sizeHint() const {
     const int width = readableWidth(theme());
-    return {width, heightOf(*m_steps, width) + m_footer->sizeHint().height()};
+    return {width, contentHeight(*m_steps, width) + m_footer->sizeHint().height()};
 }
 
 QSize WelcomeView::minimumSizeHint() const {

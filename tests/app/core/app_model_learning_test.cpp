@@ -139,7 +139,7 @@ TEST_F(AppModelLearningTest, ErasingIsToldAsAWhole) {
     const Subscription changes =
         model->recordChanged.subscribe([&](const RecordChange& change) { records.push_back(change); });
     model->eraseEverything();
-    EXPECT_EQ(told, std::vector{ModelField::current});
+    EXPECT_EQ(told, (std::vector{ModelField::current, ModelField::sheets}));
     EXPECT_EQ(records, std::vector{RecordChange()});
 }
 

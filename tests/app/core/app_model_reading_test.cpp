@@ -285,7 +285,7 @@ TEST_F(AppModelTest, TellsWhatChanged) {
     startWith(sketch);
     const std::vector expected{
         ModelField::trusted, ModelField::current, ModelField::reading, ModelField::current,
-        ModelField::reading};
+        ModelField::reading, ModelField::sheets};
     EXPECT_EQ(seen, expected);
 }
 

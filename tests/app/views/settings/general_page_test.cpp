@@ -18,6 +18,12 @@ class GeneralPageTest : public SettingsViewTest {
         for (int i = 0; i < std::abs(down); ++i)
             QTest::keyClick(&choices, down > 0 ? Qt::Key_Down : Qt::Key_Up);
     }
+    /// What a screen reader calls a choice, whose own name is what is chosen.
+    static QString labelOf(QWidget& control) {
+        for (const auto& [label, relation] : read(control).relations(QAccessible::Label))
+            return label->text(QAccessible::Name);
+        return {};
+    }
     static QStringList choicesOf(const DropDown& choices) {
         QStringList names;
         for (int i = 0; i < choices.count(); ++i)
@@ -186,11 +192,11 @@ TEST_F(GeneralPageTest, AccessibilityIsAllowedOrAskedFor) {
 }
 
 TEST_F(GeneralPageTest, EveryControlIsNamedAndTheSliderTellsItsUnit) {
-    EXPECT_EQ(read(page().trigger()).text(QAccessible::Name), u"Hold this key"_s);
+    EXPECT_EQ(labelOf(page().trigger()), u"Hold this key"_s);
     EXPECT_EQ(
         read(page().trigger()).text(QAccessible::Description),
         u"Using the key in a shortcut (⌘-click) never opens the overlay."_s);
-    EXPECT_EQ(read(page().keyLabels()).text(QAccessible::Name), u"Show keys as"_s);
+    EXPECT_EQ(labelOf(page().keyLabels()), u"Show keys as"_s);
     EXPECT_EQ(read(page().start()).text(QAccessible::Name), u"Start with the session"_s);
     EXPECT_EQ(read(page().start()).role(), QAccessible::CheckBox);
 

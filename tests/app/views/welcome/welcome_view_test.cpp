@@ -143,6 +143,8 @@ TEST_F(WelcomeViewTest, AButtonForSettingsThatAreNotThereGoes) {
 }
 
 TEST_F(WelcomeViewTest, NamesWhatHasToBeRestartedAndLooksAgain) {
+    desk.desktop.tray.show({});
+    desk.desktop.tray.setThere(true);
     auto& silent = desk.desktop.silentApps;
     EXPECT_EQ(silent.looks(), 0) << "without permission nothing is read anyway";
     desk.trust();
