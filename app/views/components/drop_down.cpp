@@ -1,12 +1,21 @@
 #include "drop_down.h"
 
+#include "colours.h"
+#include "round_corners.h"
+
+#include <QAbstractItemView>
+#include <QFrame>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,6 +27,8 @@ constexpr double cornerRadius = 8;
 /// Between the body and the ring that shows the keyboard's focus.
 constexpr int ringGap = 3;
 constexpr double edgeOpacity = 0.16;
+constexpr double mostEms = 18; ///< for the text
+constexpr int listRadius = 8;
 
 /// Two small arrows, up and down.
 void paintArrows(QPainter& painter, const QPointF& centre) {
@@ -37,14 +48,40 @@ void paintArrows(QPainter& painter, const QPointF& centre) {
 DropDown::DropDown(ThemeSource& themes, QWidget* parent) : QComboBox(parent), m_themes(themes) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::StrongFocus);
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // The plain delegate knows nothing of style sheets.
+    setItemDelegate(new QStyledItemDelegate(this));
+    view()->setTextElideMode(Qt::ElideRight);
+    roundCorners(*view()->window(), listRadius);
     m_subscription = themes.changed.subscribe([this] { follow(); });
     follow();
 }
 
 void DropDown::follow() {
     setFont(m_themes.theme().styles.body);
+    styleList();
     updateGeometry();
     update();
+}
+
+/// The list looks as menus do.
+void DropDown::styleList() {
+    const QString sheet =
+        u"QAbstractItemView { background: %1; border: 1px solid %2; border-radius: %6px; padding: 4px; "
+        "outline: 0; }"
+        "QAbstractItemView::item { color: %3; padding: 5px 8px; border-radius: 5px; }"
+        "QAbstractItemView::item:selected { background: %4; color: %5; }"_s;
+    const Palette& palette = m_themes.theme().palette;
+    view()->setStyleSheet(sheet.arg(
+        Colours::css(palette.card), Colours::css(Colours::over(palette.windowBorder, palette.card)),
+        Colours::css(palette.primary), Colours::css(palette.accent), Colours::css(palette.onAccent),
+        QString::number(listRadius)));
+}
+
+void DropDown::showPopup() {
+    if (auto* const box = qobject_cast<QFrame*>(view()->window()))
+        box->setFrameShape(QFrame::NoFrame); // the list has its own
+    QComboBox::showPopup();
 }
 
 QSize DropDown::sizeHint() const {
@@ -52,8 +89,9 @@ QSize DropDown::sizeHint() const {
     int widest = 0;
     for (int index = 0; index < count(); ++index)
         widest = std::max(widest, metrics.horizontalAdvance(itemText(index)));
+    const int most = static_cast<int>(std::lround(mostEms * pixelSize(m_themes.theme().styles.body)));
     return {
-        widest + 2 * sidePadding + arrowsGap + arrowsWidth + 2 * ringGap,
+        std::min(widest, most) + 2 * sidePadding + arrowsGap + arrowsWidth + 2 * ringGap,
         metrics.height() + 2 * endPadding + 2 * ringGap};
 }
 
@@ -82,7 +120,8 @@ void DropDown::paintEvent(QPaintEvent*) {
     const QRectF text = body.adjusted(sidePadding, 0, -sidePadding, 0);
     painter.drawText(
         text, static_cast<int>(Qt::AlignVCenter) | (isMirrored ? Qt::AlignRight : Qt::AlignLeft),
-        currentText());
+        fontMetrics().elidedText(
+            currentText(), Qt::ElideRight, static_cast<int>(text.width()) - arrowsGap - arrowsWidth));
     painter.setPen(QPen(palette.secondary, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     const double arrows = isMirrored ? text.left() + arrowsWidth / 2.0 : text.right() - arrowsWidth / 2.0;

@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// One of a few choices, which open below each other.
+/// One of a few choices, which open below each other. What is longer than a line is cut short.
 class DropDown : public QComboBox {
     Q_OBJECT
 
@@ -15,6 +15,7 @@ class DropDown : public QComboBox {
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+    void showPopup() override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -22,6 +23,7 @@ class DropDown : public QComboBox {
 
   private:
     void follow();
+    void styleList();
 
     ThemeSource& m_themes;
     Subscription m_subscription;

@@ -67,7 +67,7 @@ PracticeView::Draw PracticeView::drawByChance() {
 
 PracticeView::PracticeView(AppModel& model, ThemeSource& themeSource, Draw draw, QWidget* parent)
     : ThemedWidget(themeSource, parent), m_model(model), m_draw(std::move(draw)),
-      m_practice(new QWidget(this)), m_empty(makeEmpty()), m_apps(new QComboBox(m_practice)),
+      m_practice(new QWidget(this)), m_empty(makeEmpty()), m_apps(new DropDown(themeSource, m_practice)),
       m_start(makeStart()), m_question(new QuestionPage(themeSource, m_practice)),
       m_results(new ResultsPage(themeSource, m_practice)), m_pages(new QStackedLayout) {
     layOut();

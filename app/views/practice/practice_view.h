@@ -2,12 +2,12 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/core/practice_round.h>
+#include <quillon/app/views/components/drop_down.h>
 #include <quillon/app/views/components/prominent_button.h>
 #include <quillon/app/views/components/themed_label.h>
 #include <quillon/app/views/components/themed_widget.h>
 #include <quillon/kit/coach/practice_deck.h>
 
-#include <QComboBox>
 #include <QStackedLayout>
 
 #include <functional>
@@ -67,7 +67,7 @@ class PracticeView : public ThemedWidget {
     QWidget* m_practice;
     QWidget* m_empty;
     ThemedLabel* m_emptyBody;
-    QComboBox* m_apps;
+    DropDown* m_apps;
     ThemedLabel* m_startText;
     ProminentButton* m_startButton;
     QWidget* m_start;

@@ -1,0 +1,124 @@
+#include "window_scenes.h"
+
+#include <quillon/app/views/practice/practice_view.h>
+#include <quillon/kit/menu/sample_menus.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A key press while a round is drawn.
+struct Press {
+    int key;
+    Qt::KeyboardModifiers held = Qt::NoModifier;
+};
+
+constexpr Press onButton{Qt::Key_Return};
+constexpr Press wrongKeys{Qt::Key_X, Qt::ControlModifier | Qt::AltModifier};
+
+RawMenuItem command(const char* title, const char* key) {
+    RawMenuItem item;
+    item.title = title;
+    item.cmdChar = key;
+    item.cmdModifiers = 12; // ⌃ without ⌘
+    return item;
+}
+
+RawMenuItem menu(const char* title, std::vector<RawMenuItem> items) {
+    RawMenuItem item;
+    item.title = title;
+    item.children = std::move(items);
+    return item;
+}
+
+MenuReading menusOfWriter() {
+    RawMenuItem edit = menu(
+        "Edit",
+        {command("Find and Replace in the Whole Document…", "H"),
+         menu("Paste Special", {command("As Text Without Formatting", "V")}), command("Undo", "Z")});
+    return {{menu("File", {command("Save", "S")}), std::move(edit)}, ReadOutcome::complete};
+}
+
+void read(ViewDesk& desk, std::int64_t pid, const std::string& name) {
+    const RunningApp app{pid, "org.example." + name, name, {}};
+    desk.desktop.menus.answer(pid, menusOfWriter());
+    desk.desktop.front.setCurrent(app);
+    desk.desktop.access.setTrusted(true);
+    desk.model.refreshTrust();
+    desk.model.frontAppChanged(app);
+    desk.desktop.background.runAll();
+}
+
+void send(const Press& press) {
+    QKeyEvent event(QEvent::KeyPress, press.key, press.held);
+    if (QWidget* const focused = QApplication::focusWidget())
+        QApplication::sendEvent(focused, &event);
+}
+
+WindowScene practice(QString name, std::vector<std::string> apps, std::vector<Press> presses = {}) {
+    auto show = [apps = std::move(apps), presses = std::move(presses)](ViewDesk& desk) {
+        std::int64_t pid = 2;
+        for (const std::string& app : apps)
+            read(desk, pid++, app);
+        auto view = std::make_unique<PracticeView>(
+            desk.model, desk.themes,
+            [](const AppSheet& sheet, const UsageRecords&, const PracticeDeck::Ids&) {
+                return sheet.entries;
+            });
+        view->resize(QSize(480, 420).expandedTo(view->sizeHint()));
+        view->show();
+        QApplication::setActiveWindow(view.get());
+        QApplication::processEvents();
+        for (const Press& press : presses)
+            send(press);
+        return view;
+    };
+    return {std::move(name), std::move(show)};
+}
+
+QWidget* choicesOf(QWidget& view) {
+    auto* const apps = view.findChild<QComboBox*>();
+    apps->showPopup();
+    return apps->view()->window();
+}
+
+} // namespace
+
+std::vector<WindowScene> practiceScenes() {
+    const std::vector<std::string> apps{"Sketchpad", "Calculator", "Writer"};
+    const Press save{Qt::Key_S, Qt::ControlModifier};
+    const Press find{Qt::Key_H, Qt::ControlModifier};
+    const Press paste{Qt::Key_V, Qt::ControlModifier};
+    const Press undo{Qt::Key_Z, Qt::ControlModifier};
+    WindowScene choices = practice(u"practice-choices"_s, apps);
+    choices.part = choicesOf;
+    return {
+        practice(u"practice-empty"_s, {}),
+        practice(u"practice-start"_s, apps),
+        practice(u"practice-question"_s, apps, {onButton, save, onButton}),
+        practice(u"practice-right"_s, apps, {onButton, save, onButton, find}),
+        practice(u"practice-wrong"_s, apps, {onButton, save, onButton, find, onButton, wrongKeys}),
+        practice(u"practice-revealed"_s, apps, {onButton, onButton}),
+        practice(
+            u"practice-missed"_s, apps,
+            {onButton, save, onButton, wrongKeys, onButton, wrongKeys, onButton, undo, onButton}),
+        practice(
+            u"practice-clean"_s, apps,
+            {onButton, save, onButton, find, onButton, paste, onButton, undo, onButton}),
+        practice(u"practice-long-name"_s, {"The Application With a Rather Long Name for Its Menu"}),
+        std::move(choices),
+    };
+}
+
+} // namespace quillon
