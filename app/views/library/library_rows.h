@@ -5,6 +5,7 @@
 #include <quillon/kit/menu/shortcut_search.h>
 #include <quillon/kit/records/annotations.h>
 #include <quillon/kit/records/usage.h>
+#include <quillon/kit/shortcut/shortcut.h>
 
 #include <QString>
 
