@@ -785,6 +785,117 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     </message>
 </context>
 <context>
+    <name>Library</name>
+    <message>
+        <source>last year</source>
+        <translation>letztes Jahr</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years ago</source>
+        <translation><numerusform>vor %1 Jahr</numerusform><numerusform>vor %1 Jahren</numerusform></translation>
+    </message>
+    <message>
+        <source>last month</source>
+        <translation>letzten Monat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 months ago</source>
+        <translation><numerusform>vor %1 Monat</numerusform><numerusform>vor %1 Monaten</numerusform></translation>
+    </message>
+    <message>
+        <source>last week</source>
+        <translation>letzte Woche</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 weeks ago</source>
+        <translation><numerusform>vor %1 Woche</numerusform><numerusform>vor %1 Wochen</numerusform></translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>gestern</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days ago</source>
+        <translation><numerusform>vor %1 Tag</numerusform><numerusform>vor %1 Tagen</numerusform></translation>
+    </message>
+    <message>
+        <source>1 hour ago</source>
+        <translation>vor 1 Stunde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 hours ago</source>
+        <translation><numerusform>vor %1 Stunde</numerusform><numerusform>vor %1 Stunden</numerusform></translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>vor 1 Minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 minutes ago</source>
+        <translation><numerusform>vor %1 Minute</numerusform><numerusform>vor %1 Minuten</numerusform></translation>
+    </message>
+    <message>
+        <source>1 second ago</source>
+        <translation>vor 1 Sekunde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 seconds ago</source>
+        <translation><numerusform>vor %1 Sekunde</numerusform><numerusform>vor %1 Sekunden</numerusform></translation>
+    </message>
+    <message>
+        <source>Search shortcuts</source>
+        <translation>Tastenkürzel suchen</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Anwendungen</translation>
+    </message>
+    <message>
+        <source>Shortcuts of %1</source>
+        <translation>Tastenkürzel von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 Tastenkürzel</numerusform><numerusform>%1 Tastenkürzel</numerusform></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts · menus read %2</source>
+        <translation><numerusform>%1 Tastenkürzel · Menüs gelesen: %2</numerusform><numerusform>%1 Tastenkürzel · Menüs gelesen: %2</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 menu clicks</source>
+        <translation><numerusform>%1 Klick im Menü</numerusform><numerusform>%1 Klicks im Menü</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts typed</source>
+        <translation><numerusform>%1 Tastenkürzel getippt</numerusform><numerusform>%1 Tastenkürzel getippt</numerusform></translation>
+    </message>
+    <message>
+        <source>Learn these next</source>
+        <translation>Diese als Nächstes lernen</translation>
+    </message>
+    <message>
+        <source>%1 clicked · %2 typed</source>
+        <translation>%1-mal geklickt · %2-mal getippt</translation>
+    </message>
+    <message>
+        <source>No apps yet</source>
+        <translation>Noch keine Anwendungen</translation>
+    </message>
+    <message>
+        <source>Hold %1 in any app; its shortcuts show up here.</source>
+        <translation>Halten Sie %1 in einer Anwendung; ihre Tastenkürzel erscheinen hier.</translation>
+    </message>
+    <message>
+        <source>Pick an app</source>
+        <translation>Anwendung auswählen</translation>
+    </message>
+</context>
+<context>
     <name>Overlay</name>
     <message>
         <source>Quillon needs Accessibility to read menus</source>

@@ -785,6 +785,117 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     </message>
 </context>
 <context>
+    <name>Library</name>
+    <message>
+        <source>last year</source>
+        <translation>el año pasado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years ago</source>
+        <translation><numerusform>hace %1 año</numerusform><numerusform>hace %1 años</numerusform></translation>
+    </message>
+    <message>
+        <source>last month</source>
+        <translation>el mes pasado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 months ago</source>
+        <translation><numerusform>hace %1 mes</numerusform><numerusform>hace %1 meses</numerusform></translation>
+    </message>
+    <message>
+        <source>last week</source>
+        <translation>la semana pasada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 weeks ago</source>
+        <translation><numerusform>hace %1 semana</numerusform><numerusform>hace %1 semanas</numerusform></translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>ayer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days ago</source>
+        <translation><numerusform>hace %1 día</numerusform><numerusform>hace %1 días</numerusform></translation>
+    </message>
+    <message>
+        <source>1 hour ago</source>
+        <translation>hace 1 hora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 hours ago</source>
+        <translation><numerusform>hace %1 hora</numerusform><numerusform>hace %1 horas</numerusform></translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>hace 1 minuto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 minutes ago</source>
+        <translation><numerusform>hace %1 minuto</numerusform><numerusform>hace %1 minutos</numerusform></translation>
+    </message>
+    <message>
+        <source>1 second ago</source>
+        <translation>hace 1 segundo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 seconds ago</source>
+        <translation><numerusform>hace %1 segundo</numerusform><numerusform>hace %1 segundos</numerusform></translation>
+    </message>
+    <message>
+        <source>Search shortcuts</source>
+        <translation>Buscar atajos</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Aplicaciones</translation>
+    </message>
+    <message>
+        <source>Shortcuts of %1</source>
+        <translation>Atajos de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 atajo</numerusform><numerusform>%1 atajos</numerusform></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>ahora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts · menus read %2</source>
+        <translation><numerusform>%1 atajo · menús leídos %2</numerusform><numerusform>%1 atajos · menús leídos %2</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 menu clicks</source>
+        <translation><numerusform>%1 clic en menús</numerusform><numerusform>%1 clics en menús</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts typed</source>
+        <translation><numerusform>%1 atajo tecleado</numerusform><numerusform>%1 atajos tecleados</numerusform></translation>
+    </message>
+    <message>
+        <source>Learn these next</source>
+        <translation>Aprender ahora</translation>
+    </message>
+    <message>
+        <source>%1 clicked · %2 typed</source>
+        <translation>%1 con clic · %2 con teclas</translation>
+    </message>
+    <message>
+        <source>No apps yet</source>
+        <translation>Aún no hay aplicaciones</translation>
+    </message>
+    <message>
+        <source>Hold %1 in any app; its shortcuts show up here.</source>
+        <translation>Mantenga %1 en cualquier aplicación; sus atajos aparecerán aquí.</translation>
+    </message>
+    <message>
+        <source>Pick an app</source>
+        <translation>Elegir una aplicación</translation>
+    </message>
+</context>
+<context>
     <name>Overlay</name>
     <message>
         <source>Quillon needs Accessibility to read menus</source>

@@ -785,6 +785,117 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     </message>
 </context>
 <context>
+    <name>Library</name>
+    <message>
+        <source>last year</source>
+        <translation>l’année dernière</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years ago</source>
+        <translation><numerusform>il y a %1 an</numerusform><numerusform>il y a %1 ans</numerusform></translation>
+    </message>
+    <message>
+        <source>last month</source>
+        <translation>le mois dernier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 months ago</source>
+        <translation><numerusform>il y a %1 mois</numerusform><numerusform>il y a %1 mois</numerusform></translation>
+    </message>
+    <message>
+        <source>last week</source>
+        <translation>la semaine dernière</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 weeks ago</source>
+        <translation><numerusform>il y a %1 semaine</numerusform><numerusform>il y a %1 semaines</numerusform></translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>hier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days ago</source>
+        <translation><numerusform>il y a %1 jour</numerusform><numerusform>il y a %1 jours</numerusform></translation>
+    </message>
+    <message>
+        <source>1 hour ago</source>
+        <translation>il y a 1 heure</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 hours ago</source>
+        <translation><numerusform>il y a %1 heure</numerusform><numerusform>il y a %1 heures</numerusform></translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>il y a 1 minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 minutes ago</source>
+        <translation><numerusform>il y a %1 minute</numerusform><numerusform>il y a %1 minutes</numerusform></translation>
+    </message>
+    <message>
+        <source>1 second ago</source>
+        <translation>il y a 1 seconde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 seconds ago</source>
+        <translation><numerusform>il y a %1 seconde</numerusform><numerusform>il y a %1 secondes</numerusform></translation>
+    </message>
+    <message>
+        <source>Search shortcuts</source>
+        <translation>Rechercher un raccourci</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>Shortcuts of %1</source>
+        <translation>Raccourcis de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 raccourci</numerusform><numerusform>%1 raccourcis</numerusform></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>maintenant</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts · menus read %2</source>
+        <translation><numerusform>%1 raccourci · menus lus %2</numerusform><numerusform>%1 raccourcis · menus lus %2</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 menu clicks</source>
+        <translation><numerusform>%1 clic dans les menus</numerusform><numerusform>%1 clics dans les menus</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts typed</source>
+        <translation><numerusform>%1 raccourci tapé</numerusform><numerusform>%1 raccourcis tapés</numerusform></translation>
+    </message>
+    <message>
+        <source>Learn these next</source>
+        <translation>À apprendre ensuite</translation>
+    </message>
+    <message>
+        <source>%1 clicked · %2 typed</source>
+        <translation>cliqué %1 fois · tapé %2 fois</translation>
+    </message>
+    <message>
+        <source>No apps yet</source>
+        <translation>Aucune application pour l’instant</translation>
+    </message>
+    <message>
+        <source>Hold %1 in any app; its shortcuts show up here.</source>
+        <translation>Maintenez %1 dans une application ; ses raccourcis apparaîtront ici.</translation>
+    </message>
+    <message>
+        <source>Pick an app</source>
+        <translation>Choisir une application</translation>
+    </message>
+</context>
+<context>
     <name>Overlay</name>
     <message>
         <source>Quillon needs Accessibility to read menus</source>

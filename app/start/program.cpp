@@ -61,7 +61,7 @@ Program::Program(Platform& platform)
            .checkForUpdates = [this] { m_updates.checkForUpdates(); },
            .quit = [] { QApplication::quit(); }}),
       m_windowOffers(offerWindows(
-          m_windows, {m_model, m_themes, m_icons, *m_desktop, m_timers,
+          m_windows, {m_model, m_themes, m_icons, *m_desktop, m_timers, m_clock,
                       shownPath(platform.dataFolder(), QDir::homePath().toStdString())})),
       m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {
     const auto applyKeyLabels = [this] { m_themes.setKeyLabels(m_settings.keyLabels()); };

@@ -1,5 +1,6 @@
 #include "window_contents.h"
 
+#include <quillon/app/views/library/library_view.h>
 #include <quillon/app/views/practice/practice_view.h>
 #include <quillon/app/views/settings/settings_view.h>
 #include <quillon/app/views/welcome/welcome_view.h>
@@ -14,6 +15,7 @@ namespace {
 constexpr QSize welcomeSize(560, 480);
 constexpr QSize settingsSize(560, 420);
 constexpr QSize practiceSize(480, 400);
+constexpr QSize librarySize(820, 560);
 
 WelcomeNeeds welcomeNeeds(const WindowNeeds& needs) {
     return {
@@ -42,6 +44,13 @@ std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds
         {.make = [needs] { return std::make_unique<PracticeView>(needs.model, needs.themes); },
          .size = practiceSize,
          .escape = EscapeKey::doesNothing});
+    offer(
+        WindowName::library,
+        {.make =
+             [needs] {
+                 return std::make_unique<LibraryView>(needs.model, needs.themes, needs.icons, needs.clock);
+             },
+         .size = librarySize});
     offer(
         WindowName::settings,
         {.make =

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <quillon/app/core/app_model.h>
+#include <quillon/app/ports/clock.h>
 #include <quillon/app/ports/desktop.h>
 #include <quillon/app/ports/timers.h>
 #include <quillon/app/views/components/app_icon_cache.h>
@@ -21,6 +22,7 @@ struct WindowNeeds {
     AppIconCache& icons;
     Desktop& desktop;
     Timers& timers;
+    const Clock& clock;
     QString dataFolder = {}; ///< where everything learned is kept, as it is shown; empty for nowhere
 };
 

@@ -283,9 +283,8 @@ TEST_F(AppModelTest, TellsWhatChanged) {
     std::vector<ModelField> seen;
     const auto subscription = model.changed.subscribe([&](ModelField field) { seen.push_back(field); });
     startWith(sketch);
-    const std::vector expected{
-        ModelField::trusted, ModelField::current, ModelField::reading, ModelField::current,
-        ModelField::reading, ModelField::sheets};
+    const std::vector expected{ModelField::trusted, ModelField::current, ModelField::reading,
+                               ModelField::current, ModelField::reading, ModelField::sheets};
     EXPECT_EQ(seen, expected);
 }
 

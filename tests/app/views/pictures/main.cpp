@@ -98,7 +98,7 @@ std::vector<Picture> allPictures(KeyLabels keys) {
     const auto drawOneWindow = [keys](const WindowScene& scene, const Look& look, const QString& path) {
         return drawWindow(scene, look, keys, path);
     };
-    for (const auto& scenes : {practiceScenes(), settingsScenes(), welcomeScenes()})
+    for (const auto& scenes : {libraryScenes(), practiceScenes(), settingsScenes(), welcomeScenes()})
         add(scenes, drawOneWindow);
     add(trayMenuScenes(), drawTrayMenu);
     return pictures;

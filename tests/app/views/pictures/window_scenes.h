@@ -19,6 +19,7 @@ struct WindowScene {
     std::function<QWidget*(QWidget&)> part = {};
 };
 
+std::vector<WindowScene> libraryScenes();
 std::vector<WindowScene> practiceScenes();
 std::vector<WindowScene> settingsScenes();
 std::vector<WindowScene> welcomeScenes();

@@ -1,0 +1,65 @@
+#include "app_list_model.h"
+
+#include "library_texts.h"
+
+#include <quillon/app/views/components/foreign_text.h>
+#include <quillon/app/views/components/text.h>
+
+#include <QCollator>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+
+std::vector<ListedApp> listedApps(const SharedSheets& sheets) {
+    std::vector<ListedApp> apps;
+    for (const auto& [bundleID, sheet] : sheets)
+        apps.push_back(
+            {.bundleID = bundleID,
+             .name = foreignLine(sheet->appName.empty() ? bundleID : sheet->appName),
+             .caption = LibraryTexts::shortcuts(static_cast<qint64>(sheet->entries.size()))});
+    QCollator order;
+    if (order.locale() == QLocale::c())
+        order.setLocale(QLocale(QLocale::English)); // the plain locale would compare codes
+    order.setNumericMode(true);
+    order.setCaseSensitivity(Qt::CaseInsensitive);
+    std::ranges::stable_sort(apps, [&](const ListedApp& one, const ListedApp& other) {
+        return order.compare(one.name, other.name) < 0;
+    });
+    return apps;
+}
+
+void AppListModel::setApps(std::vector<ListedApp> apps) {
+    if (apps == m_apps)
+        return;
+    beginResetModel();
+    m_apps = std::move(apps);
+    endResetModel();
+}
+
+QModelIndex AppListModel::indexOf(const std::string& bundleID) const {
+    const auto app = std::ranges::find(m_apps, bundleID, &ListedApp::bundleID);
+    return app == m_apps.end() ? QModelIndex() : index(static_cast<int>(app - m_apps.begin()));
+}
+
+std::string AppListModel::bundleID(const QModelIndex& index) const {
+    return m_apps[static_cast<std::size_t>(index.row())].bundleID;
+}
+
+int AppListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_apps.size());
+}
+
+QVariant AppListModel::data(const QModelIndex& index, int role) const {
+    const ListedApp& app = m_apps[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole: return app.name;
+    case captionRole: return app.caption;
+    case bundleRole: return text(app.bundleID);
+    case Qt::AccessibleTextRole: return QStringLiteral("%1, %2").arg(app.name, app.caption);
+    default: return {};
+    }
+}
+
+} // namespace quillon

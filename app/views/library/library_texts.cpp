@@ -1,0 +1,103 @@
+#include "library_texts.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace quillon::LibraryTexts {
+
+namespace {
+
+/// The number that chooses a plural form.
+int form(qint64 count) {
+    return static_cast<int>(std::clamp<qint64>(count, 0, std::numeric_limits<int>::max()));
+}
+
+/// How a length of time is told in one unit: up to the next one.
+struct AgeUnit {
+    double seconds;
+    const char* one;
+    const char* many;
+};
+
+constexpr double minute = 60;
+constexpr double hour = 60 * minute;
+constexpr double day = 24 * hour;
+
+constexpr std::array<AgeUnit, 7> ageUnits{{
+    {365 * day, QT_TRANSLATE_NOOP("Library", "last year"), QT_TRANSLATE_N_NOOP("Library", "%1 years ago")},
+    {30 * day, QT_TRANSLATE_NOOP("Library", "last month"), QT_TRANSLATE_N_NOOP("Library", "%1 months ago")},
+    {7 * day, QT_TRANSLATE_NOOP("Library", "last week"), QT_TRANSLATE_N_NOOP("Library", "%1 weeks ago")},
+    {day, QT_TRANSLATE_NOOP("Library", "yesterday"), QT_TRANSLATE_N_NOOP("Library", "%1 days ago")},
+    {hour, QT_TRANSLATE_NOOP("Library", "1 hour ago"), QT_TRANSLATE_N_NOOP("Library", "%1 hours ago")},
+    {minute, QT_TRANSLATE_NOOP("Library", "1 minute ago"), QT_TRANSLATE_N_NOOP("Library", "%1 minutes ago")},
+    {1, QT_TRANSLATE_NOOP("Library", "1 second ago"), QT_TRANSLATE_N_NOOP("Library", "%1 seconds ago")},
+}};
+
+} // namespace
+
+QString searchPrompt() {
+    return QCoreApplication::translate("Library", "Search shortcuts");
+}
+
+QString appsName() {
+    return QCoreApplication::translate("Library", "Apps");
+}
+
+QString shortcutsName(const QString& appName) {
+    return QCoreApplication::translate("Library", "Shortcuts of %1").arg(appName);
+}
+
+QString shortcuts(qint64 count) {
+    return QCoreApplication::translate("Library", "%1 shortcuts", nullptr, form(count)).arg(count);
+}
+
+QString ago(Seconds age) {
+    const auto unit =
+        std::ranges::find_if(ageUnits, [&](const AgeUnit& one) { return age.count() >= one.seconds; });
+    if (unit == ageUnits.end())
+        return QCoreApplication::translate("Library", "now");
+    const auto count = static_cast<qint64>(age.count() / unit->seconds);
+    if (count == 1)
+        return QCoreApplication::translate("Library", unit->one);
+    return QCoreApplication::translate("Library", unit->many, nullptr, form(count)).arg(count);
+}
+
+QString statistics(qint64 count, const QString& ago) {
+    return QCoreApplication::translate("Library", "%1 shortcuts · menus read %2", nullptr, form(count))
+        .arg(QString::number(count), ago);
+}
+
+QString menuClicks(Count clicks) {
+    return QCoreApplication::translate("Library", "%1 menu clicks", nullptr, form(clicks)).arg(clicks);
+}
+
+QString shortcutsTyped(Count typed) {
+    return QCoreApplication::translate("Library", "%1 shortcuts typed", nullptr, form(typed)).arg(typed);
+}
+
+QString learnNext() {
+    return QCoreApplication::translate("Library", "Learn these next");
+}
+
+QString counts(Count clicked, Count typed) {
+    return QCoreApplication::translate("Library", "%1 clicked · %2 typed")
+        .arg(QString::number(clicked), QString::number(typed));
+}
+
+QString noAppsTitle() {
+    return QCoreApplication::translate("Library", "No apps yet");
+}
+
+QString noAppsText(const QString& triggerGlyph) {
+    return QCoreApplication::translate("Library", "Hold %1 in any app; its shortcuts show up here.")
+        .arg(triggerGlyph);
+}
+
+QString pickAnApp() {
+    return QCoreApplication::translate("Library", "Pick an app");
+}
+
+} // namespace quillon::LibraryTexts

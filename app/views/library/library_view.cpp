@@ -1,0 +1,134 @@
+#include "library_view.h"
+
+#include "app_list.h"
+#include "empty_state.h"
+#include "library_detail.h"
+#include "library_texts.h"
+
+#include <quillon/app/core/trigger_key.h>
+#include <quillon/app/languages/translated_keys.h>
+#include <quillon/app/views/components/text.h>
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QShortcut>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int narrowestSidebar = 190;
+constexpr int firstSidebar = 230;
+constexpr int firstPane = 590;
+constexpr int narrowestPane = 360;
+constexpr int margin = 12;
+
+} // namespace
+
+LibraryView::LibraryView(
+    AppModel& model, ThemeSource& themeSource, AppIconCache& icons, const Clock& clock, QWidget* parent)
+    : ThemedWidget(themeSource, parent), m_model(model), m_sidebar(new QStackedWidget),
+      m_list(new AppList(themeSource, icons)),
+      m_noApps(new EmptyState(themeSource, Symbol::keyboard, LibraryTexts::noAppsTitle())),
+      m_search(new SearchBox(themeSource, LibraryTexts::searchPrompt())), m_pane(new QStackedWidget),
+      m_noChoice(new EmptyState(themeSource, Symbol::sidebarLeft, LibraryTexts::pickAnApp())),
+      m_detail(new LibraryDetail(model, themeSource, clock)) {
+    auto* const halves = new QSplitter;
+    halves->addWidget(makeSidebar());
+    halves->addWidget(makePane());
+    halves->setHandleWidth(1);
+    halves->setStretchFactor(1, 1);
+    halves->setSizes({firstSidebar, firstPane});
+    halves->setChildrenCollapsible(false);
+    auto* const all = new QHBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(halves);
+
+    connect(m_list, &AppList::chosen, this, &LibraryView::select);
+    connect(m_search, &SearchBox::textEdited, this, &LibraryView::search);
+    auto* const find = new QShortcut(QKeySequence(QKeySequence::Find), this);
+    connect(find, &QShortcut::activated, m_search, &SearchBox::focus);
+    m_modelChange = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
+    wearTheme();
+    refresh();
+    setFocusProxy(m_list);
+}
+
+QWidget* LibraryView::makeSidebar() {
+    m_sidebar->addWidget(m_noApps);
+    m_sidebar->addWidget(m_list);
+    m_sidebar->setMinimumWidth(narrowestSidebar);
+    return m_sidebar;
+}
+
+QWidget* LibraryView::makePane() {
+    auto* const pane = new QWidget;
+    pane->setMinimumWidth(narrowestPane);
+    m_pane->addWidget(m_noChoice);
+    m_pane->addWidget(m_detail);
+    auto* const searchRow = new QHBoxLayout;
+    searchRow->setContentsMargins(margin, margin, margin, 0);
+    searchRow->addWidget(m_search);
+    auto* const column = new QVBoxLayout(pane);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(searchRow);
+    column->addWidget(m_pane, 1);
+    return pane;
+}
+
+void LibraryView::modelChanged(ModelField field) {
+    if (field == ModelField::sheets || field == ModelField::trigger || field == ModelField::keyLabels)
+        refresh();
+}
+
+void LibraryView::refresh() {
+    m_noApps->setText(
+        LibraryTexts::noAppsText(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels())));
+    m_list->setApps(listedApps(m_model.sheets()), m_selection);
+    m_sidebar->setCurrentWidget(m_model.sheets().empty() ? static_cast<QWidget*>(m_noApps) : m_list);
+    showSelection();
+}
+
+void LibraryView::select(const std::string& bundleID) {
+    m_selection = bundleID;
+    showSelection();
+}
+
+/// An application of which there is no sheet is none; it is shown again when there is one.
+void LibraryView::showSelection() {
+    const bool isKnown = m_model.sheets().contains(m_selection);
+    m_detail->setApp(m_selection);
+    m_pane->setCurrentWidget(isKnown ? static_cast<QWidget*>(m_detail) : m_noChoice);
+}
+
+void LibraryView::search(const QString& query) {
+    m_detail->setQuery(utf8(query));
+}
+
+/// Esc takes back a search before it closes the window.
+void LibraryView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && !m_search->text().isEmpty()) {
+        m_search->setText({});
+        search({});
+    } else {
+        ThemedWidget::keyPressEvent(event);
+    }
+}
+
+void LibraryView::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), theme().palette.window);
+}
+
+void LibraryView::wearTheme() {
+    setPalette(theme().palette.forToolkit());
+}
+
+void LibraryView::themeChanged() {
+    wearTheme();
+    ThemedWidget::themeChanged();
+}
+
+} // namespace quillon

@@ -1,0 +1,254 @@
+#include <quillon/app/views/library/app_list.h>
+#include <quillon/app/views/library/library_detail.h>
+#include <quillon/app/views/library/library_view.h>
+#include <quillon/tests/app/views/support/read_app.h>
+#include <quillon/tests/app/views/support/view_desk.h>
+#include <quillon/tests/support/widgets/active_window.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+using testing::UnorderedElementsAre;
+
+AppSheet sheetOf(const std::string& name, std::vector<std::string> commands) {
+    AppSheet sheet{.bundleID = "org.example." + name, .appName = name, .entries = {}};
+    for (std::string& command : commands)
+        sheet.entries.push_back(
+            {{"File", std::move(command)}, {Modifiers::control, Key::character("S")}, true});
+    return sheet;
+}
+
+class LibraryViewTest : public testing::Test {
+  protected:
+    LibraryViewTest() { view.show(); }
+
+    LibraryDetail& detail() const { return *view.findChild<LibraryDetail*>(); }
+    AppList& apps() const { return *view.findChild<AppList*>(); }
+    QLineEdit& field() const { return *view.findChild<QLineEdit*>(); }
+    static std::vector<std::string> rows(const QListView& shown) {
+        std::vector<std::string> rows;
+        for (int row = 0; row < shown.model()->rowCount(); ++row)
+            rows.push_back(shown.model()->index(row, 0).data().toString().toStdString());
+        return rows;
+    }
+    std::vector<std::string> visibleTexts() const {
+        std::vector<std::string> texts;
+        for (const QLabel* const label : view.findChildren<QLabel*>())
+            if (label->isVisible())
+                texts.push_back(label->text().toStdString());
+        return texts;
+    }
+    void choose(int row) { apps().setCurrentIndex(apps().model()->index(row, 0)); }
+    void settle() { QCoreApplication::processEvents(); }
+
+    ViewDesk desk;
+    LibraryView view{desk.model, desk.themes, desk.icons, desk.desktop.clock};
+};
+
+TEST_F(LibraryViewTest, WithoutAppsItSaysWhatToDo) {
+    EXPECT_THAT(
+        visibleTexts(),
+        UnorderedElementsAre("No apps yet", "Hold ⌘ in any app; its shortcuts show up here.", "Pick an app"));
+    desk.model.setTrigger(TriggerKey::control);
+    EXPECT_THAT(visibleTexts(), Contains("Hold ⌃ in any app; its shortcuts show up here."));
+    desk.model.setKeyLabels(KeyLabels::names);
+    EXPECT_THAT(visibleTexts(), Contains("Hold Ctrl in any app; its shortcuts show up here."));
+}
+
+TEST_F(LibraryViewTest, ListsWhatWasRead) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    EXPECT_THAT(rows(apps()), ElementsAre("Geany"));
+    EXPECT_THAT(visibleTexts(), ElementsAre("Pick an app"));
+}
+
+TEST_F(LibraryViewTest, ShowsTheAppThatIsChosen) {
+    readApp(desk, sheetOf("Geany", {"Save", "Open"}));
+    readApp(desk, sheetOf("Mousepad", {"Close"}));
+    choose(0);
+    EXPECT_EQ(view.selection(), "org.example.Geany");
+    EXPECT_THAT(rows(detail()), Contains("Open"));
+    EXPECT_EQ(detail().accessibleName(), u"Shortcuts of Geany"_s);
+    choose(1);
+    EXPECT_THAT(rows(detail()), Contains("Close"));
+    EXPECT_THAT(rows(detail()), Not(Contains("Open")));
+}
+
+TEST_F(LibraryViewTest, CountsFollowTheUser) {
+    readApp(desk, sheetOf("Sketchpad", {"Save"}));
+    choose(0);
+    EXPECT_THAT(rows(detail()), Contains("0 menu clicks"));
+    desk.model.handlePick(
+        {2, "org.example.Sketchpad", "Sketchpad", {}}, {"File", "Save"},
+        {Modifiers::control, Key::character("S")});
+    settle();
+    EXPECT_THAT(rows(detail()), Contains("1 menu clicks"));
+    EXPECT_THAT(rows(detail()), Contains("Learn these next"));
+}
+
+TEST_F(LibraryViewTest, TheChoiceStaysWhenOthersAreRead) {
+    readApp(desk, sheetOf("Mousepad", {"Close"}));
+    choose(0);
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    EXPECT_EQ(view.selection(), "org.example.Mousepad");
+    EXPECT_EQ(apps().currentIndex().data().toString(), u"Mousepad"_s);
+    EXPECT_THAT(rows(detail()), Contains("Close"));
+}
+
+TEST_F(LibraryViewTest, ErasingEmptiesIt) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    choose(0);
+    desk.model.eraseEverything();
+    settle();
+    EXPECT_THAT(visibleTexts(), Contains("No apps yet"));
+    EXPECT_THAT(visibleTexts(), Contains("Pick an app"));
+}
+
+TEST_F(LibraryViewTest, SearchNarrowsTheList) {
+    readApp(desk, sheetOf("Geany", {"Save", "Open"}));
+    choose(0);
+    EXPECT_EQ(field().placeholderText(), u"Search shortcuts"_s);
+    QTest::keyClicks(&field(), u"open"_s);
+    EXPECT_THAT(rows(detail()), Contains("Open"));
+    EXPECT_THAT(rows(detail()), Not(Contains("Save")));
+    field().selectAll();
+    QTest::keyClick(&field(), Qt::Key_Delete);
+    EXPECT_THAT(rows(detail()), Contains("Save"));
+}
+
+TEST_F(LibraryViewTest, NothingIsChosenUntilTheUserDoes) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    ASSERT_TRUE(makeActive(view));
+    view.setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(apps().hasFocus());
+    EXPECT_EQ(view.selection(), "");
+    EXPECT_THAT(visibleTexts(), Contains("Pick an app"));
+}
+
+TEST_F(LibraryViewTest, TheArrowKeysChoose) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    readApp(desk, sheetOf("Mousepad", {"Close"}));
+    ASSERT_TRUE(makeActive(view));
+    view.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&apps(), Qt::Key_Down);
+    EXPECT_EQ(view.selection(), "org.example.Geany");
+    QTest::keyClick(&apps(), Qt::Key_Down);
+    EXPECT_EQ(view.selection(), "org.example.Mousepad");
+    QTest::keyClick(&apps(), Qt::Key_Up);
+    EXPECT_EQ(view.selection(), "org.example.Geany");
+}
+
+TEST_F(LibraryViewTest, AClickBesideTheAppsChoosesNone) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    choose(0);
+    QTest::mouseClick(apps().viewport(), Qt::LeftButton, {}, {10, apps().viewport()->height() - 5});
+    EXPECT_EQ(view.selection(), "");
+    EXPECT_THAT(visibleTexts(), Contains("Pick an app"));
+}
+
+TEST_F(LibraryViewTest, TabReachesEverything) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    choose(0);
+    ASSERT_TRUE(makeActive(view));
+    apps().setFocus();
+    QTest::keyClick(&apps(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &field());
+    QTest::keyClick(&field(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &detail());
+    EXPECT_EQ(detail().currentIndex().row(), 0) << "where the keyboard is can be seen";
+    QTest::keyClick(&detail(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &apps());
+}
+
+TEST_F(LibraryViewTest, CtrlFGoesToTheSearchFromAnywhere) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    choose(0);
+    ASSERT_TRUE(makeActive(view));
+    for (QWidget* const from : {static_cast<QWidget*>(&detail()), static_cast<QWidget*>(&apps())}) {
+        from->setFocus();
+        QTest::keyClick(from, Qt::Key_F, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::focusWidget(), &field());
+    }
+}
+
+TEST_F(LibraryViewTest, EscTakesTheSearchBack) {
+    readApp(desk, sheetOf("Geany", {"Save", "Open"}));
+    choose(0);
+    QTest::keyClicks(&field(), u"open"_s);
+    QTest::keyClick(&field(), Qt::Key_Escape);
+    EXPECT_EQ(field().text(), QString());
+    EXPECT_THAT(rows(detail()), Contains("Save"));
+}
+
+TEST_F(LibraryViewTest, RowsAreReadAloudWithTheirKeys) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    choose(0);
+    const QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&detail());
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->text(QAccessible::Name), u"Shortcuts of Geany"_s);
+    ASSERT_EQ(list->childCount(), 4);
+    EXPECT_EQ(list->child(2)->text(QAccessible::Name), u"File"_s);
+    EXPECT_EQ(list->child(3)->text(QAccessible::Name), u"Save, ⌃S"_s);
+    desk.model.setKeyLabels(KeyLabels::names);
+    EXPECT_EQ(list->child(3)->text(QAccessible::Name), u"Save, Ctrl S"_s);
+    const QAccessibleInterface* const sidebar = QAccessible::queryAccessibleInterface(&apps());
+    EXPECT_EQ(sidebar->text(QAccessible::Name), u"Apps"_s);
+    EXPECT_EQ(sidebar->child(0)->text(QAccessible::Name), u"Geany, 1 shortcuts"_s);
+}
+
+TEST_F(LibraryViewTest, TheAgeOfTheSheetIsThatOfTheMomentItIsLookedAt) {
+    AppSheet sheet = sheetOf("Geany", {"Save"});
+    sheet.readAt = desk.desktop.clock.now();
+    readApp(desk, std::move(sheet));
+    choose(0);
+    EXPECT_THAT(rows(detail()), Contains("1 shortcuts · menus read now"));
+    desk.desktop.clock.advance(Seconds(7200));
+    view.hide();
+    view.show();
+    settle();
+    EXPECT_THAT(rows(detail()), Contains("1 shortcuts · menus read 2 hours ago"));
+}
+
+TEST_F(LibraryViewTest, ASheetThatWasReadAnewIsShown) {
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    choose(0);
+    readApp(desk, sheetOf("Geany", {"Save", "Revert"}));
+    settle();
+    EXPECT_THAT(rows(detail()), Contains("Revert"));
+    EXPECT_EQ(view.selection(), "org.example.Geany");
+}
+
+TEST_F(LibraryViewTest, ManyRowsAreDrawnWithoutAWidgetEach) {
+    std::vector<std::string> commands;
+    for (int number = 0; number < 4000; ++number)
+        commands.push_back("Command " + std::to_string(number));
+    readApp(desk, sheetOf("Geany", commands));
+    choose(0);
+    settle();
+    EXPECT_LT(view.findChildren<QWidget*>().size(), 60);
+    EXPECT_EQ(detail().model()->rowCount(), 4003);
+}
+
+TEST_F(LibraryViewTest, FollowsTheTheme) {
+    desk.desktop.appearance.set({ColourScheme::dark, {}, {}});
+    EXPECT_EQ(detail().palette().color(QPalette::Base), desk.themes.theme().palette.window);
+    EXPECT_EQ(apps().palette().color(QPalette::Base), desk.themes.theme().palette.card);
+}
+
+} // namespace
+} // namespace quillon
