@@ -44,9 +44,8 @@ RawMenuItem menu(const char* title, std::vector<RawMenuItem> items) {
 
 MenuReading menusOfWriter() {
     RawMenuItem edit = menu(
-        "Edit",
-        {command("Find and Replace in the Whole Document…", "H"),
-         menu("Paste Special", {command("As Text Without Formatting", "V")}), command("Undo", "Z")});
+        "Edit", {command("Find and Replace in the Whole Document…", "H"),
+                 menu("Paste Special", {command("As Text Without Formatting", "V")}), command("Undo", "Z")});
     return {{menu("File", {command("Save", "S")}), std::move(edit)}, ReadOutcome::complete};
 }
 
