@@ -860,7 +860,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     </message>
     <message>
         <source>now</source>
-        <translation>jetzt</translation>
+        <translation>gerade eben</translation>
     </message>
     <message numerus="yes">
         <source>%1 shortcuts · menus read %2</source>
@@ -876,11 +876,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     </message>
     <message>
         <source>Learn these next</source>
-        <translation>Diese als Nächstes lernen</translation>
+        <translation>Als Nächstes lernen</translation>
     </message>
     <message>
         <source>%1 clicked · %2 typed</source>
-        <translation>%1-mal geklickt · %2-mal getippt</translation>
+        <translation>%1 geklickt · %2 getippt</translation>
     </message>
     <message>
         <source>No apps yet</source>

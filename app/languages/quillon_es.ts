@@ -860,7 +860,7 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     </message>
     <message>
         <source>now</source>
-        <translation>ahora</translation>
+        <translation>ahora mismo</translation>
     </message>
     <message numerus="yes">
         <source>%1 shortcuts · menus read %2</source>
@@ -868,7 +868,7 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     </message>
     <message numerus="yes">
         <source>%1 menu clicks</source>
-        <translation><numerusform>%1 clic en menús</numerusform><numerusform>%1 clics en menús</numerusform></translation>
+        <translation><numerusform>%1 clic en los menús</numerusform><numerusform>%1 clics en los menús</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%1 shortcuts typed</source>
@@ -876,11 +876,11 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     </message>
     <message>
         <source>Learn these next</source>
-        <translation>Aprender ahora</translation>
+        <translation>Aprenda estos ahora</translation>
     </message>
     <message>
         <source>%1 clicked · %2 typed</source>
-        <translation>%1 con clic · %2 con teclas</translation>
+        <translation>clics: %1 · teclado: %2</translation>
     </message>
     <message>
         <source>No apps yet</source>
@@ -892,7 +892,7 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     </message>
     <message>
         <source>Pick an app</source>
-        <translation>Elegir una aplicación</translation>
+        <translation>Elija una aplicación</translation>
     </message>
 </context>
 <context>

@@ -860,7 +860,7 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     </message>
     <message>
         <source>now</source>
-        <translation>maintenant</translation>
+        <translation>à l’instant</translation>
     </message>
     <message numerus="yes">
         <source>%1 shortcuts · menus read %2</source>
@@ -880,7 +880,7 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     </message>
     <message>
         <source>%1 clicked · %2 typed</source>
-        <translation>cliqué %1 fois · tapé %2 fois</translation>
+        <translation>%1 cliqué · %2 tapé</translation>
     </message>
     <message>
         <source>No apps yet</source>
@@ -888,11 +888,11 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     </message>
     <message>
         <source>Hold %1 in any app; its shortcuts show up here.</source>
-        <translation>Maintenez %1 dans une application ; ses raccourcis apparaîtront ici.</translation>
+        <translation>Maintenez %1 dans une application ; ses raccourcis apparaissent ici.</translation>
     </message>
     <message>
         <source>Pick an app</source>
-        <translation>Choisir une application</translation>
+        <translation>Choisissez une application</translation>
     </message>
 </context>
 <context>

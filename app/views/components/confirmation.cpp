@@ -17,7 +17,7 @@ constexpr int symbolGap = 16;
 constexpr int titleGap = 8;
 constexpr int buttonsGap = 20;
 constexpr int betweenButtons = 6;
-constexpr double textEms = 28;
+constexpr double textEms = 33;
 
 ThemedLabel* paragraph(
     ThemeSource& themes, ThemedLabel::FontChoice font, QColor Palette::*colour, const QString& text,

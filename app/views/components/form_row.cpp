@@ -18,7 +18,7 @@ constexpr int controlGap = 16;
 
 FormRow::FormRow(ThemeSource& themes, QWidget* parent)
     : QWidget(parent), m_themes(themes), m_column(new QVBoxLayout(this)) {
-    m_column->setContentsMargins(sidePadding, endPadding, sidePadding, endPadding);
+    m_column->setContentsMargins(sidePadding - ringRoom, endPadding, sidePadding - ringRoom, endPadding);
     m_column->setSpacing(noteGap);
 }
 
@@ -48,6 +48,7 @@ ThemedLabel* FormRow::makeText(const QString& text, QColor Palette::*colour) {
         m_themes, [](const TextStyles& styles) { return styles.body; }, colour, this);
     label->setText(text);
     label->setWordWrap(true);
+    label->setContentsMargins(ringRoom, 0, ringRoom, 0);
     return label;
 }
 
@@ -56,6 +57,7 @@ ThemedLabel* FormRow::addNote(const QString& text) {
         m_themes, [](const TextStyles& styles) { return styles.callout; }, &Palette::secondary, this);
     note->setText(text);
     note->setWordWrap(true);
+    note->setContentsMargins(ringRoom, 0, ringRoom, 0);
     m_column->addWidget(note);
     return note;
 }

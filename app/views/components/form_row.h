@@ -14,7 +14,8 @@ class FormRow : public QWidget {
     Q_OBJECT
 
   public:
-    /// `control` becomes the row's. The label is its name to screen readers.
+    /// `control` becomes the row's. The label is its name to screen readers. A control without a layout has
+    /// room for its focus ring around it; in one of several parts what ends without a ring keeps `ringRoom`.
     FormRow(ThemeSource& themes, const QString& label, QWidget* control, QWidget* parent = nullptr);
 
     /// A row that is nothing but text.
@@ -27,6 +28,8 @@ class FormRow : public QWidget {
 
     /// At both ends of a row, in logical pixels.
     static constexpr int sidePadding = 14;
+    /// Around what shows the keyboard's focus; that much of it reaches into the padding.
+    static constexpr int ringRoom = 3;
 
   protected:
     void mouseReleaseEvent(QMouseEvent* event) override;

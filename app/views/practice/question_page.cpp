@@ -54,6 +54,7 @@ QuestionPage::QuestionPage(ThemeSource& themeSource, QWidget* parent)
           themeSource, [](const TextStyles& styles) { return styles.headline; }, &Palette::primary, this)),
       m_keys(new KeysView(themeSource, std::nullopt, keySize, CapEmphasis::prominent, this)),
       m_button(new ProminentButton(themeSource, {}, this)) {
+    m_menu->setWordWrap(true);
     m_command->setWordWrap(true);
     // Keeps its room, so that nothing jumps when the answer comes.
     QSizePolicy keysPolicy = m_keys->sizePolicy();
@@ -61,6 +62,7 @@ QuestionPage::QuestionPage(ThemeSource& themeSource, QWidget* parent)
     m_keys->setSizePolicy(keysPolicy);
     auto* verdict = new QHBoxLayout;
     verdict->setSpacing(verdictGap);
+    verdict->addStrut(signSize + 2);
     verdict->addStretch(1);
     verdict->addWidget(m_rightSign);
     verdict->addWidget(m_verdict);

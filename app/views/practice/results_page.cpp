@@ -65,6 +65,7 @@ QWidget* ResultsPage::missedRows(std::span<const MenuEntry> missed) {
         auto* title = new ThemedLabel(
             themes(), [](const TextStyles& styles) { return styles.body; }, &Palette::primary, rows);
         title->setText(foreignLine(entry.title()));
+        title->setWordWrap(true);
         auto* row = new QHBoxLayout;
         row->setSpacing(columnGap);
         row->addWidget(title, 1);

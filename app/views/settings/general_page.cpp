@@ -86,6 +86,7 @@ QWidget* GeneralPage::makeLauncherNotice(QWidget* parent) {
         m_trigger->setFocus();
         m_model.setTrigger(otherTrigger);
     });
+    row->addSpacing(FormRow::ringRoom);
     row->addWidget(new SymbolView(
         themes(), Symbol::exclamationMarkTriangle, themes().theme().symbolSize() + 2, &Palette::badgeText,
         m_launcherNotice));
@@ -104,6 +105,7 @@ FormRow* GeneralPage::makeHoldTime() {
         new FigureLabel(themes(), secondsWidth, SettingsTexts::seconds(holdTenths.last / 10.0), control);
     line->addWidget(m_holdTime);
     line->addWidget(m_seconds);
+    line->addSpacing(FormRow::ringRoom);
     connect(m_holdTime, &StepSlider::chosen, this, [this](double number) {
         m_model.setHoldDelay(Seconds(number));
     });
@@ -143,6 +145,7 @@ FormRow* GeneralPage::makeAccessibility() {
         themes(), Symbol::checkmarkCircleFill, themes().theme().symbolSize() + 2, &Palette::accent,
         m_allowed));
     allowed->addWidget(label);
+    allowed->addSpacing(FormRow::ringRoom);
     either->addWidget(m_allow);
     either->addWidget(m_allowed);
     return new FormRow(themes(), SettingsTexts::accessibility(), control, this);

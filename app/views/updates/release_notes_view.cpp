@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int margin = 10;
@@ -30,6 +32,10 @@ void ReleaseNotesView::wearTheme() {
     colours.setColor(QPalette::Base, theme.palette.card);
     colours.setColor(QPalette::Link, theme.palette.primary);
     setPalette(colours);
+    // The frame of a group of rows.
+    const QString frame =
+        u"QTextBrowser { background: %1; border: 1px solid %2; border-radius: 10px; padding: 3px; }"_s;
+    setStyleSheet(frame.arg(theme.palette.card.name(), theme.palette.cardBorder.name(QColor::HexArgb)));
     document()->setDefaultFont(theme.styles.body);
     document()->setDocumentMargin(margin);
     setHtml(m_notes);

@@ -16,7 +16,7 @@ constexpr int markSize = 56;
 constexpr int lineGap = 6;
 constexpr int partGap = 18;
 constexpr int buttonGap = 8;
-constexpr int textWidth = 380;
+constexpr int textWidth = 430;
 
 } // namespace
 

@@ -19,6 +19,8 @@ WelcomeStep::WelcomeStep(ThemeSource& themeSource, int number, QWidget* parent)
           this)),
       m_column(new QVBoxLayout), m_body(makeText()) {
     m_title->setWordWrap(true);
+    // One line of it is level with the marker.
+    m_title->setMinimumHeight(m_marker->minimumHeight());
     m_column->setSpacing(partGap);
     m_column->addWidget(m_title);
     m_column->addSpacing(titleGap - partGap);

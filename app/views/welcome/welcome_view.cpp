@@ -22,7 +22,6 @@ namespace {
 
 constexpr int footerPadding = 20;
 constexpr int buttonGap = 8;
-constexpr int narrowest = 320;
 constexpr int lowest = 240;
 
 /// As wide as lines are read easily, in any size of the font.
@@ -113,11 +112,17 @@ void WelcomeView::makeRoom() {
 
 QSize WelcomeView::sizeHint() const {
     const int width = readableWidth(theme());
+<<<<<<< HEAD
     return {width, contentHeight(*m_steps, width) + m_footer->sizeHint().height()};
+=======
+    return {
+        std::max(width, minimumSizeHint().width()),
+        heightOf(*m_steps, width) + m_footer->sizeHint().height()};
+>>>>>>> look
 }
 
 QSize WelcomeView::minimumSizeHint() const {
-    return {narrowest, lowest};
+    return {m_steps->minimumSizeHint().width() + thinScrollBarWidth, lowest};
 }
 
 void WelcomeView::themeChanged() {

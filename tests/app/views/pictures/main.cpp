@@ -72,6 +72,7 @@ bool drawWindow(const WindowScene& scene, const Look& look, KeyLabels keys, cons
     desk.settings.setKeyLabels(keys);
     const std::unique_ptr<QWidget> window = scene.show(desk);
     QApplication::processEvents();
+    QApplication::processEvents(); // what a window does about its new parts it does a moment later
     QWidget* const part = scene.part ? scene.part(*window) : window.get();
     return part && onDesktop(*part, look.scheme).save(path);
 }

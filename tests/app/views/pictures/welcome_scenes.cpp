@@ -23,7 +23,7 @@ WindowScene welcome(QString name, Prepare prepare = {}, QSize size = {}) {
                 .silentApps = desk.desktop.silentApps,
                 .launcherKey = desk.desktop.launcherKey,
                 .tray = desk.desktop.tray});
-        view->resize(size.isEmpty() ? view->sizeHint() : size);
+        view->resize(size.isEmpty() ? view->sizeHint() : size.expandedTo(view->minimumSizeHint()));
         view->show();
         if (prepare)
             prepare(desk);
