@@ -112,13 +112,9 @@ void WelcomeView::makeRoom() {
 
 QSize WelcomeView::sizeHint() const {
     const int width = readableWidth(theme());
-<<<<<<< HEAD
-    return {width, contentHeight(*m_steps, width) + m_footer->sizeHint().height()};
-=======
     return {
         std::max(width, minimumSizeHint().width()),
-        heightOf(*m_steps, width) + m_footer->sizeHint().height()};
->>>>>>> look
+        contentHeight(*m_steps, width) + m_footer->sizeHint().height()};
 }
 
 QSize WelcomeView::minimumSizeHint() const {
