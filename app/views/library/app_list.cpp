@@ -27,7 +27,7 @@ AppList::AppList(ThemeSource& themes, AppIconCache& icons, QWidget* parent)
     wearTheme();
 }
 
-void AppList::setApps(std::vector<ListedApp> apps, const std::string& chosen) {
+void AppList::setApps(std::vector<LibraryApp> apps, const std::string& chosen) {
     m_isTheirChoice = false;
     m_apps->setApps(std::move(apps));
     // A list that was made anew has forgotten what was chosen in it.

@@ -22,7 +22,7 @@ class AppList : public QListView {
     AppList(ThemeSource& themes, AppIconCache& icons, QWidget* parent = nullptr);
 
     /// Shows these; the one with the identifier `chosen` is chosen from now on, none where it is not there.
-    void setApps(std::vector<ListedApp> apps, const std::string& chosen);
+    void setApps(std::vector<LibraryApp> apps, const std::string& chosen);
 
   Q_SIGNALS:
     /// The user chose this application; "" for none.

@@ -12,8 +12,8 @@
 
 namespace quillon {
 
-std::vector<ListedApp> listedApps(const SharedSheets& sheets) {
-    std::vector<ListedApp> apps;
+std::vector<LibraryApp> libraryApps(const SharedSheets& sheets) {
+    std::vector<LibraryApp> apps;
     for (const auto& [bundleID, sheet] : sheets)
         apps.push_back(
             {.bundleID = bundleID,
@@ -24,13 +24,13 @@ std::vector<ListedApp> listedApps(const SharedSheets& sheets) {
         order.setLocale(QLocale(QLocale::English)); // the plain locale would compare codes
     order.setNumericMode(true);
     order.setCaseSensitivity(Qt::CaseInsensitive);
-    std::ranges::stable_sort(apps, [&](const ListedApp& one, const ListedApp& other) {
+    std::ranges::stable_sort(apps, [&](const LibraryApp& one, const LibraryApp& other) {
         return order.compare(one.name, other.name) < 0;
     });
     return apps;
 }
 
-void AppListModel::setApps(std::vector<ListedApp> apps) {
+void AppListModel::setApps(std::vector<LibraryApp> apps) {
     if (apps == m_apps)
         return;
     beginResetModel();
@@ -39,7 +39,7 @@ void AppListModel::setApps(std::vector<ListedApp> apps) {
 }
 
 QModelIndex AppListModel::indexOf(const std::string& bundleID) const {
-    const auto app = std::ranges::find(m_apps, bundleID, &ListedApp::bundleID);
+    const auto app = std::ranges::find(m_apps, bundleID, &LibraryApp::bundleID);
     return app == m_apps.end() ? QModelIndex() : index(static_cast<int>(app - m_apps.begin()));
 }
 
@@ -52,7 +52,7 @@ int AppListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant AppListModel::data(const QModelIndex& index, int role) const {
-    const ListedApp& app = m_apps[static_cast<std::size_t>(index.row())];
+    const LibraryApp& app = m_apps[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole: return app.name;
     case captionRole: return app.caption;

@@ -11,16 +11,16 @@
 namespace quillon {
 
 /// One application of the Library's list.
-struct ListedApp {
+struct LibraryApp {
     std::string bundleID;
     QString name;
     QString caption; ///< "59 shortcuts"
 
-    bool operator==(const ListedApp&) const = default;
+    bool operator==(const LibraryApp&) const = default;
 };
 
 /// The applications of which there are sheets, by their names as people sort them.
-std::vector<ListedApp> listedApps(const SharedSheets& sheets);
+std::vector<LibraryApp> libraryApps(const SharedSheets& sheets);
 
 /// These for a list view.
 class AppListModel : public QAbstractListModel {
@@ -31,7 +31,7 @@ class AppListModel : public QAbstractListModel {
 
     using QAbstractListModel::QAbstractListModel;
 
-    void setApps(std::vector<ListedApp> apps);
+    void setApps(std::vector<LibraryApp> apps);
     /// Where the application stands; invalid for one that is not in the list.
     QModelIndex indexOf(const std::string& bundleID) const;
     std::string bundleID(const QModelIndex& index) const;
@@ -40,7 +40,7 @@ class AppListModel : public QAbstractListModel {
     QVariant data(const QModelIndex& index, int role) const override;
 
   private:
-    std::vector<ListedApp> m_apps;
+    std::vector<LibraryApp> m_apps;
 };
 
 } // namespace quillon

@@ -7,6 +7,7 @@
 
 #include <quillon/app/core/trigger_key.h>
 #include <quillon/app/languages/translated_keys.h>
+#include <quillon/app/views/components/accessible_roles.h>
 #include <quillon/app/views/components/text.h>
 
 #include <QHBoxLayout>
@@ -43,6 +44,8 @@ LibraryView::LibraryView(
     halves->setStretchFactor(1, 1);
     halves->setSizes({firstSidebar, firstPane});
     halves->setChildrenCollapsible(false);
+    for (int side = 0; side < halves->count(); ++side)
+        readAs(*halves->handle(side), ReadAs::decoration); // for the pointer alone
     auto* const all = new QHBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(halves);
@@ -87,7 +90,7 @@ void LibraryView::modelChanged(ModelField field) {
 void LibraryView::refresh() {
     m_noApps->setText(
         LibraryTexts::noAppsText(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels())));
-    m_list->setApps(listedApps(m_model.sheets()), m_selection);
+    m_list->setApps(libraryApps(m_model.sheets()), m_selection);
     m_sidebar->setCurrentWidget(m_model.sheets().empty() ? static_cast<QWidget*>(m_noApps) : m_list);
     showSelection();
 }

@@ -21,12 +21,12 @@ SharedSheet sheet(const std::string& bundleID, const std::string& appName, int e
 
 std::vector<std::string> names(const SharedSheets& sheets) {
     std::vector<std::string> names;
-    for (const ListedApp& app : listedApps(sheets))
+    for (const LibraryApp& app : libraryApps(sheets))
         names.push_back(app.name.toStdString());
     return names;
 }
 
-TEST(ListedAppsTest, AreSortedByName) {
+TEST(LibraryAppsTest, AreSortedByName) {
     SharedSheets sheets;
     sheets.emplace("a", sheet("a", "gimp"));
     sheets.emplace("b", sheet("b", "Geany"));
@@ -35,7 +35,7 @@ TEST(ListedAppsTest, AreSortedByName) {
     EXPECT_THAT(names(sheets), ElementsAre("App 9", "App 10", "Geany", "gimp"));
 }
 
-TEST(ListedAppsTest, OneWithoutANameIsCalledByItsIdentifier) {
+TEST(LibraryAppsTest, OneWithoutANameIsCalledByItsIdentifier) {
     SharedSheets sheets;
     sheets.emplace("org.example.App", sheet("org.example.App", ""));
     EXPECT_THAT(names(sheets), ElementsAre("org.example.App"));
@@ -46,7 +46,7 @@ TEST(AppListModelTest, TellsNameAndNumber) {
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     SharedSheets sheets;
     sheets.emplace("a", sheet("a", "Geany", 59));
-    model.setApps(listedApps(sheets));
+    model.setApps(libraryApps(sheets));
     const QModelIndex only = model.indexOf("a");
     EXPECT_EQ(only.data().toString(), u"Geany"_s);
     EXPECT_EQ(only.data(AppListModel::captionRole).toString(), u"59 shortcuts"_s);

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSplitter>
 #include <QTest>
 
 #include <string>
@@ -209,6 +210,13 @@ TEST_F(LibraryViewTest, RowsAreReadAloudWithTheirKeys) {
     const QAccessibleInterface* const sidebar = QAccessible::queryAccessibleInterface(&apps());
     EXPECT_EQ(sidebar->text(QAccessible::Name), u"Apps"_s);
     EXPECT_EQ(sidebar->child(0)->text(QAccessible::Name), u"Geany, 1 shortcuts"_s);
+}
+
+TEST_F(LibraryViewTest, WhatPartsItIsNotReadAloud) {
+    const auto handles = view.findChildren<QSplitterHandle*>();
+    ASSERT_FALSE(handles.isEmpty());
+    for (QSplitterHandle* const handle : handles)
+        EXPECT_TRUE(QAccessible::queryAccessibleInterface(handle)->state().invisible);
 }
 
 TEST_F(LibraryViewTest, TheAgeOfTheSheetIsThatOfTheMomentItIsLookedAt) {
