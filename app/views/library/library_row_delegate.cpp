@@ -1,6 +1,7 @@
 #include "library_row_delegate.h"
 
 #include "library_rows_model.h"
+#include "line_room.h"
 
 #include <quillon/app/views/components/symbols.h>
 
@@ -62,7 +63,7 @@ void paintLine(QPainter& painter, const Line& line, const QRect& place, Qt::Alig
 }
 
 bool isTooLong(const QString& words, const QFont& font, const QRect& place) {
-    return QFontMetrics(font).horizontalAdvance(words) > place.width();
+    return lineRoom(font, words) > place.width();
 }
 
 } // namespace
@@ -135,7 +136,7 @@ LibraryRowDelegate::Places LibraryRowDelegate::placesOf(const LibraryRow& row, c
     int end = line.right() + 1 - std::max(keys, m_keysWidth) - gap;
     if (!row.counts.isEmpty()) {
         const QFont font = row.leansOnClicks ? bold(m_countsFont) : m_countsFont;
-        const int width = std::max(countsWidth, QFontMetrics(font).horizontalAdvance(row.counts));
+        const int width = std::max(countsWidth, lineRoom(font, row.counts));
         places.counts = QRect(end - width, line.top(), width, line.height());
         end = places.counts.left() - gap;
     }
@@ -182,7 +183,7 @@ void LibraryRowDelegate::paintTotals(
         symbolPixmap(Symbol::keyboard, size, colour, painter.device()->devicePixelRatioF()));
     box.setLeft(symbol.right() + 1 + gap / 2);
     paintLine(painter, {font, colour, row.text}, mirrored(option, box), Qt::AlignVCenter);
-    box.setLeft(box.left() + QFontMetrics(font).horizontalAdvance(row.text) + gap);
+    box.setLeft(box.left() + lineRoom(font, row.text) + gap);
     paintLine(painter, {font, colour, row.counts}, mirrored(option, box), Qt::AlignVCenter);
 }
 
