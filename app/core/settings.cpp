@@ -54,10 +54,12 @@ struct StoredChoice {
 };
 
 constexpr std::array keyLabelWords{
-    StoredChoice{KeyLabels::symbols, "symbols"}, StoredChoice{KeyLabels::names, "names"}};
+    StoredChoice<KeyLabels>{KeyLabels::symbols, "symbols"},
+    StoredChoice<KeyLabels>{KeyLabels::names, "names"}};
 constexpr std::array settingsTabWords{
-    StoredChoice{SettingsTab::general, "general"}, StoredChoice{SettingsTab::coach, "coach"},
-    StoredChoice{SettingsTab::privacy, "privacy"}};
+    StoredChoice<SettingsTab>{SettingsTab::general, "general"},
+    StoredChoice<SettingsTab>{SettingsTab::coach, "coach"},
+    StoredChoice<SettingsTab>{SettingsTab::privacy, "privacy"}};
 
 template <class Choice, std::size_t count>
 Choice choiceOf(const QString& word, const std::array<StoredChoice<Choice>, count>& words, Choice fallback) {
