@@ -57,7 +57,6 @@ LibraryView::LibraryView(
     m_modelChange = model.changed.subscribe([this](ModelField field) { modelChanged(field); });
     wearTheme();
     refresh();
-    setFocusProxy(m_list);
 }
 
 QWidget* LibraryView::makeSidebar() {
@@ -91,7 +90,9 @@ void LibraryView::refresh() {
     m_noApps->setText(
         LibraryTexts::noAppsText(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels())));
     m_list->setApps(libraryApps(m_model.sheets()), m_selection);
-    m_sidebar->setCurrentWidget(m_model.sheets().empty() ? static_cast<QWidget*>(m_noApps) : m_list);
+    const bool isEmpty = m_model.sheets().empty();
+    m_sidebar->setCurrentWidget(isEmpty ? static_cast<QWidget*>(m_noApps) : m_list);
+    setFocusProxy(isEmpty ? static_cast<QWidget*>(m_search) : m_list);
     showSelection();
 }
 

@@ -72,6 +72,15 @@ TEST_F(LibraryViewTest, WithoutAppsItSaysWhatToDo) {
     EXPECT_THAT(visibleTexts(), Contains("Hold Ctrl in any app; its shortcuts show up here."));
 }
 
+TEST_F(LibraryViewTest, TheKeyboardIsWhereThereIsSomethingToDo) {
+    ASSERT_TRUE(makeActive(view));
+    view.setFocus();
+    EXPECT_TRUE(field().hasFocus()) << "no app is there to be chosen";
+    readApp(desk, sheetOf("Geany", {"Save"}));
+    view.setFocus();
+    EXPECT_TRUE(apps().hasFocus());
+}
+
 TEST_F(LibraryViewTest, ListsWhatWasRead) {
     readApp(desk, sheetOf("Geany", {"Save"}));
     EXPECT_THAT(rows(apps()), ElementsAre("Geany"));
