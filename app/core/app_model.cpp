@@ -245,6 +245,20 @@ void AppModel::togglePin(const std::string& bundleID, const std::string& entryID
     m_records.togglePin(bundleID, entryID);
 }
 
+void AppModel::setNote(const std::string& bundleID, const std::string& entryID, std::string note) {
+    m_records.setNote(bundleID, entryID, std::move(note));
+}
+
+void AppModel::setMuted(const std::string& bundleID, const std::string& entryID, bool muted) {
+    m_records.setMuted(bundleID, entryID, muted);
+}
+
+void AppModel::openPractice(const std::string& bundleID) {
+    m_practiceApp = bundleID;
+    changed.emit(ModelField::practiceApp);
+    requestWindow(WindowName::practice);
+}
+
 void AppModel::load() {
     LearnedData learned = m_folder->load();
     m_records.replace(std::move(learned.usage), std::move(learned.annotations));

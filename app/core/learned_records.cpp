@@ -29,6 +29,26 @@ void LearnedRecords::togglePin(const std::string& bundleID, const std::string& e
     changed.emit({bundleID, entryID});
 }
 
+void LearnedRecords::setNote(const std::string& bundleID, const std::string& entryID, std::string note) {
+    Annotation annotation = m_annotations.get(bundleID, entryID);
+    annotation.note = std::move(note);
+    annotate(bundleID, entryID, annotation);
+}
+
+void LearnedRecords::setMuted(const std::string& bundleID, const std::string& entryID, bool muted) {
+    Annotation annotation = m_annotations.get(bundleID, entryID);
+    annotation.muted = muted;
+    annotate(bundleID, entryID, annotation);
+}
+
+void LearnedRecords::annotate(
+    const std::string& bundleID, const std::string& entryID, const Annotation& annotation) {
+    if (annotation == m_annotations.get(bundleID, entryID))
+        return;
+    m_annotations.set(bundleID, entryID, annotation);
+    changed.emit({bundleID, entryID});
+}
+
 void LearnedRecords::replace(UsageBook usage, AnnotationBook annotations) {
     if (usage == m_usage && annotations == m_annotations)
         return;

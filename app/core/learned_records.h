@@ -37,6 +37,9 @@ class LearnedRecords {
     /// A practice question about the command was answered.
     void practiced(const std::string& bundleID, const std::string& entryID, bool correct);
     void togglePin(const std::string& bundleID, const std::string& entryID);
+    /// What is said of the command apart from this stays as it was; an empty note is none.
+    void setNote(const std::string& bundleID, const std::string& entryID, std::string note);
+    void setMuted(const std::string& bundleID, const std::string& entryID, bool muted);
 
     /// Takes over all records at once: those of an earlier run, or none.
     void replace(UsageBook usage, AnnotationBook annotations);
@@ -44,6 +47,8 @@ class LearnedRecords {
     void replace(const std::string& bundleID, UsageRecords usage, Annotations annotations);
 
   private:
+    void annotate(const std::string& bundleID, const std::string& entryID, const Annotation& annotation);
+
     UsageBook m_usage;
     AnnotationBook m_annotations;
 };

@@ -23,6 +23,29 @@ TEST_F(LearnedRecordsTest, APinTellsWhose) {
     EXPECT_FALSE(told[0].concerns("org.example.sketch"));
 }
 
+TEST_F(LearnedRecordsTest, ANoteAndAMuteLeaveTheRest) {
+    records.togglePin("a", "x");
+    records.setNote("a", "x", "thumb first");
+    records.setMuted("a", "x", true);
+    EXPECT_EQ(
+        records.annotations().get("a", "x"),
+        (Annotation{.pinned = true, .note = "thumb first", .muted = true}));
+    EXPECT_EQ(told, (std::vector<RecordChange>{{"a", "x"}, {"a", "x"}, {"a", "x"}}));
+    records.setNote("a", "x", "");
+    records.setMuted("a", "x", false);
+    EXPECT_EQ(records.annotations().get("a", "x"), Annotation{.pinned = true});
+}
+
+TEST_F(LearnedRecordsTest, WhatIsSaidAlreadyIsNoChange) {
+    records.setNote("a", "x", "");
+    records.setMuted("a", "x", false);
+    records.setNote("a", "x", "thumb first");
+    records.setNote("a", "x", "thumb first");
+    EXPECT_EQ(told.size(), 1U);
+    records.setNote("a", "x", "");
+    EXPECT_TRUE(records.annotations().apps.empty()) << "a command of which nothing is said";
+}
+
 TEST_F(LearnedRecordsTest, EveryUseTellsWhoseOnce) {
     const Instant time = distantPast;
     records.click("a", "x", time);
