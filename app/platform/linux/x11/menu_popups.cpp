@@ -63,7 +63,8 @@ MenuPopups::MenuPopups(
 
 void MenuPopups::stop() {
     m_observer = nullptr;
-    for (Subscription* subscription : {&m_presses, &m_activations, &m_events, &m_drained, &m_caughtUp, &m_lost})
+    for (Subscription* subscription :
+         {&m_presses, &m_activations, &m_events, &m_drained, &m_caughtUp, &m_lost})
         subscription->reset();
     m_notes.clear();
     m_popups.clear();

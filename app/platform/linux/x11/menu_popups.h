@@ -97,7 +97,7 @@ class MenuPopups {
     MenuPopupsObserver* m_observer; ///< nullptr once stopped
     std::vector<Note> m_notes;
     std::vector<Popup> m_popups;
-    std::vector<xcb_window_t> m_others; ///< came to the screen and are not the front application's so far
+    std::vector<xcb_window_t> m_others;     ///< came to the screen and are not the front application's so far
     std::vector<xcb_window_t> m_unanswered; ///< came to the screen; the server did not tell more in time
     bool m_hasToLook = false;               ///< nor what was on the screen before
     std::uint64_t m_openings = 0;
