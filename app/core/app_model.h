@@ -130,6 +130,8 @@ class AppModel {
     bool answered() const { return m_sheets.answered(); }
     const UsageBook& usage() const { return m_records.usage(); }
     const AnnotationBook& annotations() const { return m_records.annotations(); }
+    /// The clicks and typed uses by weeks of the user's calendar.
+    const WeekBook& weeks() const { return m_records.weeks(); }
     /// What is typed in the overlay's search field.
     const std::string& query() const { return m_query; }
     void setQuery(std::string query);
@@ -192,7 +194,7 @@ class AppModel {
 
     /// Takes over a sheet and what is known of its commands instead of reading any: for showing the program
     /// with sample data.
-    void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations);
+    void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations, WeekSums weeks = {});
 
   private:
     bool isStarted() const { return static_cast<bool>(m_trustTimer); }
