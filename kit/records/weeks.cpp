@@ -1,7 +1,5 @@
 #include "weeks.h"
 
-#include <quillon/kit/base/program_error.h>
-
 #include <algorithm>
 #include <cstdio>
 
@@ -16,11 +14,6 @@ constexpr Day lastMonday = Day(std::chrono::local_days{std::chrono::year{9999} /
 static_assert(std::chrono::weekday(firstMonday) == std::chrono::Monday);
 static_assert(std::chrono::weekday(lastMonday) == std::chrono::Monday);
 
-Day mondayOf(Day day) {
-    const Day within = std::clamp(day, firstMonday, lastMonday);
-    return within - (std::chrono::weekday(within) - std::chrono::Monday);
-}
-
 std::string nameOf(Day monday) {
     const std::chrono::year_month_day date(monday);
     char text[sizeof "2026-11-16"];
@@ -32,17 +25,13 @@ std::string nameOf(Day monday) {
 
 } // namespace
 
-std::string weekName(Day day) {
-    return nameOf(mondayOf(day));
+Day mondayOf(Day day) {
+    const Day within = std::clamp(day, firstMonday, lastMonday);
+    return within - (std::chrono::weekday(within) - std::chrono::Monday);
 }
 
-std::vector<std::string> weeksUntil(Day day, int count) {
-    if (count < 0)
-        programError("a negative number of weeks");
-    std::vector<std::string> names;
-    for (int back = count - 1; back >= 0; --back)
-        names.push_back(nameOf(std::max(mondayOf(day) - back * std::chrono::weeks(1), firstMonday)));
-    return names;
+std::string weekName(Day day) {
+    return nameOf(mondayOf(day));
 }
 
 void WeekBook::click(std::string_view app, Day day) {

@@ -8,20 +8,18 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace quillon {
 
 /// A day of the user's own calendar.
 using Day = std::chrono::local_days;
 
-/// What a week is called in files: the date of its Monday, "2026-11-16". Later weeks have larger names. Years
-/// have four digits; a day outside of 0000 to 9999 counts for the nearest week inside.
-std::string weekName(Day day);
+/// The Monday of the day's week. Years have four digits; a day outside of 0000 to 9999 counts for the nearest
+/// week inside.
+Day mondayOf(Day day);
 
-/// The names of so many weeks, the earliest first, that of `day` the last. A negative `count` is a program
-/// error.
-std::vector<std::string> weeksUntil(Day day, int count);
+/// What a week is called in files: the date of its Monday, "2026-11-16". Later weeks have larger names.
+std::string weekName(Day day);
 
 /// How the commands of one application that have a shortcut were reached in one week.
 struct WeekSum {

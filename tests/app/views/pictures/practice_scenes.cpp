@@ -2,6 +2,7 @@
 
 #include <quillon/app/views/practice/practice_view.h>
 #include <quillon/kit/menu/sample_menus.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -77,7 +78,7 @@ WindowScene practice(QString name, std::vector<std::string> apps, std::vector<Pr
             });
         view->resize(QSize(480, 420).expandedTo(view->sizeHint()));
         view->show();
-        QApplication::setActiveWindow(view.get());
+        makeActive(*view);
         QApplication::processEvents();
         for (const Press& press : presses)
             send(press);

@@ -1,6 +1,7 @@
 #include "window_scenes.h"
 
 #include <quillon/app/views/settings/settings_view.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -24,7 +25,7 @@ std::unique_ptr<QWidget> shown(ViewDesk& desk, SettingsTab tab, const Use& use) 
             desk.desktop.sessionStart, desk.desktop.launcherKey, u"~/.local/share/app.quillon.Quillon"_s});
     view->resize(view->sizeHint());
     view->show();
-    QApplication::setActiveWindow(view.get());
+    makeActive(*view);
     if (use)
         use(*view);
     return view;

@@ -5,6 +5,7 @@
 #include <quillon/app/views/settings/settings_view.h>
 #include <quillon/tests/app/views/support/printing.h>
 #include <quillon/tests/app/views/support/view_desk.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,7 +31,7 @@ class SettingsViewTest : public testing::Test {
                 QStringLiteral("~/.local/share/app.quillon.Quillon")});
         view->resize(view->sizeHint());
         view->show();
-        QApplication::setActiveWindow(view.get());
+        EXPECT_TRUE(makeActive(*view));
     }
 
     void openTab(SettingsTab tab) { desk.model.setSettingsTab(tab); }

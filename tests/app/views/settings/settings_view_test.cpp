@@ -183,7 +183,7 @@ TEST_F(PrivacyPageTest, ReturnEscapeAndCancelChangeNothing) {
     const auto cancelled = [this](const std::function<void(Confirmation&)>& cancel) {
         pressErase();
         Confirmation& confirmation = *page().confirmation();
-        QApplication::setActiveWindow(&confirmation);
+        EXPECT_TRUE(makeActive(confirmation));
         cancel(confirmation);
         EXPECT_FALSE(page().confirmation() && page().confirmation()->isVisible());
         EXPECT_TRUE(desk.model.current());
@@ -198,7 +198,7 @@ TEST_F(PrivacyPageTest, ReturnEscapeAndCancelChangeNothing) {
 TEST_F(PrivacyPageTest, EraseIsReachedByTheKeyboard) {
     pressErase();
     Confirmation& confirmation = *page().confirmation();
-    QApplication::setActiveWindow(&confirmation);
+    EXPECT_TRUE(makeActive(confirmation));
     EXPECT_TRUE(confirmation.cancelButton().hasFocus());
     QTest::keyClick(confirmation.focusWidget(), Qt::Key_Tab);
     EXPECT_TRUE(confirmation.destroyButton().hasFocus());

@@ -1,0 +1,107 @@
+#include "learned_texts.h"
+
+#include <quillon/app/core/local_day.h>
+#include <quillon/kit/coach/nudge_policy.h>
+#include <quillon/kit/coach/time_saved.h>
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace quillon::LearnedTexts {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// More titles than a line or two take are only counted.
+constexpr std::size_t mostTitles = 8;
+constexpr double minute = 60;
+constexpr double hour = 60 * minute;
+
+/// The number that chooses a plural form.
+int form(qint64 count) {
+    return static_cast<int>(std::clamp<qint64>(count, 0, std::numeric_limits<int>::max()));
+}
+
+/// In one unit, whole: an estimate has no more to say.
+QString length(Seconds time) {
+    if (time.count() < minute) {
+        const auto seconds = std::llround(time.count());
+        return QCoreApplication::translate("Learned", "%1 seconds", nullptr, form(seconds))
+            .arg(QLocale().toString(seconds));
+    }
+    if (time.count() < 2 * hour) {
+        const auto minutes = std::llround(time.count() / minute);
+        return QCoreApplication::translate("Learned", "%1 minutes", nullptr, form(minutes))
+            .arg(QLocale().toString(minutes));
+    }
+    const auto hours = std::llround(time.count() / hour);
+    return QCoreApplication::translate("Learned", "%1 hours", nullptr, form(hours))
+        .arg(QLocale().toString(hours));
+}
+
+} // namespace
+
+QString heading() {
+    return QCoreApplication::translate("Learned", "What you learned");
+}
+
+QString typed() {
+    return QCoreApplication::translate("Learned", "Typed");
+}
+
+QString clicked() {
+    return QCoreApplication::translate("Learned", "Clicked");
+}
+
+QString weekLabel(Day monday) {
+    //: A day under a chart, short; d is the day and MMM the month's short name.
+    return QLocale().toString(dateOf(monday), QCoreApplication::translate("Learned", "d MMM"));
+}
+
+QString weeksInWords(const LearnedSummary& summary) {
+    QStringList weeks;
+    for (const WeekBar& week : summary.weeks)
+        if (week.clicked > 0 || week.typed > 0)
+            weeks.append(
+                QCoreApplication::translate("Learned", "Week of %1: %2 clicked, %3 typed.")
+                    .arg(weekLabel(week.monday), QString::number(week.clicked), QString::number(week.typed)));
+    return weeks.join(u' ');
+}
+
+QString graduated(const LearnedSummary& summary) {
+    const auto count = static_cast<qint64>(summary.graduated.size());
+    if (count == 0)
+        return QCoreApplication::translate(
+                   "Learned",
+                   "No shortcut has graduated yet. One does once you’ve typed it %1 times more than "
+                   "you’ve clicked it.")
+            .arg(defaultNudgePolicy.graduateAfter);
+    QStringList titles;
+    for (std::size_t i = 0; i < std::min(summary.graduated.size(), mostTitles); ++i)
+        titles.append(summary.graduated[i]);
+    if (summary.graduated.size() > mostTitles)
+        titles.append(u"…"_s);
+    return QCoreApplication::translate("Learned", "%1 shortcuts graduated: %2", nullptr, form(count))
+        .arg(QString::number(count), titles.join(u", "_s));
+}
+
+QString timeSaved(Count typed) {
+    if (typed <= 0)
+        return {};
+    return QCoreApplication::translate(
+               "Learned",
+               "About %2 saved. Reckoned as %1 shortcuts typed at %3 s each: what two pointings and "
+               "two clicks in a menu take longer than two keys.",
+               nullptr, form(typed))
+        .arg(
+            QString::number(typed), length(quillon::timeSaved(typed)),
+            QLocale().toString(savedByTyping.count(), 'f', 1));
+}
+
+} // namespace quillon::LearnedTexts
