@@ -97,6 +97,7 @@ QWidget* WelcomeSteps::makePermission() {
     QHBoxLayout* const buttons = row(m_buttons, buttonGap);
     m_ask = new ProminentButton(themes(), WelcomeTexts::allowAccessibility(), m_buttons);
     m_openSettings = new PlainButton(themes(), WelcomeTexts::openSystemSettings(), m_buttons);
+    m_openSettings->setVisible(m_model.offersAccessibilitySettings());
     buttons->addWidget(m_ask);
     buttons->addWidget(m_openSettings);
     buttons->addStretch(1);
@@ -190,7 +191,7 @@ void WelcomeSteps::triggerChanged() {
     setShown(*m_launcher, opensLauncher);
 }
 
-/// A desktop without settings for this shows none: the button goes rather than do nothing again.
+/// Settings that do not start do not do so a second time either: the button goes.
 void WelcomeSteps::openSettings() {
     if (m_model.openAccessibilitySettings())
         return;
