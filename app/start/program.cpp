@@ -55,7 +55,7 @@ Program::Program(Platform& platform)
           .settingsFile = QString::fromStdString(platform.settingsFile().string()),
       }),
       m_tray(
-          m_model, m_desktop->tray(),
+          m_model, m_desktop->tray(), m_themes,
           {.showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
            .openWindow = [this](WindowName name) { m_model.requestWindow(name); },
            .checkForUpdates = [this] { m_updates.checkForUpdates(); },
@@ -130,7 +130,7 @@ void Program::activate() {
 /// Whoever has not completed the welcome, or cannot be served, is shown what is missing.
 void Program::comeUp() {
     if (m_model.onboarded() && m_model.trusted())
-        m_desktop->tray().popUpMenu();
+        m_tray.popUp();
     else
         m_model.requestWindow(WindowName::welcome);
 }

@@ -1,5 +1,9 @@
 #include "pop_up_menu.h"
 
+#include "tray_texts.h"
+
+#include <quillon/app/views/components/styled_menu.h>
+
 #include <QAction>
 #include <QKeySequence>
 
@@ -39,7 +43,12 @@ std::vector<int> idsOf(const std::vector<TrayMenuItem>& items) {
 
 } // namespace
 
-PopUpMenu::PopUpMenu(std::function<void(int)> chosen) : m_chosen(std::move(chosen)) {}
+PopUpMenu::PopUpMenu(ThemeSource& themes, std::function<void(int)> chosen) : m_chosen(std::move(chosen)) {
+    m_menu.setAccessibleName(TrayTexts::programName());
+    const auto wear = [this, &themes] { styleMenu(m_menu, themes.theme()); };
+    wear();
+    m_themeChange = themes.changed.subscribe(wear);
+}
 
 QAction& PopUpMenu::actionOf(const TrayMenuItem& item) {
     QAction*& action = m_actions[item.id];
