@@ -98,8 +98,8 @@ struct UsageError {
 };
 
 using Command = std::variant<
-    RunCommand, ServeCommand, AppsCommand, SheetCommand, ShowCommand, WindowCommand, StatsCommand, DoctorCommand,
-    QuitCommand, PrintCommand, UsageError>;
+    RunCommand, ServeCommand, AppsCommand, SheetCommand, ShowCommand, WindowCommand, StatsCommand,
+    DoctorCommand, QuitCommand, PrintCommand, UsageError>;
 
 /// Takes a leading --verbose away from the arguments after the program's name; whether there was one.
 bool takeVerbose(QStringList& arguments);

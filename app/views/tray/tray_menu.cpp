@@ -41,8 +41,7 @@ void TrayMenu::show() {
 
 void TrayMenu::popUp() {
     if (!m_menu) {
-        m_menu =
-            std::make_unique<PopUpMenu>(m_themes, [this](int id) { choose(static_cast<TrayLine>(id)); });
+        m_menu = std::make_unique<PopUpMenu>(m_themes, [this](int id) { choose(static_cast<TrayLine>(id)); });
         m_menu->setItems(m_lines);
     }
     m_menu->popUp(QCursor::pos());

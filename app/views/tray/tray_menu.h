@@ -42,7 +42,7 @@ class TrayMenu {
     ThemeSource& m_themes;
     TrayActions m_actions;
     std::vector<TrayMenuItem> m_lines; ///< as the tray has them
-    std::unique_ptr<PopUpMenu> m_menu;  ///< made when it opens first
+    std::unique_ptr<PopUpMenu> m_menu; ///< made when it opens first
     Subscription m_modelChange;
 };
 

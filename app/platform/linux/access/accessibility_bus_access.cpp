@@ -13,10 +13,9 @@ namespace quillon {
 namespace {
 
 std::optional<ProgramCall> installedSettings() {
-    return accessibilitySettings(
-        processEnvironment("XDG_CURRENT_DESKTOP"), [](const std::string& program) {
-            return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
-        });
+    return accessibilitySettings(processEnvironment("XDG_CURRENT_DESKTOP"), [](const std::string& program) {
+        return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
+    });
 }
 
 } // namespace

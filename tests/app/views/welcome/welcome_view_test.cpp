@@ -111,8 +111,7 @@ TEST_F(WelcomeViewTest, ButtonsStandAtTheEdgesOfTheirColumns) {
     const QAbstractButton& done = button(u"Done"_s);
     constexpr int footerPadding = 20;
     EXPECT_EQ(leftOf(done) + done.width() - focusRingRoom, view.width() - footerPadding);
-    EXPECT_EQ(
-        done.mapTo(&view, QPoint(0, done.height())).y() - focusRingRoom, view.height() - footerPadding);
+    EXPECT_EQ(done.mapTo(&view, QPoint(0, done.height())).y() - focusRingRoom, view.height() - footerPadding);
 }
 
 TEST_F(WelcomeViewTest, NoticesByItselfThatThePermissionWasGivenAndTaken) {
