@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <vector>
 
 namespace quillon {
@@ -23,7 +24,7 @@ class PopUpMenu {
     /// Opens it at a point of the screen; one that is open moves there.
     void popUp(QPoint place);
 
-    QMenu& menu() { return m_menu; }
+    QMenu& menu() { return *m_menu; }
 
   private:
     QAction& actionOf(const TrayMenuItem& item);
@@ -32,7 +33,7 @@ class PopUpMenu {
     std::function<void(int)> m_chosen;
     std::map<int, QAction*> m_actions; ///< by their items' ids; of `m_menu`
     std::vector<int> m_order;
-    QMenu m_menu;
+    std::unique_ptr<QMenu> m_menu;
     Subscription m_themeChange;
 };
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QTest>
 
 namespace quillon {
 namespace {
@@ -41,6 +42,17 @@ TEST_F(PopUpMenuTest, ReadsAsItsValuesSay) {
     EXPECT_THAT(texts(), ElementsAre("Fish && Chips ", "disabled told", "-", "Quit Ctrl+Q"));
     menu.menu().actions().constLast()->trigger();
     EXPECT_THAT(chosen, ElementsAre(4));
+}
+
+TEST_F(PopUpMenuTest, TheKeysThatItShowsChoose) {
+    menu.setItems({first, told, line, quit});
+    menu.popUp({20, 20});
+    QTest::keyClick(&menu.menu(), Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_THAT(chosen, ElementsAre());
+    EXPECT_TRUE(menu.menu().isVisible());
+    QTest::keyClick(&menu.menu(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_THAT(chosen, ElementsAre(4));
+    EXPECT_FALSE(menu.menu().isVisible());
 }
 
 TEST_F(PopUpMenuTest, ChangesWhileItIsOpen) {
