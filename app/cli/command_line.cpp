@@ -267,6 +267,8 @@ Command parseCommandLine(const QStringList& arguments) {
         return PrintCommand{QCoreApplication::translate("CommandLine", helpText).toStdString()};
     if (arguments.constFirst() == "--version"_L1)
         return PrintCommand{"quillon " QUILLON_VERSION "\n"};
+    if (arguments.constFirst() == "--service"_L1)
+        return parsePlain<ServeCommand>(arguments.sliced(1));
     for (const Subcommand& subcommand : subcommands)
         if (arguments.constFirst() == QLatin1StringView(subcommand.name))
             return subcommand.parse(arguments.sliced(1));

@@ -28,6 +28,10 @@ enum class SheetFormat { text, json, markdown };
 struct RunCommand {
     bool operator==(const RunCommand&) const = default;
 };
+/// `quillon --service`, as the session bus starts it: be the program, and wait to be told what for.
+struct ServeCommand {
+    bool operator==(const ServeCommand&) const = default;
+};
 /// `quillon apps`
 struct AppsCommand {
     bool operator==(const AppsCommand&) const = default;
@@ -94,8 +98,8 @@ struct UsageError {
 };
 
 using Command = std::variant<
-    RunCommand, AppsCommand, SheetCommand, ShowCommand, WindowCommand, StatsCommand, DoctorCommand,
-    QuitCommand, PrintCommand, UsageError>;
+    RunCommand, ServeCommand, AppsCommand, SheetCommand, ShowCommand, WindowCommand, StatsCommand,
+    DoctorCommand, QuitCommand, PrintCommand, UsageError>;
 
 /// Takes a leading --verbose away from the arguments after the program's name; whether there was one.
 bool takeVerbose(QStringList& arguments);

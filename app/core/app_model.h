@@ -118,7 +118,8 @@ class AppModel {
     bool trusted() const { return m_trusted; }
     /// Asks the system, and through it the user, for this. Only on the user's own request.
     void askForAccessibility() { m_services.accessibility.ask(); }
-    /// Opens the system's accessibility settings; false when there are none to open.
+    /// Whether the system has settings for it, and opens them; false when there are none to open.
+    bool offersAccessibilitySettings() const { return m_services.accessibility.hasSettings(); }
     bool openAccessibilitySettings() { return m_services.accessibility.openSettings(); }
     /// The sheet of the front application; absent before the first one is known.
     const std::optional<AppSheet>& current() const { return m_sheets.current(); }

@@ -1490,8 +1490,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
         <translation>Um die Tastenkürzel von schon Geöffnetem zu zeigen, beenden und starten Sie es neu: %1</translation>
     </message>
     <message>
-        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon --help” do the same.</source>
-        <translation>Dieser Desktop zeigt keine Symbole in einer Systemleiste. Um Quillon zu erreichen, starten Sie es noch einmal aus der Liste der Anwendungen: Das öffnet sein Menü, und ein Rechtsklick dort bietet seine Fenster an. In einem Terminal tun „quillon show“ und „quillon --help“ dasselbe.</translation>
+        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” opens the overlay and “quillon --help” names the rest.</source>
+        <translation>Dieser Desktop zeigt keine Symbole in einer Systemleiste. Um Quillon zu erreichen, starten Sie es noch einmal aus der Liste der Anwendungen: Das öffnet sein Menü, und ein Rechtsklick dort bietet seine Fenster an. In einem Terminal öffnet „quillon show“ die Übersicht, und „quillon --help“ nennt das Übrige.</translation>
     </message>
 </context>
 <context>

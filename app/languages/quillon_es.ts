@@ -1490,8 +1490,8 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
         <translation>Para mostrar los atajos de lo que ya estaba abierto, ciérrelo y vuelva a iniciarlo: %1</translation>
     </message>
     <message>
-        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon --help” do the same.</source>
-        <translation>Este escritorio no muestra iconos en una bandeja. Para llegar a Quillon, inícielo de nuevo desde la lista de aplicaciones: eso abre su menú, y un clic derecho allí ofrece sus ventanas. En un terminal, «quillon show» y «quillon --help» hacen lo mismo.</translation>
+        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” opens the overlay and “quillon --help” names the rest.</source>
+        <translation>Este escritorio no muestra iconos en una bandeja. Para llegar a Quillon, inícielo de nuevo desde la lista de aplicaciones: eso abre su menú, y un clic derecho allí ofrece sus ventanas. En un terminal, «quillon show» abre el panel y «quillon --help» indica lo demás.</translation>
     </message>
 </context>
 <context>

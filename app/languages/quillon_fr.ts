@@ -1490,8 +1490,8 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
         <translation>Pour afficher les raccourcis de ce qui était déjà ouvert, quittez et relancez : %1</translation>
     </message>
     <message>
-        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon --help” do the same.</source>
-        <translation>Ce bureau n’affiche pas d’icônes de notification. Pour retrouver Quillon, relancez-le depuis la liste des applications : cela ouvre son menu, et un clic droit y propose ses fenêtres. Dans un terminal, « quillon show » et « quillon --help » font de même.</translation>
+        <source>This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that opens its menu, and a right click there offers its windows. In a terminal, “quillon show” opens the overlay and “quillon --help” names the rest.</source>
+        <translation>Ce bureau n’affiche pas d’icônes de notification. Pour retrouver Quillon, relancez-le depuis la liste des applications : cela ouvre son menu, et un clic droit y propose ses fenêtres. Dans un terminal, « quillon show » ouvre le panneau et « quillon --help » indique le reste.</translation>
     </message>
 </context>
 <context>

@@ -16,7 +16,9 @@ class AccessibilityAccess {
     virtual bool isTrusted() const = 0;
     /// Asks the system, and through it the user, for the permission. Only on the user's own request.
     virtual void ask() = 0;
-    /// Opens the system's accessibility settings; false when there are none to open.
+    /// Whether the system has accessibility settings to open. Never waits.
+    virtual bool hasSettings() const = 0;
+    /// Opens them; false when there are none, or they do not start.
     virtual bool openSettings() = 0;
     /// Called on the main thread when the answer of `isTrusted` changed.
     virtual Subscription onChanged(std::function<void()> callback) = 0;

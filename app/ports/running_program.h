@@ -9,6 +9,7 @@ namespace quillon {
 /// What may be asked of the program that runs in this session, and what it is started for.
 enum class ProgramRequest {
     activate, ///< bring up its menu or a window; at its start: only what the user has to see
+    serve,    ///< be there for what is asked next
     showOverlay,
     showSample,
     openWelcome,

@@ -38,6 +38,7 @@ struct TrayPresence {
     /// The icon for a tray of this scheme, a square of so many device pixels.
     std::function<IconPixels(ColourScheme tray, int size)> draw;
     std::function<void(int id)> chosen;   ///< a command of the menu, by its `id`
+    std::function<void()> openMenu;       ///< a click, where the tray shows no menus itself
     std::function<void()> secondaryClick; ///< the middle button
 };
 
@@ -51,8 +52,6 @@ class Tray {
     virtual void show(TrayPresence presence) = 0;
     /// The menu from now on, also while it is open.
     virtual void setMenu(std::vector<TrayMenuItem> items) = 0;
-    /// Opens the menu where the pointer is, tray or no tray.
-    virtual void popUpMenu() = 0;
     /// Whether the icon is in a tray that shows it. Never waits.
     virtual bool isShown() const = 0;
     /// Called on the main thread when `isShown` changed.

@@ -30,6 +30,7 @@ class Execution {
         : m_argc(argc), m_argv(argv), m_arguments(arguments), m_output(output) {}
 
     ExitCode operator()(const RunCommand&) { return run(ProgramRequest::activate); }
+    ExitCode operator()(const ServeCommand&) { return run(ProgramRequest::serve); }
     ExitCode operator()(const ShowCommand& show) {
         return run(show.sample ? ProgramRequest::showSample : ProgramRequest::showOverlay);
     }

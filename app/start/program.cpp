@@ -55,7 +55,7 @@ Program::Program(Platform& platform)
           .settingsFile = QString::fromStdString(platform.settingsFile().string()),
       }),
       m_tray(
-          m_model, m_desktop->tray(),
+          m_model, m_desktop->tray(), m_themes,
           {.showOverlay = [this] { m_model.showOverlay(Stickiness::sticky); },
            .openWindow = [this](WindowName name) { m_model.requestWindow(name); },
            .checkForUpdates = [this] { m_updates.checkForUpdates(); },
@@ -104,43 +104,53 @@ void Program::start(ProgramRequest request) {
         onceTrustIsKnown([this] { showOverlay(); });
     else if (request == ProgramRequest::showSample)
         showSample();
+    else if (request == ProgramRequest::serve)
+        m_isToldWhatFor = false;
     else
         m_welcome.begin();
 }
 
 bool Program::openWindow(WindowName name) {
-    m_welcome.giveWay();
-    m_model.requestWindow(name);
+    askedFor([this, name] { m_model.requestWindow(name); });
     return m_model.offersWindow(name);
+}
+
+/// Shown at once, but by a program that has only just begun.
+void Program::askedFor(std::function<void()> show) {
+    const bool isNew = !std::exchange(m_isToldWhatFor, true) || m_welcome.isDue();
+    m_welcome.giveWay();
+    if (isNew)
+        onceTrustIsKnown(std::move(show));
+    else
+        show();
 }
 
 void Program::onceTrustIsKnown(std::function<void()> show) {
     m_trustForFirstShow.wait(patienceForTrust, std::move(show));
 }
 
+/// The first time for the session bus this is the start itself.
 void Program::activate() {
-    if (!m_welcome.isDue()) {
-        comeUp();
-        return;
-    }
-    m_welcome.giveWay();
-    onceTrustIsKnown([this] { comeUp(); });
+    if (std::exchange(m_isToldWhatFor, true))
+        askedFor([this] { comeUp(); });
+    else
+        m_welcome.begin();
 }
 
 /// Whoever has not completed the welcome, or cannot be served, is shown what is missing.
 void Program::comeUp() {
     if (m_model.onboarded() && m_model.trusted())
-        m_desktop->tray().popUpMenu();
+        m_tray.popUp();
     else
         m_model.requestWindow(WindowName::welcome);
 }
 
 void Program::showOverlay() {
-    m_welcome.giveWay();
-    m_model.showOverlay(Stickiness::sticky);
+    askedFor([this] { m_model.showOverlay(Stickiness::sticky); });
 }
 
 void Program::showSample() {
+    m_isToldWhatFor = true;
     m_welcome.giveWay();
     if (!m_showcase)
         m_showcase = std::make_unique<Showcase>(

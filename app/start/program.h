@@ -43,6 +43,7 @@ class Program {
     void activate();
     void comeUp();
     bool openWindow(WindowName name);
+    void askedFor(std::function<void()> show);
     void showOverlay();
     void onceTrustIsKnown(std::function<void()> show);
     void showSample();
@@ -65,6 +66,7 @@ class Program {
     Subscription m_preparation;
     FirstTrust m_trustForFirstShow;
     WelcomeAtStart m_welcome;
+    bool m_isToldWhatFor = true; ///< false from a start for the session bus until its first request
 };
 
 } // namespace quillon

@@ -25,6 +25,17 @@ class InstanceTest(QuillonTestCase):
         desktop.press("Up", "Return")  # Quit Quillon
         self.assertEqual(self.quillon.process.wait(timeout=5), 0)
 
+    def test_the_keys_that_the_menu_shows_choose_its_lines(self):
+        self.start_quillon()
+        self.assertEqual(Ran().status, 0)
+        wait_until("the menu of the first", lambda: desktop.visible_windows(self.quillon.pid))
+        desktop.press("ctrl+comma")
+        wait_until("the settings", lambda: desktop.active_title() == "Quillon Settings")
+        self.assertEqual(Ran().status, 0)
+        wait_until("the menu again", lambda: len(desktop.visible_windows(self.quillon.pid)) == 2)
+        desktop.press("ctrl+q")
+        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+
     def test_show_opens_the_overlay_of_the_running_program_and_keeps_it_open(self):
         geany = self.start_application("geany", "--new-instance", "--no-session")
         self.start_quillon()

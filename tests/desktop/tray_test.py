@@ -14,6 +14,7 @@ from tray_host import TrayWatcher
 BELOW_THE_HINT = ["-", "Practice", "Library…", "-", "Settings | Control+comma", "Check for Updates…",
                   "Quit Quillon | Control+q"]
 GTK_SETTINGS = pathlib.Path(os.environ.get("XDG_CONFIG_HOME", "/nonexistent"), "gtk-3.0", "settings.ini")
+UPDATE_MESSAGES = {"Updates come with your system’s software", "You’re up to date", "Couldn’t check for updates"}
 SHOWN = "ok shows Quillon’s icon"
 
 
@@ -125,6 +126,48 @@ class MenuTest(TrayTestCase):
         menu.choose("Show Shortcuts")
         wait_until("the overlay", self.overlay.is_open)
         wait_until("its hint", lambda: self.overlay.says("Esc closes"))
+
+    def wait_in_front(self, title):
+        wait_until(f"{title} in front", lambda: desktop.active_title() == title)
+
+    def test_every_window_opens_in_front_and_only_once(self):
+        self.start_application("geany", "--new-instance", "--no-session")
+        menu = self.start_in_tray()
+        windows = {"Practice": "Practice", "Library…": "Quillon Library",
+                   "Settings | Control+comma": "Quillon Settings"}
+        for line, title in windows.items():
+            menu.choose(line)
+            self.wait_in_front(title)
+        for line, title in windows.items():
+            desktop.activate("geany")
+            menu.choose(line)
+            self.wait_in_front(title)
+        self.assertEqual(len(desktop.visible_windows(self.quillon.pid)), len(windows))
+
+    def test_check_for_updates_tells_what_is_known(self):
+        menu = self.start_in_tray()
+        menu.choose("Check for Updates…")
+        wait_until("a message in front", lambda: self.has_front_window(self.quillon))
+        wait_until("its text", lambda: UPDATE_MESSAGES & set(desktop.shown_texts(self.quillon.pid)))
+
+    def test_the_line_that_only_tells_does_nothing(self):
+        menu = self.start_in_tray()
+        menu.choose("[Or hold ⌘ in any app]")
+        menu.choose("Settings | Control+comma")
+        self.wait_in_front("Quillon Settings")
+        self.assertEqual(len(desktop.visible_windows(self.quillon.pid)), 1)
+
+    def test_the_hint_follows_the_settings_at_once(self):
+        menu = self.start_in_tray()
+        menu.choose("Settings | Control+comma")
+        self.wait_in_front("Quillon Settings")
+        for index, key in (("Command", "⌥"), ("Option", "⌃")):
+            desktop.click(*wait_until("the trigger", lambda index=index: next(
+                (found for found in desktop.shown(self.quillon.pid)
+                 if (found.role(), found.name()) == ("combo box", index)), None)).centre())
+            wait_until("the choices", lambda: len(desktop.visible_windows(self.quillon.pid)) > 1)
+            desktop.press("Down", "Return")
+            wait_until(f"the menu to name {key}", lambda key=key: f"[Or hold {key} in any app]" in menu.texts())
 
     def test_quit_ends_the_program(self):
         menu = self.start_in_tray()

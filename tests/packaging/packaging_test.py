@@ -126,7 +126,7 @@ class PackagingTest(unittest.TestCase):
             self.assertEqual(files_below(root), {f"opt/quillon/{file}" for file in INSTALLED})
             service = configparser.ConfigParser(interpolation=None)
             service.read(f"{root}/opt/quillon/share/dbus-1/services/{NAME}.service")
-            self.assertEqual(dict(service["D-BUS Service"]), {"name": NAME, "exec": "/opt/quillon/bin/quillon"})
+            self.assertEqual(dict(service["D-BUS Service"]), {"name": NAME, "exec": "/opt/quillon/bin/quillon --service"})
 
             result = run("cmake", "--build", BUILD, "--target", "uninstall", env=destination)
             self.assertEqual(result.returncode, 0, result.stderr)

@@ -17,6 +17,7 @@ class FakeAccessibilityAccess final : public AccessibilityAccess {
         if (m_grantsWhenAsked)
             setTrusted(true);
     }
+    bool hasSettings() const override { return m_hasSettings; }
     bool openSettings() override {
         ++m_settingsOpened;
         return m_hasSettings;

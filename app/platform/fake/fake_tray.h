@@ -13,7 +13,6 @@ class FakeTray final : public Tray {
   public:
     void show(TrayPresence presence) override { m_presence = std::move(presence); }
     void setMenu(std::vector<TrayMenuItem> items) override { m_menu = std::move(items); }
-    void popUpMenu() override { ++m_poppedUp; }
     bool isShown() const override { return m_isThere && m_presence; }
     Subscription onShownChanged(std::function<void()> callback) override {
         return m_changed.subscribe(std::move(callback));
@@ -28,13 +27,11 @@ class FakeTray final : public Tray {
     void choose(int id) const { m_presence->chosen(id); }
     const std::optional<TrayPresence>& presence() const { return m_presence; }
     const std::vector<TrayMenuItem>& menu() const { return m_menu; }
-    int poppedUp() const { return m_poppedUp; }
 
   private:
     bool m_isThere = false;
     std::optional<TrayPresence> m_presence;
     std::vector<TrayMenuItem> m_menu;
-    int m_poppedUp = 0;
     CountedEvent<> m_changed;
 };
 

@@ -9,6 +9,7 @@ class NoAccessibilityAccess final : public AccessibilityAccess {
   public:
     bool isTrusted() const override { return false; }
     void ask() override {}
+    bool hasSettings() const override { return false; }
     bool openSettings() override { return false; }
     Subscription onChanged(std::function<void()>) override { return {}; }
 };

@@ -4,12 +4,11 @@
 
 namespace quillon {
 
-/// A desktop without a tray, where no menu opens either.
+/// A desktop without a tray.
 class NoTray final : public Tray {
   public:
     void show(TrayPresence) override {}
     void setMenu(std::vector<TrayMenuItem>) override {}
-    void popUpMenu() override {}
     bool isShown() const override { return false; }
     Subscription onShownChanged(std::function<void()>) override { return {}; }
 };

@@ -1,5 +1,6 @@
 #include "confirmation.h"
 
+#include "focus_ring.h"
 #include "symbol_view.h"
 #include "themed_label.h"
 
@@ -49,6 +50,7 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
         this));
     texts->addStretch(1);
     auto* top = new QHBoxLayout;
+    top->setContentsMargins(0, 0, focusRingRoom, 0);
     top->setSpacing(symbolGap);
     top->addWidget(
         new SymbolView(themes, Symbol::exclamationMarkTriangle, symbolSize, &Palette::badgeText, this), 0,
@@ -61,8 +63,8 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_destroy);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(buttonsGap);
+    column->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
+    column->setSpacing(buttonsGap - focusRingRoom);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addLayout(top);
     column->addLayout(buttons);

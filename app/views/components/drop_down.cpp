@@ -1,6 +1,7 @@
 #include "drop_down.h"
 
 #include "colours.h"
+#include "focus_ring.h"
 #include "round_corners.h"
 
 #include <QAbstractItemView>
@@ -24,8 +25,6 @@ constexpr int endPadding = 6;
 constexpr int arrowsWidth = 8;
 constexpr int arrowsGap = 10;
 constexpr double cornerRadius = 8;
-/// Between the body and the ring that shows the keyboard's focus.
-constexpr int ringGap = 3;
 constexpr double edgeOpacity = 0.16;
 constexpr double mostEms = 18; ///< for the text
 constexpr int listRadius = 8;
@@ -91,8 +90,8 @@ QSize DropDown::sizeHint() const {
         widest = std::max(widest, metrics.horizontalAdvance(itemText(index)));
     const int most = static_cast<int>(std::lround(mostEms * pixelSize(m_themes.theme().styles.body)));
     return {
-        std::min(widest, most) + 2 * sidePadding + arrowsGap + arrowsWidth + 2 * ringGap,
-        metrics.height() + 2 * endPadding + 2 * ringGap};
+        std::min(widest, most) + 2 * sidePadding + arrowsGap + arrowsWidth + 2 * focusRingRoom,
+        metrics.height() + 2 * endPadding + 2 * focusRingRoom};
 }
 
 /// The page is scrolled, not what happens to lie under the pointer.
@@ -104,7 +103,7 @@ void DropDown::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const Palette& palette = m_themes.theme().palette;
-    const QRectF body = QRectF(rect()).adjusted(ringGap, ringGap, -ringGap, -ringGap);
+    const QRectF body = QRectF(rect()).adjusted(focusRingRoom, focusRingRoom, -focusRingRoom, -focusRingRoom);
     painter.setBrush(Qt::NoBrush);
     if (hasFocus()) {
         painter.setPen(QPen(palette.focusRing, 1.5));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "focus_ring.h"
 #include "themed_label.h"
 
 #include <QWidget>
@@ -29,7 +30,7 @@ class FormRow : public QWidget {
     /// At both ends of a row, in logical pixels.
     static constexpr int sidePadding = 14;
     /// Around what shows the keyboard's focus; that much of it reaches into the padding.
-    static constexpr int ringRoom = 3;
+    static constexpr int ringRoom = focusRingRoom;
 
   protected:
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -30,6 +30,11 @@ class RoundCorners final : public QObject {
         popUp.installEventFilter(this);
     }
 
+    void setRadius(int radius) {
+        m_radius = radius;
+        m_popUp.setMask(roundedRegion(m_popUp.rect(), radius));
+    }
+
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Resize)
             m_popUp.setMask(roundedRegion(m_popUp.rect(), m_radius));
@@ -44,6 +49,9 @@ class RoundCorners final : public QObject {
 } // namespace
 
 void roundCorners(QWidget& popUp, int radius) {
+    for (QObject* const child : popUp.children())
+        if (auto* const corners = dynamic_cast<RoundCorners*>(child))
+            return corners->setRadius(radius);
     new RoundCorners(popUp, radius);
 }
 

@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// Gives a context menu that is not shown yet the look of the panels, round corners included; the items that
-/// it has so far show no icons.
+/// Gives a menu the look of the panels, round corners included: before it is shown, and again when the theme
+/// changes. The items that it has so far show no icons.
 void styleMenu(QMenu& menu, const Theme& theme);
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #include "themed_button.h"
 
+#include "focus_ring.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -10,8 +12,6 @@ namespace {
 constexpr int horizontalPadding = 18;
 constexpr int verticalPadding = 8;
 constexpr double cornerRadius = 9;
-/// Between the button and the ring that shows the keyboard's focus.
-constexpr double ringGap = 3;
 constexpr double disabledOpacity = 0.5;
 
 } // namespace
@@ -30,7 +30,7 @@ void ThemedButton::follow() {
 }
 
 QSize ThemedButton::sizeHint() const {
-    const int ring = static_cast<int>(2 * ringGap);
+    constexpr int ring = 2 * focusRingRoom;
     const QFontMetrics metrics(labelFont(m_themes.theme().styles));
     return metrics.size(Qt::TextSingleLine, text())
            + QSize(2 * horizontalPadding + ring, 2 * verticalPadding + ring);
@@ -53,7 +53,7 @@ void ThemedButton::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const Palette& palette = m_themes.theme().palette;
     Colours look = colours(palette);
-    const QRectF body = QRectF(rect()).adjusted(ringGap, ringGap, -ringGap, -ringGap);
+    const QRectF body = QRectF(rect()).adjusted(focusRingRoom, focusRingRoom, -focusRingRoom, -focusRingRoom);
     if (hasFocus()) {
         painter.setPen(QPen(palette.focusRing, 1.5));
         painter.setBrush(Qt::NoBrush);

@@ -6,6 +6,7 @@
 #include "results_page.h"
 
 #include <quillon/app/languages/translated_keys.h>
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/symbol_view.h>
 #include <quillon/app/views/components/text.h>
@@ -137,10 +138,13 @@ void PracticeView::layOut() {
     for (QWidget* page : {m_start, static_cast<QWidget*>(m_question), static_cast<QWidget*>(m_results)})
         m_pages->addWidget(page);
     auto* column = new QVBoxLayout(m_practice);
-    column->setContentsMargins(padding, padding, padding, padding);
+    auto* pages = new QHBoxLayout;
+    pages->setContentsMargins(0, 0, focusRingRoom, 0);
+    pages->addLayout(m_pages);
+    column->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
     column->setSpacing(pageGap);
     column->addLayout(header);
-    column->addLayout(m_pages, 1);
+    column->addLayout(pages, 1);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(m_practice);

@@ -1,5 +1,8 @@
 #include "settings_page.h"
 
+#include <quillon/app/views/components/focus_ring.h>
+
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -14,14 +17,18 @@ constexpr int groupGap = 14;
 
 SettingsPage::SettingsPage(ThemeSource& themes, QWidget* parent)
     : QWidget(parent), m_themes(themes), m_groups(new QVBoxLayout(this)) {
-    m_groups->setContentsMargins(padding, topPadding, padding, padding);
+    constexpr int sides = padding - focusRingRoom;
+    m_groups->setContentsMargins(sides, topPadding, sides, padding);
     m_groups->setSpacing(groupGap);
     m_groups->addStretch(1);
 }
 
 FormGroup* SettingsPage::addGroup() {
     auto* group = new FormGroup(m_themes, this);
-    m_groups->insertWidget(m_groups->count() - 1, group);
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(focusRingRoom, 0, focusRingRoom, 0);
+    line->addWidget(group);
+    m_groups->insertLayout(m_groups->count() - 1, line);
     return group;
 }
 

@@ -1,16 +1,19 @@
 #include "tray_menu.h"
 
+#include "pop_up_menu.h"
 #include "tray_icon.h"
 #include "tray_texts.h"
 
 #include <quillon/app/views/components/text.h>
 
+#include <QCursor>
+
 #include <utility>
 
 namespace quillon {
 
-TrayMenu::TrayMenu(AppModel& model, Tray& tray, TrayActions actions)
-    : m_model(model), m_tray(tray), m_actions(std::move(actions)) {
+TrayMenu::TrayMenu(AppModel& model, Tray& tray, ThemeSource& themes, TrayActions actions)
+    : m_model(model), m_tray(tray), m_themes(themes), m_actions(std::move(actions)) {
     m_modelChange = model.changed.subscribe([this](ModelField field) {
         switch (field) {
         case ModelField::trusted:
@@ -23,14 +26,25 @@ TrayMenu::TrayMenu(AppModel& model, Tray& tray, TrayActions actions)
     update();
 }
 
+TrayMenu::~TrayMenu() = default;
+
 void TrayMenu::show() {
     m_tray.show({
         .name = utf8(TrayTexts::programName()),
         .themeIcon = trayIconName,
         .draw = trayIcon,
         .chosen = [this](int id) { choose(static_cast<TrayLine>(id)); },
+        .openMenu = [this] { popUp(); },
         .secondaryClick = [this] { m_actions.showOverlay(); },
     });
+}
+
+void TrayMenu::popUp() {
+    if (!m_menu) {
+        m_menu = std::make_unique<PopUpMenu>(m_themes, [this](int id) { choose(static_cast<TrayLine>(id)); });
+        m_menu->setItems(m_lines);
+    }
+    m_menu->popUp(QCursor::pos());
 }
 
 void TrayMenu::update() {
@@ -45,6 +59,8 @@ void TrayMenu::update() {
         return;
     m_lines = std::move(lines);
     m_tray.setMenu(m_lines);
+    if (m_menu)
+        m_menu->setItems(m_lines);
 }
 
 void TrayMenu::choose(TrayLine line) const {

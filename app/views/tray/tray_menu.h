@@ -4,10 +4,14 @@
 
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/ports/tray.h>
+#include <quillon/app/views/components/theme_source.h>
 
 #include <functional>
+#include <memory>
 
 namespace quillon {
+
+class PopUpMenu;
 
 /// What the menu's commands do.
 struct TrayActions {
@@ -20,11 +24,14 @@ struct TrayActions {
 /// The program's icon in the tray, and its menu, which follows the model.
 class TrayMenu {
   public:
-    /// `model` and `tray` outlive it.
-    TrayMenu(AppModel& model, Tray& tray, TrayActions actions);
+    /// `model`, `tray` and `themes` outlive it.
+    TrayMenu(AppModel& model, Tray& tray, ThemeSource& themes, TrayActions actions);
+    ~TrayMenu();
 
     /// Puts the icon into the tray.
     void show();
+    /// Opens the menu where the pointer is, tray or no tray.
+    void popUp();
 
   private:
     void update();
@@ -32,8 +39,10 @@ class TrayMenu {
 
     AppModel& m_model;
     Tray& m_tray;
+    ThemeSource& m_themes;
     TrayActions m_actions;
     std::vector<TrayMenuItem> m_lines; ///< as the tray has them
+    std::unique_ptr<PopUpMenu> m_menu; ///< made when it opens first
     Subscription m_modelChange;
 };
 

@@ -1,5 +1,6 @@
 #include "update_window.h"
 
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/plain_button.h>
 #include <quillon/app/views/components/prominent_button.h>
 #include <quillon/app/views/components/symbols.h>
@@ -37,16 +38,19 @@ UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message&
     text->setWordWrap(true);
     title->setMinimumWidth(textWidth);
     text->setMinimumWidth(textWidth);
+    auto* const texts = new QVBoxLayout;
+    texts->setContentsMargins(0, 0, focusRingRoom, 0);
+    texts->setSpacing(lineGap);
+    texts->addWidget(title);
+    texts->addWidget(text);
 
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(padding, padding, padding, padding);
+    row->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
     row->setSpacing(markGap);
     row->addWidget(m_mark, 0, Qt::AlignTop);
     row->addLayout(m_column, 1);
-    m_column->setSpacing(lineGap);
-    m_column->addWidget(title);
-    m_column->addWidget(text);
-    m_column->addSpacing(partGap - lineGap);
+    m_column->setSpacing(partGap - focusRingRoom);
+    m_column->addLayout(texts);
     m_column->addLayout(m_buttons);
     m_buttons->setSpacing(buttonGap);
     m_buttons->addStretch(1);
@@ -56,8 +60,10 @@ UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message&
 }
 
 void UpdateWindow::addContent(QWidget* content) {
-    m_column->insertSpacing(m_column->count() - 2, partGap - lineGap);
-    m_column->insertWidget(m_column->count() - 2, content, 1);
+    auto* const line = new QHBoxLayout;
+    line->setContentsMargins(0, focusRingRoom, focusRingRoom, 0);
+    line->addWidget(content);
+    m_column->insertLayout(m_column->count() - 1, line, 1);
 }
 
 void UpdateWindow::addButton(const QString& label, std::function<void()> pressed) {

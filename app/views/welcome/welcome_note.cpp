@@ -1,5 +1,6 @@
 #include "welcome_note.h"
 
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/symbol_view.h>
 
 #include <QHBoxLayout>
@@ -23,6 +24,7 @@ WelcomeNote::WelcomeNote(ThemeSource& themeSource, Symbol symbol, QWidget* paren
           themeSource, [](const TextStyles& styles) { return styles.callout; }, &Palette::primary, this)),
       m_action(new PlainButton(themeSource, {}, this)) {
     m_text->setWordWrap(true);
+    m_text->setContentsMargins(focusRingRoom, 0, 0, 0);
     m_action->hide();
     connect(m_action, &QPushButton::clicked, this, &WelcomeNote::actionPressed);
 
@@ -32,7 +34,7 @@ WelcomeNote::WelcomeNote(ThemeSource& themeSource, Symbol symbol, QWidget* paren
     column->addWidget(m_action, 0, Qt::AlignLeft);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(sidePadding, endPadding, sidePadding, endPadding);
-    row->setSpacing(gap);
+    row->setSpacing(gap - focusRingRoom);
     row->addWidget(
         new SymbolView(themeSource, symbol, themeSource.theme().symbolSize() + 2, &Palette::badgeText, this),
         0, Qt::AlignTop);
@@ -48,7 +50,7 @@ void WelcomeNote::setAction(const QString& label) {
 void WelcomeNote::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Palette& palette = theme().palette;
-    m_background.paint(painter, QRectF(rect()), palette.badge, Qt::transparent);
+    m_background.paint(painter, QRectF(contentsRect()), palette.badge, Qt::transparent);
 }
 
 } // namespace quillon

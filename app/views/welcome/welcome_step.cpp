@@ -1,5 +1,7 @@
 #include "welcome_step.h"
 
+#include <quillon/app/views/components/focus_ring.h>
+
 #include <QHBoxLayout>
 
 namespace quillon {
@@ -22,13 +24,13 @@ WelcomeStep::WelcomeStep(ThemeSource& themeSource, int number, QWidget* parent)
     // One line of it is level with the marker.
     m_title->setMinimumHeight(m_marker->minimumHeight());
     m_column->setSpacing(partGap);
-    m_column->addWidget(m_title);
+    addInset(m_title);
     m_column->addSpacing(titleGap - partGap);
-    m_column->addWidget(m_body);
+    addInset(m_body);
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(markerGap);
+    row->setSpacing(markerGap - focusRingRoom);
     row->addWidget(m_marker, 0, Qt::AlignTop);
     row->addLayout(m_column, 1);
 }
@@ -40,10 +42,15 @@ ThemedLabel* WelcomeStep::makeText() {
     return label;
 }
 
+void WelcomeStep::addInset(QWidget* part) {
+    part->setContentsMargins(focusRingRoom, 0, 0, 0);
+    m_column->addWidget(part);
+}
+
 ThemedLabel* WelcomeStep::addText(const QString& text) {
     ThemedLabel* const label = makeText();
     label->setText(text);
-    m_column->addWidget(label);
+    addInset(label);
     return label;
 }
 

@@ -21,8 +21,10 @@ class WelcomeStep : public ThemedWidget {
 
     /// Another text below the first.
     ThemedLabel* addText(const QString& text);
-    /// A part below the text, over the whole width.
-    void addPart(QWidget* part) { m_column->addWidget(part); }
+    /// A part below the text, over its whole width.
+    void addInset(QWidget* part);
+    /// Buttons below it, whose bodies begin where the text does.
+    void addButtons(QWidget* buttons) { m_column->addWidget(buttons); }
 
     const StepMarker& marker() const { return *m_marker; }
     QString title() const { return m_title->text(); }

@@ -4,6 +4,7 @@
 #include "welcome_texts.h"
 
 #include <quillon/app/languages/translated_keys.h>
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/key_places.h>
 #include <quillon/app/views/components/symbol_view.h>
@@ -47,7 +48,7 @@ WelcomeSteps::WelcomeSteps(
     const Vocabulary& vocabulary = Vocabulary::here();
     m_allow = addStep(1);
     m_allow->setText(WelcomeTexts::allowTitle(), WelcomeTexts::allowBody(vocabulary));
-    m_allow->addPart(makePermission());
+    m_allow->addButtons(makePermission());
     m_hold = addStep(2);
     m_places = m_hold->addText(placesOfKeys(vocabulary));
     addStep(3)->setText(WelcomeTexts::privacyTitle(vocabulary), WelcomeTexts::privacyBody(vocabulary));
@@ -97,6 +98,7 @@ QWidget* WelcomeSteps::makePermission() {
     QHBoxLayout* const buttons = row(m_buttons, buttonGap);
     m_ask = new ProminentButton(themes(), WelcomeTexts::allowAccessibility(), m_buttons);
     m_openSettings = new PlainButton(themes(), WelcomeTexts::openSystemSettings(), m_buttons);
+    m_openSettings->setVisible(m_model.offersAccessibilitySettings());
     buttons->addWidget(m_ask);
     buttons->addWidget(m_openSettings);
     buttons->addStretch(1);
@@ -113,6 +115,7 @@ QWidget* WelcomeSteps::makePermission() {
 QWidget* WelcomeSteps::makeAllowed(QWidget* parent) {
     auto* allowed = new QWidget(parent);
     QHBoxLayout* const parts = row(allowed, allowedGap);
+    parts->setContentsMargins(focusRingRoom, 0, 0, 0);
     auto* label = new ThemedLabel(
         themes(), [](const TextStyles& styles) { return styles.headline; }, &Palette::primary, allowed);
     label->setText(WelcomeTexts::allowed());
@@ -124,9 +127,9 @@ QWidget* WelcomeSteps::makeAllowed(QWidget* parent) {
 
 void WelcomeSteps::addNotes() {
     m_restart = new WelcomeNote(themes(), Symbol::exclamationMarkTriangle, m_allow);
-    m_allow->addPart(m_restart);
+    m_allow->addInset(m_restart);
     m_launcher = new WelcomeNote(themes(), Symbol::exclamationMarkTriangle, m_hold);
-    m_hold->addPart(m_launcher);
+    m_hold->addInset(m_launcher);
     connect(m_launcher, &WelcomeNote::actionPressed, this, [this] {
         m_model.setTrigger(TriggerKey::control);
         Q_EMIT keyboardLost();
@@ -190,7 +193,7 @@ void WelcomeSteps::triggerChanged() {
     setShown(*m_launcher, opensLauncher);
 }
 
-/// A desktop without settings for this shows none: the button goes rather than do nothing again.
+/// Settings that do not start do not do so a second time either: the button goes.
 void WelcomeSteps::openSettings() {
     if (m_model.openAccessibilitySettings())
         return;

@@ -85,8 +85,8 @@ QString withoutTray() {
         "Welcome",
         "This desktop shows no tray icons. To reach Quillon, start it again from your list of apps: that "
         "opens "
-        "its menu, and a right click there offers its windows. In a terminal, “quillon show” and “quillon "
-        "--help” do the same.");
+        "its menu, and a right click there offers its windows. In a terminal, “quillon show” opens the "
+        "overlay and “quillon --help” names the rest.");
 }
 
 QString privacyTitle(const Vocabulary& vocabulary) {

@@ -4,6 +4,7 @@
 #include "welcome_texts.h"
 
 #include <quillon/app/views/components/content_height.h>
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/thin_scroll_bar.h>
 
 #include <QHBoxLayout>
@@ -66,7 +67,8 @@ QScrollArea* WelcomeView::makeScroll() {
 QWidget* WelcomeView::makeFooter() {
     auto* footer = new QWidget(this);
     auto* buttons = new QHBoxLayout(footer);
-    buttons->setContentsMargins(footerPadding, footerPadding, footerPadding, footerPadding);
+    constexpr int margin = footerPadding - focusRingRoom;
+    buttons->setContentsMargins(margin, margin, margin, margin);
     buttons->setSpacing(buttonGap);
     m_later = new PlainButton(themes(), WelcomeTexts::later(), footer);
     m_done = new ProminentButton(themes(), WelcomeTexts::done(), footer);

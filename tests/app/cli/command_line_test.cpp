@@ -21,6 +21,7 @@ std::string errorOf(const Command& command) {
 
 TEST(CommandLine, AloneRunsTheProgram) {
     EXPECT_EQ(parse({}), Command(RunCommand{}));
+    EXPECT_EQ(parse({"--service"}), Command(ServeCommand{}));
 }
 
 TEST(CommandLine, StatsAreOfOneApplicationOrOfAll) {

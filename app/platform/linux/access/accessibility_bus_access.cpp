@@ -10,6 +10,16 @@
 
 namespace quillon {
 
+namespace {
+
+std::optional<ProgramCall> installedSettings() {
+    return accessibilitySettings(processEnvironment("XDG_CURRENT_DESKTOP"), [](const std::string& program) {
+        return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
+    });
+}
+
+} // namespace
+
 AccessibilityBusAccess::AccessibilityBusAccess(QDBusConnection bus, std::chrono::milliseconds askInterval)
     : m_status(std::make_unique<AccessibilityStatus>(std::move(bus))), m_askInterval(askInterval) {}
 
@@ -18,11 +28,12 @@ bool AccessibilityBusAccess::isTrusted() const {
     return m_status->isOn();
 }
 
+bool AccessibilityBusAccess::hasSettings() const {
+    return installedSettings().has_value();
+}
+
 bool AccessibilityBusAccess::openSettings() {
-    const auto isInstalled = [](const std::string& program) {
-        return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
-    };
-    const auto command = accessibilitySettings(processEnvironment("XDG_CURRENT_DESKTOP"), isInstalled);
+    const auto command = installedSettings();
     if (!command)
         return false;
     QStringList arguments;

@@ -22,6 +22,7 @@ class AccessibilityBusAccess final : public AccessibilityAccess {
     bool isTrusted() const override;
     /// Turns the desktop's switch on. It stays on when the program ends.
     void ask() override { m_status->turnOn(); }
+    bool hasSettings() const override;
     bool openSettings() override;
     Subscription onChanged(std::function<void()> callback) override;
 

@@ -17,6 +17,7 @@ QString operationOf(ProgramRequest request) {
     switch (request) {
     case ProgramRequest::showOverlay: return QStringLiteral("ShowOverlay");
     case ProgramRequest::showSample: return QStringLiteral("ShowSample");
+    case ProgramRequest::serve: return QStringLiteral("IsWatching"); // it is there already
     case ProgramRequest::quit: return QStringLiteral("Quit");
     case ProgramRequest::openWelcome:
     case ProgramRequest::openLibrary:
@@ -56,8 +57,10 @@ RunningProgram::Answer BusRunningProgram::ask(ProgramRequest request) {
     if (!m_bus.answers())
         return Answer::unreachable;
     const QDBusMessage answer = send(request);
-    if (answer.type() == QDBusMessage::ReplyMessage)
-        return answer.arguments().value(0, true).toBool() ? Answer::done : Answer::refused;
+    if (answer.type() == QDBusMessage::ReplyMessage) {
+        const bool isRefused = windowOf(request) && !answer.arguments().value(0, true).toBool();
+        return isRefused ? Answer::refused : Answer::done;
+    }
     return isNobodyThere(answer.errorName()) ? Answer::notRunning : Answer::silent;
 }
 

@@ -6,10 +6,6 @@
 #include "status_notifier.h"
 #include "tray_look.h"
 
-#include <quillon/app/platform/qt/menus/pop_up_menu.h>
-
-#include <QCursor>
-
 #include <utility>
 
 namespace quillon {
@@ -36,7 +32,7 @@ void LinuxTray::showOnBus() {
     m_menuServer->setItems(m_items);
     m_item = std::make_unique<NotifierItem>(
         m_bus, *m_presence,
-        NotifierClicks{.openMenu = [this] { popUpMenu(); }, .secondary = [this] { secondaryClick(); }},
+        NotifierClicks{.openMenu = [this] { openMenu(); }, .secondary = [this] { secondaryClick(); }},
         look());
     // Last: whoever is told of the item can call it.
     m_notifier = std::make_unique<StatusNotifier>(m_bus);
@@ -83,28 +79,23 @@ void LinuxTray::dockedClick(int button) {
     if (button == middle)
         secondaryClick();
     else if (button == left || button == right)
-        popUpMenu();
+        openMenu();
 }
 
 void LinuxTray::setMenu(std::vector<TrayMenuItem> items) {
     m_items = std::move(items);
     if (m_menuServer)
         m_menuServer->setItems(m_items);
-    if (m_menu)
-        m_menu->setItems(m_items);
-}
-
-void LinuxTray::popUpMenu() {
-    if (!m_menu) {
-        m_menu = std::make_unique<PopUpMenu>([this](int id) { choose(id); });
-        m_menu->setItems(m_items);
-    }
-    m_menu->popUp(QCursor::pos());
 }
 
 void LinuxTray::choose(int id) const {
     if (m_presence)
         m_presence->chosen(id);
+}
+
+void LinuxTray::openMenu() const {
+    if (m_presence)
+        m_presence->openMenu();
 }
 
 void LinuxTray::secondaryClick() const {

@@ -16,13 +16,12 @@ namespace quillon {
 class DockedIcon;
 class MenuServer;
 class NotifierItem;
-class PopUpMenu;
 class StatusNotifier;
 class X11Connection;
 struct TrayLook;
 
 /// The tray of a Linux desktop: an item on the session bus, where a tray shows such items, else a window in
-/// the X server's tray. The menu opens without a tray too.
+/// the X server's tray.
 class LinuxTray final : public Tray {
   public:
     /// `bus` may be one that is not connected, `x11` null. `appearance` outlives the tray.
@@ -33,7 +32,6 @@ class LinuxTray final : public Tray {
 
     void show(TrayPresence presence) override;
     void setMenu(std::vector<TrayMenuItem> items) override;
-    void popUpMenu() override;
     bool isShown() const override { return m_isShown; }
     Subscription onShownChanged(std::function<void()> callback) override {
         return m_shownChanged.subscribe(std::move(callback));
@@ -41,6 +39,7 @@ class LinuxTray final : public Tray {
 
   private:
     void choose(int id) const;
+    void openMenu() const;
     void secondaryClick() const;
     void dockedClick(int button);
     void showOnBus();
@@ -55,7 +54,6 @@ class LinuxTray final : public Tray {
     std::string m_currentDesktop;
     std::optional<TrayPresence> m_presence;
     std::vector<TrayMenuItem> m_items;
-    std::unique_ptr<PopUpMenu> m_menu; ///< made when it opens first
     std::unique_ptr<MenuServer> m_menuServer;
     std::unique_ptr<NotifierItem> m_item;
     std::unique_ptr<StatusNotifier> m_notifier;

@@ -12,6 +12,7 @@ TEST(NoDesktopTest, HasNothingToTell) {
     EXPECT_FALSE(desktop.front.current());
     EXPECT_TRUE(desktop.keyboard.modifiers().isEmpty());
     EXPECT_FALSE(desktop.access.isTrusted());
+    EXPECT_FALSE(desktop.access.hasSettings());
     EXPECT_FALSE(desktop.access.openSettings());
     EXPECT_FALSE(desktop.icons.icon("org.gnome.gedit"));
     EXPECT_EQ(desktop.appearance.look(), Look());
@@ -38,7 +39,6 @@ TEST(NoDesktopTest, AsksForNothing) {
     EXPECT_FALSE(desktop.appearance.onChanged([] {}));
     desktop.tray.show({});
     desktop.tray.setMenu({});
-    desktop.tray.popUpMenu();
     EXPECT_FALSE(desktop.tray.onShownChanged([] {}));
     EXPECT_FALSE(desktop.sessionStart.setOn(true));
     EXPECT_FALSE(desktop.silentApps.look([](const auto&) {}));

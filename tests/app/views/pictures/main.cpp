@@ -6,8 +6,8 @@
 #include "window_scenes.h"
 
 #include <quillon/app/languages/translations.h>
-#include <quillon/app/platform/qt/menus/pop_up_menu.h>
 #include <quillon/app/views/components/text.h>
+#include <quillon/app/views/tray/pop_up_menu.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -42,6 +42,8 @@ QPixmap onDesktop(QWidget& panel, ColourScheme scheme) {
     wallpaper.setColorAt(0, dark ? QColor(0x31, 0x3b, 0x48) : QColor(0xa9, 0xbf, 0xcf));
     wallpaper.setColorAt(1, dark ? QColor(0x45, 0x35, 0x48) : QColor(0xd9, 0xc4, 0xbb));
     painter.fillRect(QRect(QPoint(0, 0), panel.size() + QSize(2 * margin, 2 * margin)), wallpaper);
+    if (!panel.mask().isEmpty())
+        painter.setClipRegion(panel.mask().translated(margin, margin));
     painter.drawPixmap(QPointF(margin, margin), panel.grab());
     return picture;
 }
@@ -57,9 +59,9 @@ bool draw(const Scene& scene, const Look& look, KeyLabels keys, const QString& p
 }
 
 bool drawTrayMenu(const TrayMenuScene& scene, const Look& look, const QString& path) {
-    ViewDesk desk; // gives the toolkit the look
+    ViewDesk desk;
     desk.desktop.appearance.set(look);
-    PopUpMenu menu([](int) {});
+    PopUpMenu menu(desk.themes, [](int) {});
     menu.setItems(trayLines(scene.facts));
     menu.popUp({0, 0});
     QApplication::processEvents();

@@ -6,6 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QMenu>
+
 namespace quillon {
 namespace {
 
@@ -28,6 +31,7 @@ class TrayMenuTest : public testing::Test {
     TrayMenu tray{
         desk.model,
         desk.desktop.tray,
+        desk.themes,
         {.showOverlay = [this] { done.emplace_back("overlay"); },
          .openWindow = [this](WindowName name) { opened.push_back(name); },
          .checkForUpdates = [this] { done.emplace_back("updates"); },
@@ -77,6 +81,18 @@ TEST_F(TrayMenuTest, EveryCommandDoesItsWork) {
     for (const TrayLine line : {TrayLine::showShortcuts, TrayLine::checkForUpdates, TrayLine::quit})
         choose(line);
     EXPECT_THAT(done, ElementsAre("overlay", "updates", "quit"));
+}
+
+TEST_F(TrayMenuTest, AClickOpensTheMenuWhereTheTrayShowsNone) {
+    tray.show();
+    desk.desktop.tray.presence()->openMenu();
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->actions().constFirst()->text(), "Allow Accessibility…");
+    desk.trust();
+    EXPECT_EQ(menu->actions().constFirst()->text(), "Show Shortcuts") << "it follows while it is open";
+    menu->actions().constFirst()->trigger();
+    EXPECT_THAT(done, ElementsAre("overlay"));
 }
 
 TEST_F(TrayMenuTest, WhatIsNoCommandDoesNothing) {

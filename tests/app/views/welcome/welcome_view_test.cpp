@@ -1,3 +1,4 @@
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/key_places.h>
 #include <quillon/app/views/welcome/step_marker.h>
 #include <quillon/app/views/welcome/welcome_note.h>
@@ -100,6 +101,19 @@ TEST_F(WelcomeViewTest, AsksForThePermission) {
     EXPECT_EQ(step(3).body(), WelcomeTexts::privacyBody(Vocabulary::here()));
 }
 
+TEST_F(WelcomeViewTest, ButtonsStandAtTheEdgesOfTheirColumns) {
+    const auto leftOf = [this](const QWidget& part) { return part.mapTo(&view, QPoint(0, 0)).x(); };
+    const auto* const body = step(1).findChildren<QLabel*>().at(1);
+    ASSERT_EQ(body->text(), step(1).body());
+    EXPECT_EQ(
+        leftOf(button(u"Allow Accessibility…"_s)) + focusRingRoom,
+        leftOf(*body) + body->contentsRect().left());
+    const QAbstractButton& done = button(u"Done"_s);
+    constexpr int footerPadding = 20;
+    EXPECT_EQ(leftOf(done) + done.width() - focusRingRoom, view.width() - footerPadding);
+    EXPECT_EQ(done.mapTo(&view, QPoint(0, done.height())).y() - focusRingRoom, view.height() - footerPadding);
+}
+
 TEST_F(WelcomeViewTest, NoticesByItselfThatThePermissionWasGivenAndTaken) {
     desk.trust();
     EXPECT_THAT(buttons(), ElementsAre(u"Later"_s, u"Done"_s));
@@ -133,7 +147,16 @@ TEST_F(WelcomeViewTest, TheHoldFollowsTheTriggerKey) {
         u"Keep the Option key (⌥) down for a moment and that app’s shortcuts appear"_s));
 }
 
-TEST_F(WelcomeViewTest, AButtonForSettingsThatAreNotThereGoes) {
+TEST_F(WelcomeViewTest, WhereThereAreNoSettingsNoneAreOffered) {
+    desk.desktop.access.setHasSettings(false);
+    QWidget other;
+    auto* without = new WelcomeView(desk.model, desk.themes, needs(), &other);
+    other.show();
+    for (const auto* shown : without->findChildren<QAbstractButton*>())
+        EXPECT_TRUE(shown->text() != u"Open System Settings"_s || !shown->isVisible());
+}
+
+TEST_F(WelcomeViewTest, AButtonForSettingsThatDoNotStartGoes) {
     desk.desktop.access.setHasSettings(false);
     QAbstractButton& settings = button(u"Open System Settings"_s);
     settings.setFocus();

@@ -163,10 +163,12 @@ TEST(AccessibilitySettingsPanelTest, TheDesktopsProgramIsStarted) {
     watcher.addPath(QString::fromStdString(folder.path().string()));
 
     AccessibilityBusAccess access(QDBusConnection(QStringLiteral("no such connection")));
+    EXPECT_TRUE(access.hasSettings());
     EXPECT_TRUE(access.openSettings());
     EXPECT_TRUE(waitFor([&] { return std::filesystem::exists(folder.path() / "started"); }));
 
     std::filesystem::remove(panel);
+    EXPECT_FALSE(access.hasSettings());
     EXPECT_FALSE(access.openSettings());
     qputenv("PATH", path);
 }

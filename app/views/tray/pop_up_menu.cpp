@@ -1,6 +1,11 @@
 #include "pop_up_menu.h"
 
+#include "tray_texts.h"
+
+#include <quillon/app/views/components/styled_menu.h>
+
 #include <QAction>
+#include <QKeyEvent>
 #include <QKeySequence>
 
 #include <utility>
@@ -37,14 +42,36 @@ std::vector<int> idsOf(const std::vector<TrayMenuItem>& items) {
     return ids;
 }
 
+/// While it is open the keys that it shows beside its lines choose them.
+class KeyedMenu final : public QMenu {
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const QKeySequence pressed(event->keyCombination());
+        for (QAction* const action : actions()) {
+            if (pressed.isEmpty() || action->shortcut() != pressed)
+                continue;
+            close();
+            action->trigger();
+            return;
+        }
+        QMenu::keyPressEvent(event);
+    }
+};
+
 } // namespace
 
-PopUpMenu::PopUpMenu(std::function<void(int)> chosen) : m_chosen(std::move(chosen)) {}
+PopUpMenu::PopUpMenu(ThemeSource& themes, std::function<void(int)> chosen)
+    : m_chosen(std::move(chosen)), m_menu(std::make_unique<KeyedMenu>()) {
+    m_menu->setAccessibleName(TrayTexts::programName());
+    const auto wear = [this, &themes] { styleMenu(*m_menu, themes.theme()); };
+    wear();
+    m_themeChange = themes.changed.subscribe(wear);
+}
 
 QAction& PopUpMenu::actionOf(const TrayMenuItem& item) {
     QAction*& action = m_actions[item.id];
     if (action == nullptr) {
-        action = new QAction(&m_menu);
+        action = new QAction(m_menu.get());
         // Not for the menu, which ends what connects it with an action that is taken out.
         QObject::connect(action, &QAction::triggered, action, [this, id = item.id] { m_chosen(id); });
     }
@@ -57,23 +84,23 @@ void PopUpMenu::setItems(const std::vector<TrayMenuItem>& items) {
     if (idsOf(items) != m_order)
         arrange(items);
     // An open menu does not grow by itself.
-    if (m_menu.isVisible())
-        m_menu.resize(m_menu.sizeHint());
+    if (m_menu->isVisible())
+        m_menu->resize(m_menu->sizeHint());
 }
 
 void PopUpMenu::arrange(const std::vector<TrayMenuItem>& items) {
-    QAction* const highlighted = m_menu.activeAction();
-    for (QAction* const action : m_menu.actions())
-        m_menu.removeAction(action);
+    QAction* const highlighted = m_menu->activeAction();
+    for (QAction* const action : m_menu->actions())
+        m_menu->removeAction(action);
     for (const TrayMenuItem& item : items)
-        m_menu.addAction(m_actions.at(item.id));
+        m_menu->addAction(m_actions.at(item.id));
     m_order = idsOf(items);
-    if (highlighted != nullptr && m_menu.actions().contains(highlighted))
-        m_menu.setActiveAction(highlighted);
+    if (highlighted != nullptr && m_menu->actions().contains(highlighted))
+        m_menu->setActiveAction(highlighted);
 }
 
 void PopUpMenu::popUp(QPoint place) {
-    m_menu.popup(place);
+    m_menu->popup(place);
 }
 
 } // namespace quillon

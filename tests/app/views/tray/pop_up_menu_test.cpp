@@ -1,9 +1,12 @@
-#include <quillon/app/platform/qt/menus/pop_up_menu.h>
+#include <quillon/app/views/components/colours.h>
+#include <quillon/app/views/tray/pop_up_menu.h>
+#include <quillon/tests/app/views/support/view_desk.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QTest>
 
 namespace quillon {
 namespace {
@@ -26,7 +29,8 @@ class PopUpMenuTest : public testing::Test {
     }
 
     std::vector<int> chosen;
-    PopUpMenu menu{[this](int id) { chosen.push_back(id); }};
+    ViewDesk desk;
+    PopUpMenu menu{desk.themes, [this](int id) { chosen.push_back(id); }};
     const TrayMenuItem first{.id = 1, .kind = Kind::command, .label = "Fish & Chips "};
     const TrayMenuItem told{.id = 2, .kind = Kind::line, .label = "told"};
     const TrayMenuItem line{.id = 3, .kind = Kind::separator};
@@ -38,6 +42,17 @@ TEST_F(PopUpMenuTest, ReadsAsItsValuesSay) {
     EXPECT_THAT(texts(), ElementsAre("Fish && Chips ", "disabled told", "-", "Quit Ctrl+Q"));
     menu.menu().actions().constLast()->trigger();
     EXPECT_THAT(chosen, ElementsAre(4));
+}
+
+TEST_F(PopUpMenuTest, TheKeysThatItShowsChoose) {
+    menu.setItems({first, told, line, quit});
+    menu.popUp({20, 20});
+    QTest::keyClick(&menu.menu(), Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_THAT(chosen, ElementsAre());
+    EXPECT_TRUE(menu.menu().isVisible());
+    QTest::keyClick(&menu.menu(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_THAT(chosen, ElementsAre(4));
+    EXPECT_FALSE(menu.menu().isVisible());
 }
 
 TEST_F(PopUpMenuTest, ChangesWhileItIsOpen) {
@@ -57,6 +72,22 @@ TEST_F(PopUpMenuTest, ChangesWhileItIsOpen) {
     EXPECT_THAT(texts(), ElementsAre("Fish && Chips ", "Quit Ctrl+Q"));
     menu.menu().actions().constFirst()->trigger();
     EXPECT_THAT(chosen, ElementsAre(1)) << "once, however often it came and went";
+}
+
+TEST_F(PopUpMenuTest, LooksLikeThePanelsAndFollowsTheDesktop) {
+    menu.setItems({first, told, line, quit});
+    for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
+        desk.desktop.appearance.set({scheme, "DejaVu Sans", 10});
+        menu.popUp({20, 20});
+        const QImage picture = menu.menu().grab().toImage();
+        const Palette palette = Palette::forScheme(scheme);
+        const QRect rule = menu.menu().actionGeometry(menu.menu().actions().at(2));
+        EXPECT_EQ(picture.pixelColor(rule.center().x(), rule.top() + 1), palette.card);
+        EXPECT_EQ(picture.pixelColor(rule.center()), Colours::over(palette.windowBorder, palette.card))
+            << "a line between the groups is seen";
+        EXPECT_FALSE(menu.menu().mask().contains(QPoint(0, 0))) << "round";
+    }
+    EXPECT_EQ(menu.menu().accessibleName(), u"Quillon"_s);
 }
 
 } // namespace
