@@ -17,6 +17,8 @@ constexpr int symbolGap = 16;
 constexpr int titleGap = 8;
 constexpr int buttonsGap = 20;
 constexpr int betweenButtons = 6;
+/// Buttons end where the texts do; what their focus rings take reaches into the padding.
+constexpr int ringRoom = ThemedButton::ringRoom;
 constexpr double textEms = 33;
 
 ThemedLabel* paragraph(
@@ -50,6 +52,7 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     texts->addStretch(1);
     auto* top = new QHBoxLayout;
     top->setSpacing(symbolGap);
+    top->setContentsMargins(0, 0, ringRoom, 0);
     top->addWidget(
         new SymbolView(themes, Symbol::exclamationMarkTriangle, symbolSize, &Palette::badgeText, this), 0,
         Qt::AlignTop);
@@ -61,7 +64,7 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_destroy);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, padding, padding, padding);
+    column->setContentsMargins(padding, padding, padding - ringRoom, padding - ringRoom);
     column->setSpacing(buttonsGap);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addLayout(top);

@@ -1,7 +1,11 @@
 #include "themed_button.h"
 
+#include "keyed_text.h"
+
 #include <QKeyEvent>
 #include <QPainter>
+
+#include <cmath>
 
 namespace quillon {
 
@@ -10,8 +14,6 @@ namespace {
 constexpr int horizontalPadding = 18;
 constexpr int verticalPadding = 8;
 constexpr double cornerRadius = 9;
-/// Between the button and the ring that shows the keyboard's focus.
-constexpr double ringGap = 3;
 constexpr double disabledOpacity = 0.5;
 
 } // namespace
@@ -30,10 +32,10 @@ void ThemedButton::follow() {
 }
 
 QSize ThemedButton::sizeHint() const {
-    const int ring = static_cast<int>(2 * ringGap);
-    const QFontMetrics metrics(labelFont(m_themes.theme().styles));
-    return metrics.size(Qt::TextSingleLine, text())
-           + QSize(2 * horizontalPadding + ring, 2 * verticalPadding + ring);
+    const QFont font = labelFont(m_themes.theme().styles);
+    const int width = static_cast<int>(std::ceil(KeyedText(text(), font).width()));
+    return QSize(width, QFontMetrics(font).height())
+           + QSize(2 * (horizontalPadding + ringRoom), 2 * (verticalPadding + ringRoom));
 }
 
 void ThemedButton::showEvent(QShowEvent* event) {
@@ -53,7 +55,7 @@ void ThemedButton::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const Palette& palette = m_themes.theme().palette;
     Colours look = colours(palette);
-    const QRectF body = QRectF(rect()).adjusted(ringGap, ringGap, -ringGap, -ringGap);
+    const QRectF body = QRectF(rect()).adjusted(ringRoom, ringRoom, -ringRoom, -ringRoom);
     if (hasFocus()) {
         painter.setPen(QPen(palette.focusRing, 1.5));
         painter.setBrush(Qt::NoBrush);
@@ -73,8 +75,8 @@ void ThemedButton::paintEvent(QPaintEvent*) {
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius - 0.5, cornerRadius - 0.5);
     painter.setPen(look.text);
-    painter.setFont(labelFont(m_themes.theme().styles));
-    painter.drawText(body, Qt::AlignCenter, text());
+    const KeyedText label(text(), labelFont(m_themes.theme().styles));
+    label.paintLine(painter, body, Qt::AlignCenter);
 }
 
 } // namespace quillon

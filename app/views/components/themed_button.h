@@ -11,6 +11,9 @@ class ThemedButton : public QPushButton {
     Q_OBJECT
 
   public:
+    /// Around what is seen of the button, for the ring that shows the keyboard's focus. In logical pixels.
+    static constexpr int ringRoom = 3;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -1,5 +1,8 @@
 #include "settings_page.h"
 
+#include <quillon/app/views/components/themed_button.h>
+
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -9,19 +12,24 @@ namespace {
 constexpr int padding = 20;
 constexpr int topPadding = 16;
 constexpr int groupGap = 14;
+/// Buttons below the groups end where these do; what their focus rings take reaches into the padding.
+constexpr int ringRoom = ThemedButton::ringRoom;
 
 } // namespace
 
 SettingsPage::SettingsPage(ThemeSource& themes, QWidget* parent)
     : QWidget(parent), m_themes(themes), m_groups(new QVBoxLayout(this)) {
-    m_groups->setContentsMargins(padding, topPadding, padding, padding);
+    m_groups->setContentsMargins(padding - ringRoom, topPadding, padding - ringRoom, padding);
     m_groups->setSpacing(groupGap);
     m_groups->addStretch(1);
 }
 
 FormGroup* SettingsPage::addGroup() {
     auto* group = new FormGroup(m_themes, this);
-    m_groups->insertWidget(m_groups->count() - 1, group);
+    auto* const line = new QHBoxLayout;
+    line->setContentsMargins(ringRoom, 0, ringRoom, 0);
+    line->addWidget(group);
+    m_groups->insertLayout(m_groups->count() - 1, line);
     return group;
 }
 

@@ -17,11 +17,13 @@ constexpr int lineGap = 6;
 constexpr int partGap = 18;
 constexpr int buttonGap = 8;
 constexpr int textWidth = 430;
+/// Buttons end where the texts do; what their focus rings take reaches into the padding.
+constexpr int ringRoom = ThemedButton::ringRoom;
 
 } // namespace
 
 UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message& message)
-    : m_themes(themeSource), m_mark(new QLabel(this)), m_column(new QVBoxLayout), m_buttons(new QHBoxLayout) {
+    : m_themes(themeSource), m_mark(new QLabel(this)), m_texts(new QVBoxLayout), m_buttons(new QHBoxLayout) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(UpdateTexts::windowTitle());
     setAccessibleName(message.title);
@@ -39,15 +41,18 @@ UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message&
     text->setMinimumWidth(textWidth);
 
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(padding, padding, padding, padding);
+    row->setContentsMargins(padding, padding, padding - ringRoom, padding - ringRoom);
     row->setSpacing(markGap);
     row->addWidget(m_mark, 0, Qt::AlignTop);
-    row->addLayout(m_column, 1);
-    m_column->setSpacing(lineGap);
-    m_column->addWidget(title);
-    m_column->addWidget(text);
-    m_column->addSpacing(partGap - lineGap);
-    m_column->addLayout(m_buttons);
+    auto* const column = new QVBoxLayout;
+    row->addLayout(column, 1);
+    column->setSpacing(partGap);
+    column->addLayout(m_texts, 1);
+    column->addLayout(m_buttons);
+    m_texts->setSpacing(lineGap);
+    m_texts->setContentsMargins(0, 0, ringRoom, 0);
+    m_texts->addWidget(title);
+    m_texts->addWidget(text);
     m_buttons->setSpacing(buttonGap);
     m_buttons->addStretch(1);
 
@@ -56,8 +61,8 @@ UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message&
 }
 
 void UpdateWindow::addContent(QWidget* content) {
-    m_column->insertSpacing(m_column->count() - 2, partGap - lineGap);
-    m_column->insertWidget(m_column->count() - 2, content, 1);
+    m_texts->addSpacing(partGap - lineGap);
+    m_texts->addWidget(content, 1);
 }
 
 void UpdateWindow::addButton(const QString& label, std::function<void()> pressed) {

@@ -206,6 +206,19 @@ TEST_F(PrivacyPageTest, EraseIsReachedByTheKeyboard) {
     EXPECT_FALSE(desk.model.current());
 }
 
+TEST_F(PrivacyPageTest, ButtonsEndWhereTheirColumnDoes) {
+    const auto right = [](const QWidget& widget, const QWidget& window) {
+        return widget.mapTo(&window, QPoint(widget.width(), 0)).x();
+    };
+    EXPECT_EQ(
+        right(page().erase(), *view) - ThemedButton::ringRoom, right(*page().findChild<FormGroup*>(), *view));
+    pressErase();
+    Confirmation& confirmation = *page().confirmation();
+    EXPECT_EQ(
+        right(confirmation.destroyButton(), confirmation) - ThemedButton::ringRoom,
+        right(*confirmation.findChild<ThemedLabel*>(), confirmation));
+}
+
 TEST(ShownPathTest, WhatLiesInTheHomeBeginsWithATilde) {
     EXPECT_EQ(shownPath("/home/a/.local/share/b", "/home/a"), u"~/.local/share/b"_s);
     EXPECT_EQ(shownPath("/home/a/.local/share/b", "/home/a/"), u"~/.local/share/b"_s);
