@@ -47,6 +47,7 @@ constexpr std::array kinds{
     Kind{LearnedFiles::usage, failureOf<UsageBook>},
     Kind{LearnedFiles::notes, failureOf<AnnotationBook>},
     Kind{LearnedFiles::menus, failureOf<SheetMap>},
+    Kind{LearnedFiles::weeks, failureOf<WeekBook>},
 };
 
 Check checkOf(const fs::path& file, const LoadFailure& failure, bool isSetAside) {

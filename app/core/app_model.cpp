@@ -227,7 +227,7 @@ void AppModel::showNudge(Nudge nudge) {
 
 void AppModel::handleTyped(const MenuEntry& entry) {
     if (current() && !current()->bundleID.empty())
-        m_records.typed(current()->bundleID, entry.id());
+        m_records.typed(current()->bundleID, entry.id(), m_services.clock.now());
 }
 
 /// Of the current sheet, where it is that of the application in front: what is typed into no application or
@@ -245,9 +245,23 @@ void AppModel::togglePin(const std::string& bundleID, const std::string& entryID
     m_records.togglePin(bundleID, entryID);
 }
 
+void AppModel::setNote(const std::string& bundleID, const std::string& entryID, std::string note) {
+    m_records.setNote(bundleID, entryID, std::move(note));
+}
+
+void AppModel::setMuted(const std::string& bundleID, const std::string& entryID, bool muted) {
+    m_records.setMuted(bundleID, entryID, muted);
+}
+
+void AppModel::openPractice(const std::string& bundleID) {
+    m_practiceApp = bundleID;
+    changed.emit(ModelField::practiceApp);
+    requestWindow(WindowName::practice);
+}
+
 void AppModel::load() {
     LearnedData learned = m_folder->load();
-    m_records.replace(std::move(learned.usage), std::move(learned.annotations));
+    m_records.replace(std::move(learned.usage), std::move(learned.annotations), std::move(learned.weeks));
     m_sheets.load(std::move(learned.sheets));
     m_save.cancel();
 }
@@ -255,9 +269,10 @@ void AppModel::load() {
 void AppModel::save() {
     if (m_services.dataFolder.empty())
         return;
-    m_writes.put([folder = m_folder, learned = LearnedData{usage(), annotations(), sheets()}]() mutable {
-        folder->save(std::move(learned));
-    });
+    m_writes.put(
+        [folder = m_folder, learned = LearnedData{usage(), annotations(), sheets(), weeks()}]() mutable {
+            folder->save(std::move(learned));
+        });
 }
 
 void AppModel::savePending() {
@@ -266,7 +281,7 @@ void AppModel::savePending() {
 }
 
 void AppModel::eraseEverything() {
-    m_records.replace({}, {});
+    m_records.replace({}, {}, {});
     m_sheets.clear();
     m_save.cancel();
     m_writes.finishWith([folder = m_folder] { folder->erase(); });
@@ -274,8 +289,8 @@ void AppModel::eraseEverything() {
     changed.emit(ModelField::sheets);
 }
 
-void AppModel::showSample(AppSheet sheet, UsageRecords usage, Annotations annotations) {
-    m_records.replace(sheet.bundleID, std::move(usage), std::move(annotations));
+void AppModel::showSample(AppSheet sheet, UsageRecords usage, Annotations annotations, WeekSums weeks) {
+    m_records.replace(sheet.bundleID, std::move(usage), std::move(annotations), std::move(weeks));
     m_sheets.show(std::move(sheet));
     tellDifferences();
 }

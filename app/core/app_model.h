@@ -39,7 +39,7 @@
 namespace quillon {
 
 /// What of the model changed. Changes of records and annotations are told apart, by `recordChanged`. A nudge
-/// is told each time that one is shown, be it the same again.
+/// and an application to practise are told each time, be they the same again.
 enum class ModelField {
     trigger,
     holdDelay,
@@ -54,6 +54,7 @@ enum class ModelField {
     reading,
     query,
     overlaySticky,
+    practiceApp,
     nudge,
 };
 
@@ -129,6 +130,8 @@ class AppModel {
     bool answered() const { return m_sheets.answered(); }
     const UsageBook& usage() const { return m_records.usage(); }
     const AnnotationBook& annotations() const { return m_records.annotations(); }
+    /// The clicks and typed uses by weeks of the user's calendar.
+    const WeekBook& weeks() const { return m_records.weeks(); }
     /// What is typed in the overlay's search field.
     const std::string& query() const { return m_query; }
     void setQuery(std::string query);
@@ -172,6 +175,14 @@ class AppModel {
     }
     /// Pins or unpins a command of an application.
     void togglePin(const std::string& bundleID, const std::string& entryID);
+    /// Notes something of a command, as it stands; "" takes the note away. Its pin and mute stay.
+    void setNote(const std::string& bundleID, const std::string& entryID, std::string note);
+    /// Whether no nudges are shown for a command. Its pin and note stay.
+    void setMuted(const std::string& bundleID, const std::string& entryID, bool muted);
+    /// The application that practice was last asked for; "" before that.
+    const std::string& practiceApp() const { return m_practiceApp; }
+    /// Opens the practice window for an application.
+    void openPractice(const std::string& bundleID);
     void requestWindow(WindowName name) { m_services.windows.open(name); }
     /// Whether a window that is asked for will open; views do not offer one that will not.
     bool offersWindow(WindowName name) const { return m_services.windows.offers(name); }
@@ -183,7 +194,7 @@ class AppModel {
 
     /// Takes over a sheet and what is known of its commands instead of reading any: for showing the program
     /// with sample data.
-    void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations);
+    void showSample(AppSheet sheet, UsageRecords usage, Annotations annotations, WeekSums weeks = {});
 
   private:
     bool isStarted() const { return static_cast<bool>(m_trustTimer); }
@@ -213,6 +224,7 @@ class AppModel {
     std::string m_query;
     bool m_overlaySticky = false;
     std::optional<Nudge> m_nudge;
+    std::string m_practiceApp;
     std::uint64_t m_toldSheet = 0; ///< revision of the sheet that was told last
     bool m_toldReading = false;
     Subscription m_settingChange;

@@ -40,9 +40,11 @@ LearnedData DataFolder::load() {
         .usage = loadFile<UsageBook>(LearnedFiles::usage),
         .annotations = loadFile<AnnotationBook>(LearnedFiles::notes),
         .sheets = loadFile<SharedSheets>(LearnedFiles::menus),
+        .weeks = loadFile<WeekBook>(LearnedFiles::weeks),
     };
     m_savedAnnotations = learned.annotations;
     m_savedSheets = learned.sheets;
+    m_savedWeeks = learned.weeks;
     return learned;
 }
 
@@ -53,6 +55,7 @@ void DataFolder::save(LearnedData learned) {
     saveFile(LearnedFiles::usage, learned.usage);
     saveOther(LearnedFiles::notes, std::move(learned.annotations), m_savedAnnotations);
     saveOther(LearnedFiles::menus, std::move(learned.sheets), m_savedSheets);
+    saveOther(LearnedFiles::weeks, std::move(learned.weeks), m_savedWeeks);
 }
 
 /// Saves `value` unless the file holds it.
@@ -79,6 +82,7 @@ void DataFolder::erase() {
     m_broken.clear();
     m_savedAnnotations.reset();
     m_savedSheets.reset();
+    m_savedWeeks.reset();
 }
 
 template <class Value>

@@ -17,11 +17,12 @@ struct LearnedData {
     UsageBook usage = {};
     AnnotationBook annotations = {};
     SharedSheets sheets = {};
+    WeekBook weeks = {};
 
     bool operator==(const LearnedData&) const = default;
 };
 
-/// The folder with the three files of what was learned. Of one thread at a time.
+/// The folder with the four files of what was learned. Of one thread at a time.
 class DataFolder {
   public:
     /// It need not exist. Empty: nothing is read or written.
@@ -29,10 +30,10 @@ class DataFolder {
 
     /// What the files hold; nothing in place of one that is missing or cannot be made out.
     LearnedData load();
-    /// Writes the three files in this order: usage, annotations, sheets. Annotations and sheets, which change
-    /// seldom, only where they changed or their file is missing: each file costs its time. One that fails
-    /// stays as it was and does not keep the others from being written. A file that `load` could not make out
-    /// is kept under another name, "usage.json.broken" or with a number behind it.
+    /// Writes the four files in this order: usage, annotations, sheets, weeks. All but the usage only where
+    /// they changed or their file is missing: each file costs its time. One that fails stays as it was and
+    /// does not keep the others from being written. A file that `load` could not make out is kept under
+    /// another name, "usage.json.broken" or with a number behind it.
     void save(LearnedData learned);
     /// Removes the folder with all that is in it.
     void erase();
@@ -52,6 +53,7 @@ class DataFolder {
     /// What the files hold; absent when that is not known.
     std::optional<AnnotationBook> m_savedAnnotations;
     std::optional<SharedSheets> m_savedSheets;
+    std::optional<WeekBook> m_savedWeeks;
 };
 
 } // namespace quillon

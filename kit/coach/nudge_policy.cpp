@@ -9,7 +9,11 @@ bool NudgePolicy::shouldNudge(
     const UsageRecord known = record.value_or(UsageRecord{});
     if (known.lastNudged && secondsBetween(*known.lastNudged, now) < repeatWindow)
         return false;
-    return checkedSubtract(known.typed, known.clicked) < graduateAfter;
+    return !hasGraduated(known);
+}
+
+bool NudgePolicy::hasGraduated(const UsageRecord& record) const {
+    return checkedSubtract(record.typed, record.clicked) >= graduateAfter;
 }
 
 } // namespace quillon

@@ -21,6 +21,9 @@ struct NudgePolicy {
     bool
     shouldNudge(const std::optional<UsageRecord>& record, const Annotation& annotation, Instant now) const;
 
+    /// Whether the command is typed so much more than it is clicked that it needs no nudges any more.
+    bool hasGraduated(const UsageRecord& record) const;
+
     bool operator==(const NudgePolicy&) const = default;
 };
 

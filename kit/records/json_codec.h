@@ -45,9 +45,11 @@ extern template std::optional<std::string> encode(const AppSheet&);
 extern template std::optional<std::string> encode(const SheetMap&);
 extern template std::optional<std::string> encode(const UsageBook&);
 extern template std::optional<std::string> encode(const AnnotationBook&);
+extern template std::optional<std::string> encode(const WeekBook&);
 extern template Outcome<AppSheet, Fault> tryDecode<AppSheet>(std::string_view);
 extern template Outcome<SheetMap, Fault> tryDecode<SheetMap>(std::string_view);
 extern template Outcome<UsageBook, Fault> tryDecode<UsageBook>(std::string_view);
 extern template Outcome<AnnotationBook, Fault> tryDecode<AnnotationBook>(std::string_view);
+extern template Outcome<WeekBook, Fault> tryDecode<WeekBook>(std::string_view);
 
 } // namespace quillon::Json

@@ -3,6 +3,7 @@
 #include "annotations.h"
 #include "json_form.h"
 #include "usage.h"
+#include "weeks.h"
 #include <quillon/kit/base/instant.h>
 #include <quillon/kit/menu/app_sheet.h>
 #include <quillon/kit/shortcut/shortcut.h>
@@ -127,6 +128,18 @@ struct Form<Annotation> {
     static constexpr auto members = std::tuple(
         member("muted", &Annotation::muted), member("note", &Annotation::note),
         member("pinned", &Annotation::pinned));
+};
+
+template <>
+struct Form<WeekSum> {
+    static constexpr Range counted{0, largestStoredCount};
+    static constexpr auto members =
+        std::tuple(member("clicked", &WeekSum::clicked, counted), member("typed", &WeekSum::typed, counted));
+};
+
+template <>
+struct Form<WeekBook> {
+    static constexpr auto members = std::tuple(member("apps", &WeekBook::apps));
 };
 
 template <>

@@ -19,6 +19,7 @@ from accessible import application_of
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PROGRAMS = pathlib.Path(os.environ.get("QUILLON_BIN", ROOT / "build/dev/bin")).resolve()
 SCREENSHOTS = PROGRAMS.parent / "desktop-tests"
+MOST_LAST_WORDS = 40
 
 
 def wait_until(what, condition, within=15.0):
@@ -197,6 +198,12 @@ class Program:
         """What it has printed and logged so far."""
         return self.messages.read_bytes()[self.earlier:].decode(errors="replace")
 
+    def tell_last_words(self):
+        """Prints the end of what it has said, for whoever reads why a test failed."""
+        lines = self.said().splitlines()[-MOST_LAST_WORDS:]
+        if lines:
+            print(f"the last that {self.process.args[0]} said:", *lines, sep="\n    ", flush=True)
+
     def stop(self):
         """Freezes it, so that it answers nobody."""
         self.process.send_signal(signal.SIGSTOP)
@@ -220,6 +227,7 @@ class DesktopTestCase(unittest.TestCase):
 
     def __init__(self, name):
         super().__init__(name)
+        self.programs = []
         test = getattr(self, name)
 
         def test_with_picture(self):
@@ -227,6 +235,8 @@ class DesktopTestCase(unittest.TestCase):
                 test()
             except Exception:
                 print(f"{self.id()} failed; the screen: {screenshot(self.id())}", flush=True)
+                for program in self.programs:
+                    program.tell_last_words()
                 raise
 
         setattr(self, name, types.MethodType(test_with_picture, self))
@@ -240,6 +250,7 @@ class DesktopTestCase(unittest.TestCase):
 
     def start(self, *command, environment=None):
         program = Program(command, environment)
+        self.programs.append(program)
         self.addCleanup(program.end)
         return program
 

@@ -3,6 +3,7 @@
 #include <quillon/app/core/settings_store.h>
 
 #include <QDateTime>
+#include <QTimeZone>
 
 #include <chrono>
 
@@ -24,7 +25,7 @@ std::optional<Instant> instantOf(const QString& text) {
 
 QString textOf(Instant time) {
     const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(time).time_since_epoch().count();
-    return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC).toString(Qt::ISODate);
+    return QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc()).toString(Qt::ISODate);
 }
 
 } // namespace

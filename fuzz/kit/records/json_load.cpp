@@ -55,6 +55,22 @@ void checkCounting(std::string_view text) {
     }
 }
 
+void checkWeeks(std::string_view text) {
+    std::optional<WeekBook> book = Json::decode<WeekBook>(text);
+    if (!book)
+        return;
+    const std::optional<std::string> written = Json::encode(*book);
+    QUILLON_LAW(written.has_value());
+    QUILLON_LAW(Json::decode<WeekBook>(*written) == book);
+    const WeekBook loaded = *book;
+    for (const auto& [app, weeks] : loaded.apps) {
+        book->click(app, Day());
+        book->typed(app, Day());
+        QUILLON_LAW(book->weeks(app).size() <= WeekBook::mostWeeks);
+        QUILLON_LAW(book->weeks(app).at(weekName(Day())).typed >= 1);
+    }
+}
+
 void checkMap(std::string_view text) {
     const std::optional<SheetMap> sheets = Json::decode<SheetMap>(text);
     if (!sheets)
@@ -78,6 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     quillon::check<quillon::UsageBook>(text);
     quillon::check<quillon::AnnotationBook>(text);
     quillon::checkCounting(text);
+    quillon::checkWeeks(text);
     quillon::checkMap(text);
     return 0;
 }

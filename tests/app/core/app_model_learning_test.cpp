@@ -73,7 +73,7 @@ TEST_F(AppModelLearningTest, AFileThatIsMissingIsWritten) {
     const auto model = startedModel();
     model->togglePin(sketch.bundleID, save);
     model->savePending();
-    for (const char* name : {"usage.json", "notes.json", "menus.json"}) {
+    for (const char* name : {"usage.json", "notes.json", "menus.json", "weeks.json"}) {
         const std::string before = read(name);
         fs::remove(data / name);
         desktop.front.activate(sketch);

@@ -197,6 +197,30 @@ TEST_F(AppModelTest, WindowsAreAskedFor) {
     EXPECT_FALSE(model.offersWindow(WindowName::settings));
 }
 
+TEST_F(AppModelTest, PracticeIsAskedForAnApplicationEachTime) {
+    std::vector<std::string> practised;
+    const auto subscription = model.changed.subscribe([&](ModelField field) {
+        if (field == ModelField::practiceApp)
+            practised.push_back(model.practiceApp());
+    });
+    model.openPractice("org.example.sketch");
+    model.openPractice("org.example.sketch");
+    EXPECT_EQ(practised, (std::vector<std::string>{"org.example.sketch", "org.example.sketch"}));
+    EXPECT_EQ(desktop.windows.opened(), (std::vector{WindowName::practice, WindowName::practice}));
+}
+
+TEST_F(AppModelTest, NotesAndMutesAreTold) {
+    startWith(sketch);
+    int told = 0;
+    const auto subscription = model.recordChanged.subscribe([&](const RecordChange&) { ++told; });
+    model.setNote("org.example.sketch", "File › Command a", "thumb first");
+    model.setMuted("org.example.sketch", "File › Command a", true);
+    EXPECT_EQ(
+        model.annotations().get("org.example.sketch", "File › Command a"),
+        (Annotation{.note = "thumb first", .muted = true}));
+    EXPECT_EQ(told, 2);
+}
+
 TEST_F(AppModelTest, AnOverlayThatIsShownFollowsItsScreen) {
     panels.allScreens = {
         {{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}, {{1920, 0, 1280, 1000}, {1920, 0, 1280, 1000}}};

@@ -19,6 +19,7 @@ class DataFolderTest : public testing::Test {
     DataFolderTest() {
         learned.usage.typed("app", "File › Save");
         learned.annotations.togglePin("app", "File › Save");
+        learned.weeks.typed("app", Day());
         const MenuEntry save{
             .path = {"File", "Save"}, .shortcut = Shortcut(Modifiers::command, Key::character("S"))};
         learned.sheets.emplace("app", SharedSheet({"app", "App", {save}, distantPast}));
@@ -47,7 +48,7 @@ TEST_F(DataFolderTest, IsEmptyBeforeTheFirstSave) {
 TEST_F(DataFolderTest, GivesBackWhatWasSaved) {
     save(data);
     EXPECT_EQ(DataFolder(path).load(), learned);
-    for (const char* name : {"usage.json", "notes.json", "menus.json"})
+    for (const char* name : {"usage.json", "notes.json", "menus.json", "weeks.json"})
         EXPECT_TRUE(fs::exists(path / name)) << name;
 }
 

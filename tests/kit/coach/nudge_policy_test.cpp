@@ -21,6 +21,12 @@ TEST(NudgePolicy, RestsTenSecondsAndGraduatesAfterFive) {
     EXPECT_EQ(defaultNudgePolicy, (NudgePolicy{Seconds(10), 5}));
 }
 
+TEST(NudgePolicy, ACommandGraduatesOnceTypingLeadsByFive) {
+    EXPECT_FALSE(defaultNudgePolicy.hasGraduated({}));
+    EXPECT_FALSE(defaultNudgePolicy.hasGraduated({.clicked = 3, .typed = 7}));
+    EXPECT_TRUE(defaultNudgePolicy.hasGraduated({.clicked = 3, .typed = 8}));
+}
+
 TEST(NudgePolicy, NudgesForACommandNeverSeen) {
     EXPECT_TRUE(nudges(std::nullopt));
     EXPECT_TRUE(nudges(UsageRecord()));

@@ -26,8 +26,12 @@ constexpr int glancesAtRest = 3;
 /// How far from each other two places are surely on one item.
 constexpr double oneItem = 3;
 constexpr std::size_t mostPrepared = 256;
-/// How often a place is tried at which nothing was found.
+/// How often a place is tried at once at which nothing was found.
 constexpr int mostAttempts = 2;
+/// After that a busy application may still answer: how many glances at a resting pointer lie between two
+/// more.
+constexpr int glancesBetween = 20;
+constexpr int mostPatientAttempts = 5;
 /// How often a menu is tried, wherever the pointer is in it, in which nothing was found yet.
 constexpr int mostEntries = 4;
 
@@ -70,7 +74,9 @@ struct LinuxMenuUse::Browsing {
         });
     }
     bool isHopeless(const atspi::MenuPlace& place) const {
-        return attempts >= mostAttempts && fruitless && isSamePlace(*fruitless, place);
+        const bool isGivenUp =
+            attempts >= mostPatientAttempts || glances < (attempts - mostAttempts + 1) * glancesBetween;
+        return attempts >= mostAttempts && isGivenUp && fruitless && isSamePlace(*fruitless, place);
     }
     /// Whether it is worth while to learn which menu it is before the pointer rests on an item.
     bool isNew(std::uint64_t opening) const {
@@ -240,7 +246,8 @@ void LinuxMenuUse::workOn() {
                 auto facts = lookup->itemAt(look.place, stop);
                 return [this, look, facts = std::move(facts)] { answered(look, facts); };
             });
-    } else if (const auto place = std::exchange(browsing.toBePrepared, std::nullopt)) {
+    } else if (const auto place = std::exchange(browsing.toBePrepared, std::nullopt);
+               place && !browsing.isPrepared(*place) && !browsing.isHopeless(*place)) {
         browsing.isBusy = true;
         browsing.job = m_needs.background.run(
             [this, lookup = browsing.lookup, place = *place](const std::stop_token& stop) {

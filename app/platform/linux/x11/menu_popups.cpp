@@ -47,6 +47,7 @@ MenuPopups::MenuPopups(
     m_activations = m_front.onActivated([this](const RunningApp&) { m_frontChanged = true; });
     m_events = m_x11->onEvent([this](const xcb_generic_event_t& event) { handle(event); });
     m_drained = m_x11->onDrained([this] { drained(); });
+    m_caughtUp = m_x11->onCaughtUp([this] { caughtUp(); });
     m_lost = m_x11->onLost([this] {
         m_popups.clear();
         m_notes.clear();
@@ -62,7 +63,8 @@ MenuPopups::MenuPopups(
 
 void MenuPopups::stop() {
     m_observer = nullptr;
-    for (Subscription* subscription : {&m_presses, &m_activations, &m_events, &m_drained, &m_lost})
+    for (Subscription* subscription :
+         {&m_presses, &m_activations, &m_events, &m_drained, &m_caughtUp, &m_lost})
         subscription->reset();
     m_notes.clear();
     m_popups.clear();
@@ -145,7 +147,7 @@ void MenuPopups::pressed() {
     track();
     // What was open before is not told by events, and its menu may be open by now.
     if (!wasTracking)
-        consider(topmostBareWindows(*m_x11));
+        lookAtTopmost();
     follow();
     if (m_popups.empty())
         return;
@@ -171,6 +173,25 @@ void MenuPopups::consider(std::span<const xcb_window_t> windows) {
     for (BareWindowQuestion& question : questions)
         if (const auto bare = question.receive(*m_x11); bare && bare->isMenu)
             consider(*bare);
+    if (m_x11->isLate() && m_unanswered.size() < mostWindows)
+        m_unanswered.insert(m_unanswered.end(), windows.begin(), windows.end());
+}
+
+void MenuPopups::lookAtTopmost() {
+    const std::vector<xcb_window_t> windows = topmostBareWindows(*m_x11);
+    m_hasToLook = m_x11->isLate(); // then once it answers
+    consider(windows);
+}
+
+/// What the server did not tell in time it may tell now.
+void MenuPopups::caughtUp() {
+    if (!isTracking())
+        return;
+    m_frontNow.reset();
+    reconsider();
+    consider(std::exchange(m_unanswered, {}));
+    if (std::exchange(m_hasToLook, false))
+        lookAtTopmost();
 }
 
 /// Takes a window for a menu of the front application if it is one.
@@ -214,6 +235,7 @@ void MenuPopups::scrolled() {
 
 void MenuPopups::gone(xcb_window_t window) {
     std::erase(m_others, window);
+    std::erase(m_unanswered, window);
     std::erase_if(m_popups, [window](const Popup& popup) { return popup.window == window; });
 }
 
@@ -244,6 +266,8 @@ void MenuPopups::track() {
     if (!isTracking()) {
         m_windows.reset();
         m_others.clear();
+        m_unanswered.clear();
+        m_hasToLook = false;
     } else if (!m_windows) {
         m_windows = m_x11->selectEvents(m_x11->root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
     }

@@ -77,7 +77,9 @@ class MenuPopups {
     void released(std::uint32_t button);
     void consider(std::span<const xcb_window_t> windows);
     void consider(const BareWindow& bare);
+    void lookAtTopmost();
     void reconsider();
+    void caughtUp();
     void gone(xcb_window_t window);
     void scrolled();
     void follow();
@@ -95,7 +97,9 @@ class MenuPopups {
     MenuPopupsObserver* m_observer; ///< nullptr once stopped
     std::vector<Note> m_notes;
     std::vector<Popup> m_popups;
-    std::vector<xcb_window_t> m_others; ///< came to the screen and are not the front application's so far
+    std::vector<xcb_window_t> m_others;     ///< came to the screen and are not the front application's so far
+    std::vector<xcb_window_t> m_unanswered; ///< came to the screen; the server did not tell more in time
+    bool m_hasToLook = false;               ///< nor what was on the screen before
     std::uint64_t m_openings = 0;
     std::optional<Point> m_lastPlace; ///< since menus are open
     bool m_isHeld = false;            ///< a button was down then
@@ -113,6 +117,7 @@ class MenuPopups {
     Subscription m_activations;
     Subscription m_events;
     Subscription m_drained;
+    Subscription m_caughtUp;
     Subscription m_lost;
 };
 

@@ -185,6 +185,20 @@ TEST_F(LinuxMenuUseTest, APointerThatRestsIsPreparedForOnce) {
     EXPECT_THAT(lines, IsEmpty());
 }
 
+TEST_F(LinuxMenuUseTest, ABusyApplicationIsAskedAgainWhileThePointerRests) {
+    lookup->items.clear();
+    openMenu();
+    client->movePointer(120, 125);
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        waitForGlances(5);
+        background.runAll();
+    }
+    EXPECT_THAT(lookup->asked, ElementsAre("prepare 1", "prepare 1"));
+    waitForGlances(20);
+    background.runAll();
+    EXPECT_EQ(lookup->asked.size(), 3U);
+}
+
 TEST_F(LinuxMenuUseTest, AMenuIsPreparedForAsSoonAsThePointerIsInIt) {
     openMenu();
     std::int16_t x = 100;

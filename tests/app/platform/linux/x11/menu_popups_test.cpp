@@ -322,6 +322,35 @@ TEST_F(MenuPopupsTest, WhoIsInFrontIsAskedOnceForAllWindows) {
     popups.reset();
 }
 
+struct LateServersMenuPopupsTest : MenuPopupsTest {
+    LateServersMenuPopupsTest() { patience = X11Connection::mainThreadPatience; }
+};
+
+TEST_F(LateServersMenuPopupsTest, AMenuThatOpensWhileTheServerAnswersNobodyIsToldLater) {
+    const xcb_window_t menu = makeMenu(*application);
+    press();
+    application->grabServer();
+    application->map(menu);
+    ASSERT_TRUE(waitFor([&] { return x11->isLate(); }));
+    EXPECT_THAT(diary.lines, IsEmpty());
+    application->ungrabServer();
+    EXPECT_TRUE(waitFor([&] { return popups->popups().size() == 1; }));
+    EXPECT_THAT(diary.lines, Contains("opened editor"));
+    letGo();
+    hide(menu);
+}
+
+TEST_F(LateServersMenuPopupsTest, AnOpenMenuIsFoundOnceTheServerAnswersAfterThePress) {
+    const xcb_window_t menu = makeMenu(*application, true);
+    application->grabServer();
+    application->buttonDown(1);
+    ASSERT_TRUE(waitFor([&] { return x11->isLate(); }));
+    application->ungrabServer();
+    EXPECT_TRUE(waitFor([&] { return popups->popups().size() == 1; }));
+    letGo();
+    hide(menu);
+}
+
 TEST_F(MenuPopupsTest, StoppedItTellsNothing) {
     const xcb_window_t menu = makeMenu(*application);
     press();
