@@ -896,6 +896,14 @@ aplicaci√≥n, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men√
     </message>
 </context>
 <context>
+    <name>Numbers</name>
+    <message>
+        <source>%1.%2</source>
+        <extracomment>A number with a decimal: %1 is what stands before the decimal mark, %2 what stands behind it.</extracomment>
+        <translation>%1,%2</translation>
+    </message>
+</context>
+<context>
     <name>Overlay</name>
     <message>
         <source>Quillon needs Accessibility to read menus</source>

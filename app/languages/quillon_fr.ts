@@ -896,6 +896,14 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     </message>
 </context>
 <context>
+    <name>Numbers</name>
+    <message>
+        <source>%1.%2</source>
+        <extracomment>A number with a decimal: %1 is what stands before the decimal mark, %2 what stands behind it.</extracomment>
+        <translation>%1,%2</translation>
+    </message>
+</context>
+<context>
     <name>Overlay</name>
     <message>
         <source>Quillon needs Accessibility to read menus</source>

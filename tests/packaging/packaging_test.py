@@ -88,6 +88,26 @@ class PackagingTest(unittest.TestCase):
         self.assertEqual(tree.findtext("launchable"), ENTRY.name)
         self.assertEqual(tree.find("releases/release").get("version"), VERSION)
 
+    def test_metainfo_and_entry_speak_the_languages_of_the_program(self):
+        languages = {path.stem.removeprefix("quillon_") for path in (ROOT / "app/languages").glob("quillon_*.ts")}
+        self.assertTrue(languages)
+        lang = "{http://www.w3.org/XML/1998/namespace}lang"
+        tree = xml.etree.ElementTree.fromstring(metainfo_with_page("https://quillon.example"))
+        lists = [tree, tree.find("description"), tree.find("description/ul"), tree.find("keywords"),
+                 *tree.iterfind("screenshots/screenshot")]
+        for parent in lists:
+            said = [child for child in parent if child.tag in {"summary", "p", "li", "keyword", "caption"}]
+            english = [child for child in said if lang not in child.attrib]
+            self.assertTrue(english, parent.tag)
+            for text in english:
+                after = said[said.index(text) + 1:][:len(languages)]
+                self.assertEqual({other.get(lang) for other in after}, languages, text.text)
+                self.assertTrue(all(other.text.strip() for other in after), text.text)
+        entry = ENTRY.read_text()
+        for line in re.findall(r"(?m)^(?:GenericName|Comment|Keywords)=", entry):
+            for language in languages:
+                self.assertIn(line.replace("=", f"[{language}]="), entry)
+
     def test_manual_has_no_faults_and_is_of_this_version(self):
         result = run("man", "--warnings", "--encoding=UTF-8", "--local-file", MANUAL,
                      env=os.environ | {"LC_ALL": "C.UTF-8", "MANROFFSEQ": "", "MANWIDTH": "80"})

@@ -17,10 +17,11 @@ class FakeSoftwarePages final : public SoftwarePages {
     bool openSoftwareCentre() override {
         if (hasCentre)
             ++centreOpened;
-        return hasCentre;
+        return hasCentre && opensCentre;
     }
 
     bool opensPages = true;
+    bool opensCentre = true;
     bool hasCentre = false;
     std::vector<std::string> pages;
     int centreOpened = 0;

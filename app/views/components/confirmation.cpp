@@ -52,6 +52,7 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     auto* top = new QHBoxLayout;
     top->setContentsMargins(0, 0, focusRingRoom, 0);
     top->setSpacing(symbolGap);
+    top->setContentsMargins(0, 0, focusRingRoom, 0);
     top->addWidget(
         new SymbolView(themes, Symbol::exclamationMarkTriangle, symbolSize, &Palette::badgeText, this), 0,
         Qt::AlignTop);
@@ -64,7 +65,7 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     buttons->addWidget(m_destroy);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
-    column->setSpacing(buttonsGap - focusRingRoom);
+    column->setSpacing(buttonsGap);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addLayout(top);
     column->addLayout(buttons);

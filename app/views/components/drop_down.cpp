@@ -84,14 +84,25 @@ void DropDown::showPopup() {
 }
 
 QSize DropDown::sizeHint() const {
-    const QFontMetrics metrics(m_themes.theme().styles.body);
-    int widest = 0;
+    // To the last bit: whole numbers are rounded, down as well, and a text without that bit is cut short.
+    const QFontMetricsF metrics(m_themes.theme().styles.body);
+    double widest = 0;
     for (int index = 0; index < count(); ++index)
         widest = std::max(widest, metrics.horizontalAdvance(itemText(index)));
     const int most = static_cast<int>(std::lround(mostEms * pixelSize(m_themes.theme().styles.body)));
     return {
-        std::min(widest, most) + 2 * sidePadding + arrowsGap + arrowsWidth + 2 * focusRingRoom,
-        metrics.height() + 2 * endPadding + 2 * focusRingRoom};
+        std::min(static_cast<int>(std::ceil(widest)), most) + 2 * sidePadding + arrowsGap + arrowsWidth
+            + 2 * focusRingRoom,
+        static_cast<int>(std::ceil(metrics.height())) + 2 * endPadding + 2 * focusRingRoom};
+}
+
+QRectF DropDown::body() const {
+    return QRectF(rect()).adjusted(focusRingRoom, focusRingRoom, -focusRingRoom, -focusRingRoom);
+}
+
+QString DropDown::shownText() const {
+    const double room = body().width() - 2 * sidePadding - arrowsGap - arrowsWidth;
+    return QFontMetricsF(font()).elidedText(currentText(), Qt::ElideRight, room);
 }
 
 /// The page is scrolled, not what happens to lie under the pointer.
@@ -103,7 +114,7 @@ void DropDown::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const Palette& palette = m_themes.theme().palette;
-    const QRectF body = QRectF(rect()).adjusted(focusRingRoom, focusRingRoom, -focusRingRoom, -focusRingRoom);
+    const QRectF body = this->body();
     painter.setBrush(Qt::NoBrush);
     if (hasFocus()) {
         painter.setPen(QPen(palette.focusRing, 1.5));
@@ -119,8 +130,7 @@ void DropDown::paintEvent(QPaintEvent*) {
     const QRectF text = body.adjusted(sidePadding, 0, -sidePadding, 0);
     painter.drawText(
         text, static_cast<int>(Qt::AlignVCenter) | (isMirrored ? Qt::AlignRight : Qt::AlignLeft),
-        fontMetrics().elidedText(
-            currentText(), Qt::ElideRight, static_cast<int>(text.width()) - arrowsGap - arrowsWidth));
+        shownText());
     painter.setPen(QPen(palette.secondary, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     const double arrows = isMirrored ? text.left() + arrowsWidth / 2.0 : text.right() - arrowsWidth / 2.0;

@@ -13,6 +13,9 @@ class DropDown : public QComboBox {
   public:
     explicit DropDown(ThemeSource& themes, QWidget* parent = nullptr);
 
+    /// The choice as it is shown in the room that it has.
+    QString shownText() const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
     void showPopup() override;
@@ -23,6 +26,7 @@ class DropDown : public QComboBox {
 
   private:
     void follow();
+    QRectF body() const;
     void styleList();
 
     ThemeSource& m_themes;

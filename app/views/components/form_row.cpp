@@ -1,5 +1,7 @@
 #include "form_row.h"
 
+#include "focus_ring.h"
+
 #include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QMouseEvent>
@@ -18,7 +20,8 @@ constexpr int controlGap = 16;
 
 FormRow::FormRow(ThemeSource& themes, QWidget* parent)
     : QWidget(parent), m_themes(themes), m_column(new QVBoxLayout(this)) {
-    m_column->setContentsMargins(sidePadding - ringRoom, endPadding, sidePadding - ringRoom, endPadding);
+    m_column->setContentsMargins(
+        sidePadding - focusRingRoom, endPadding, sidePadding - focusRingRoom, endPadding);
     m_column->setSpacing(noteGap);
 }
 
@@ -48,7 +51,7 @@ ThemedLabel* FormRow::makeText(const QString& text, QColor Palette::*colour) {
         m_themes, [](const TextStyles& styles) { return styles.body; }, colour, this);
     label->setText(text);
     label->setWordWrap(true);
-    label->setContentsMargins(ringRoom, 0, ringRoom, 0);
+    label->setContentsMargins(focusRingRoom, 0, focusRingRoom, 0);
     return label;
 }
 
@@ -57,7 +60,7 @@ ThemedLabel* FormRow::addNote(const QString& text) {
         m_themes, [](const TextStyles& styles) { return styles.callout; }, &Palette::secondary, this);
     note->setText(text);
     note->setWordWrap(true);
-    note->setContentsMargins(ringRoom, 0, ringRoom, 0);
+    note->setContentsMargins(focusRingRoom, 0, focusRingRoom, 0);
     m_column->addWidget(note);
     return note;
 }

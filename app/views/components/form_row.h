@@ -16,7 +16,8 @@ class FormRow : public QWidget {
 
   public:
     /// `control` becomes the row's. The label is its name to screen readers. A control without a layout has
-    /// room for its focus ring around it; in one of several parts what ends without a ring keeps `ringRoom`.
+    /// room for its focus ring around it; in one of several parts what ends without a ring keeps
+    /// `focusRingRoom`.
     FormRow(ThemeSource& themes, const QString& label, QWidget* control, QWidget* parent = nullptr);
 
     /// A row that is nothing but text.
@@ -29,8 +30,6 @@ class FormRow : public QWidget {
 
     /// At both ends of a row, in logical pixels.
     static constexpr int sidePadding = 14;
-    /// Around what shows the keyboard's focus; that much of it reaches into the padding.
-    static constexpr int ringRoom = focusRingRoom;
 
   protected:
     void mouseReleaseEvent(QMouseEvent* event) override;

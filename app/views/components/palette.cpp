@@ -75,7 +75,7 @@ QPalette Palette::forToolkit() const {
     palette.setColor(QPalette::HighlightedText, onAccent);
     palette.setColor(QPalette::ToolTipBase, card);
     palette.setColor(QPalette::ToolTipText, primary);
-    palette.setColor(QPalette::Link, focusRing);
+    palette.setColor(QPalette::Link, badgeText);
     palette.setColor(QPalette::Shadow, shadow);
     palette.setColor(QPalette::Mid, Colours::over(windowBorder, window));
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})

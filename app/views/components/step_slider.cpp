@@ -1,5 +1,6 @@
 #include "step_slider.h"
 
+#include "focus_ring.h"
 #include "step_slider_accessible.h"
 
 #include <QMouseEvent>
@@ -15,8 +16,6 @@ namespace quillon {
 namespace {
 
 constexpr double handleSize = 18;
-/// Around the handle, for the ring that shows the keyboard's focus.
-constexpr double ringRoom = 3;
 constexpr double grooveHeight = 4;
 constexpr double restOpacity = 0.18;
 constexpr double handleEdgeOpacity = 0.25;
@@ -81,11 +80,11 @@ void StepSlider::tellReaders() {
 }
 
 QSize StepSlider::sizeHint() const {
-    return {200, static_cast<int>(handleSize + 2 * ringRoom)};
+    return {200, static_cast<int>(handleSize + 2 * focusRingRoom)};
 }
 
 QRectF StepSlider::groove() const {
-    const double edge = ringRoom + handleSize / 2;
+    const double edge = focusRingRoom + handleSize / 2;
     return {edge, (height() - grooveHeight) / 2, width() - 2 * edge, grooveHeight};
 }
 

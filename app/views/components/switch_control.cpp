@@ -1,5 +1,6 @@
 #include "switch_control.h"
 
+#include "focus_ring.h"
 #include <QPainter>
 
 namespace quillon {
@@ -7,8 +8,6 @@ namespace quillon {
 namespace {
 
 constexpr QSizeF trackSize(38, 22);
-/// Around the track, for the ring that shows the keyboard's focus.
-constexpr double ringRoom = 3;
 constexpr double knobGap = 2;
 constexpr double offOpacity = 0.30;
 
@@ -20,14 +19,14 @@ SwitchControl::SwitchControl(ThemeSource& themes, QWidget* parent) : QCheckBox(p
 }
 
 QSize SwitchControl::sizeHint() const {
-    return (trackSize + QSizeF(2 * ringRoom, 2 * ringRoom)).toSize();
+    return (trackSize + QSizeF(2 * focusRingRoom, 2 * focusRingRoom)).toSize();
 }
 
 void SwitchControl::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const Palette& palette = m_themes.theme().palette;
-    const QRectF track(QPointF(ringRoom, ringRoom), trackSize);
+    const QRectF track(QPointF(focusRingRoom, focusRingRoom), trackSize);
     const double radius = track.height() / 2;
     if (hasFocus()) {
         painter.setPen(QPen(palette.focusRing, 1.5));

@@ -1,9 +1,12 @@
 #include "themed_button.h"
 
 #include "focus_ring.h"
+#include "keyed_text.h"
 
 #include <QKeyEvent>
 #include <QPainter>
+
+#include <cmath>
 
 namespace quillon {
 
@@ -30,10 +33,10 @@ void ThemedButton::follow() {
 }
 
 QSize ThemedButton::sizeHint() const {
-    constexpr int ring = 2 * focusRingRoom;
-    const QFontMetrics metrics(labelFont(m_themes.theme().styles));
-    return metrics.size(Qt::TextSingleLine, text())
-           + QSize(2 * horizontalPadding + ring, 2 * verticalPadding + ring);
+    const QFont font = labelFont(m_themes.theme().styles);
+    const int width = static_cast<int>(std::ceil(KeyedText(text(), font).width()));
+    return QSize(width, QFontMetrics(font).height())
+           + QSize(2 * (horizontalPadding + focusRingRoom), 2 * (verticalPadding + focusRingRoom));
 }
 
 void ThemedButton::showEvent(QShowEvent* event) {
@@ -73,8 +76,8 @@ void ThemedButton::paintEvent(QPaintEvent*) {
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius - 0.5, cornerRadius - 0.5);
     painter.setPen(look.text);
-    painter.setFont(labelFont(m_themes.theme().styles));
-    painter.drawText(body, Qt::AlignCenter, text());
+    const KeyedText label(text(), labelFont(m_themes.theme().styles));
+    label.paintLine(painter, body, Qt::AlignCenter);
 }
 
 } // namespace quillon

@@ -1,9 +1,14 @@
 #include "themed_label.h"
 
+#include "keyed_text.h"
+
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -23,8 +28,15 @@ void ThemedLabel::themeChanged() {
     setPalette(colours);
 }
 
+int ThemedLabel::extraWidth() const {
+    if (!KeyedText::isNeededFor(text()))
+        return 0;
+    const double extra = KeyedText(text(), font()).width() - QFontMetricsF(font()).horizontalAdvance(text());
+    return static_cast<int>(std::ceil(extra));
+}
+
 bool ThemedLabel::isElided() const {
-    return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+    return !wordWrap() && fontMetrics().horizontalAdvance(text()) + extraWidth() > contentsRect().width();
 }
 
 void ThemedLabel::setShortenedPart(TextPart part) {
@@ -36,7 +48,7 @@ QString ThemedLabel::shownText() const {
     if (!isElided())
         return text();
     const QFontMetrics metrics = fontMetrics();
-    const int room = contentsRect().width();
+    const int room = contentsRect().width() - std::max(0, extraWidth());
     const auto [start, length] = m_shortenedPart;
     const QString before = text().left(start);
     const QString after = text().mid(start + length);
@@ -44,6 +56,23 @@ QString ThemedLabel::shownText() const {
     if (length == 0 || partRoom <= 0)
         return metrics.elidedText(text(), Qt::ElideRight, room);
     return before + metrics.elidedText(text().mid(start, length), Qt::ElideRight, partRoom) + after;
+}
+
+QSize ThemedLabel::sizeHint() const {
+    const QSize whole = QLabel::sizeHint();
+    if (!KeyedText::isNeededFor(text()))
+        return whole;
+    if (wordWrap())
+        return {whole.width(), heightForWidth(whole.width())};
+    return {whole.width() + extraWidth(), whole.height()};
+}
+
+int ThemedLabel::heightForWidth(int width) const {
+    if (!wordWrap() || !KeyedText::isNeededFor(text()))
+        return QLabel::heightForWidth(width);
+    const QMargins margins = contentsMargins();
+    const double height = KeyedText(text(), font()).height(width - margins.left() - margins.right());
+    return static_cast<int>(std::ceil(height)) + margins.top() + margins.bottom();
 }
 
 QSize ThemedLabel::minimumSizeHint() const {
@@ -54,12 +83,22 @@ QSize ThemedLabel::minimumSizeHint() const {
 }
 
 void ThemedLabel::paintEvent(QPaintEvent* event) {
-    if (!isElided()) {
+    const bool isKeyed = KeyedText::isNeededFor(text());
+    if (!isElided() && !isKeyed) {
         QLabel::paintEvent(event);
         return;
     }
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
+    if (isKeyed) {
+        const Qt::Alignment place = QStyle::visualAlignment(layoutDirection(), alignment());
+        const KeyedText shown(shownText(), font());
+        if (wordWrap())
+            shown.paintWrapped(painter, contentsRect(), place);
+        else
+            shown.paintLine(painter, contentsRect(), place);
+        return;
+    }
     const int direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     painter.drawText(
         contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine | direction, shownText());

@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// Plain text in one of the theme's styles. One line of it ends in an ellipsis where it does not fit, and
-/// tells the whole text in a tooltip.
+/// tells the whole text in a tooltip. Signs of keys in it are drawn, see `KeyedText`.
 class ThemedLabel : public QLabel {
     Q_OBJECT
 
@@ -25,7 +25,9 @@ class ThemedLabel : public QLabel {
     /// The text as it is shown in the room that it has.
     QString shownText() const;
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,6 +36,8 @@ class ThemedLabel : public QLabel {
   private:
     void themeChanged();
     bool isElided() const;
+    /// How much wider the text is than its letters are by themselves.
+    int extraWidth() const;
 
     ThemeSource& m_themes;
     FontChoice m_font;

@@ -1,6 +1,7 @@
 #include "learned_texts.h"
 
 #include <quillon/app/core/local_day.h>
+#include <quillon/app/languages/shown_numbers.h>
 #include <quillon/kit/coach/nudge_policy.h>
 #include <quillon/kit/coach/time_saved.h>
 
@@ -32,17 +33,14 @@ int form(qint64 count) {
 QString length(Seconds time) {
     if (time.count() < minute) {
         const auto seconds = std::llround(time.count());
-        return QCoreApplication::translate("Learned", "%1 seconds", nullptr, form(seconds))
-            .arg(QLocale().toString(seconds));
+        return QCoreApplication::translate("Learned", "%1 seconds", nullptr, form(seconds)).arg(seconds);
     }
     if (time.count() < 2 * hour) {
         const auto minutes = std::llround(time.count() / minute);
-        return QCoreApplication::translate("Learned", "%1 minutes", nullptr, form(minutes))
-            .arg(QLocale().toString(minutes));
+        return QCoreApplication::translate("Learned", "%1 minutes", nullptr, form(minutes)).arg(minutes);
     }
     const auto hours = std::llround(time.count() / hour);
-    return QCoreApplication::translate("Learned", "%1 hours", nullptr, form(hours))
-        .arg(QLocale().toString(hours));
+    return QCoreApplication::translate("Learned", "%1 hours", nullptr, form(hours)).arg(hours);
 }
 
 } // namespace
@@ -60,8 +58,10 @@ QString clicked() {
 }
 
 QString weekLabel(Day monday) {
-    //: A day under a chart, short; d is the day and MMM the month's short name.
-    return QLocale().toString(dateOf(monday), QCoreApplication::translate("Learned", "d MMM"));
+    //: The code of this language, for the names of months.
+    const QLocale language(QCoreApplication::translate("Learned", "en"));
+    //: A day under a chart, short: d is the day and MMM the month's short name.
+    return language.toString(dateOf(monday), QCoreApplication::translate("Learned", "d MMM"));
 }
 
 QString weeksInWords(const LearnedSummary& summary) {
@@ -100,8 +100,7 @@ QString timeSaved(Count typed) {
                "two clicks in a menu take longer than two keys.",
                nullptr, form(typed))
         .arg(
-            QString::number(typed), length(quillon::timeSaved(typed)),
-            QLocale().toString(savedByTyping.count(), 'f', 1));
+            QString::number(typed), length(quillon::timeSaved(typed)), withOneDecimal(savedByTyping.count()));
 }
 
 } // namespace quillon::LearnedTexts

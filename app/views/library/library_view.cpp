@@ -1,13 +1,13 @@
 #include "library_view.h"
 
 #include "app_list.h"
-#include "empty_state.h"
 #include "library_detail.h"
 #include "library_texts.h"
 
 #include <quillon/app/core/trigger_key.h>
 #include <quillon/app/languages/translated_keys.h>
 #include <quillon/app/views/components/accessible_roles.h>
+#include <quillon/app/views/components/message_view.h>
 #include <quillon/app/views/components/text.h>
 
 #include <QHBoxLayout>
@@ -26,6 +26,11 @@ constexpr int firstSidebar = 230;
 constexpr int firstPane = 590;
 constexpr int narrowestPane = 360;
 constexpr int margin = 12;
+constexpr int messagePadding = 20;
+
+QFont headline(const TextStyles& styles) {
+    return bold(styles.title2);
+}
 
 } // namespace
 
@@ -33,9 +38,9 @@ LibraryView::LibraryView(
     AppModel& model, ThemeSource& themeSource, AppIconCache& icons, const Clock& clock, QWidget* parent)
     : ThemedWidget(themeSource, parent), m_model(model), m_sidebar(new QStackedWidget),
       m_list(new AppList(themeSource, icons)),
-      m_noApps(new EmptyState(themeSource, Symbol::keyboard, LibraryTexts::noAppsTitle())),
+      m_noApps(new MessageView(themeSource, headline, messagePadding)),
       m_search(new SearchBox(themeSource, LibraryTexts::searchPrompt())), m_pane(new QStackedWidget),
-      m_noChoice(new EmptyState(themeSource, Symbol::sidebarLeft, LibraryTexts::pickAnApp())),
+      m_noChoice(new MessageView(themeSource, headline, messagePadding)),
       m_detail(new LibraryDetail(model, themeSource, clock)) {
     auto* const halves = new QSplitter;
     halves->addWidget(makeSidebar());
@@ -50,6 +55,7 @@ LibraryView::LibraryView(
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(halves);
 
+    m_noChoice->setMessage({.symbol = Symbol::sidebarLeft, .title = LibraryTexts::pickAnApp()});
     connect(m_list, &AppList::chosen, this, &LibraryView::select);
     connect(m_search, &SearchBox::textEdited, this, &LibraryView::search);
     auto* const find = new QShortcut(QKeySequence(QKeySequence::Find), this);
@@ -87,8 +93,10 @@ void LibraryView::modelChanged(ModelField field) {
 }
 
 void LibraryView::refresh() {
-    m_noApps->setText(
-        LibraryTexts::noAppsText(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels())));
+    m_noApps->setMessage(
+        {.symbol = Symbol::keyboard,
+         .title = LibraryTexts::noAppsTitle(),
+         .body = LibraryTexts::noAppsText(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels()))});
     m_list->setApps(libraryApps(m_model.sheets()), m_selection);
     const bool isEmpty = m_model.sheets().empty();
     m_sidebar->setCurrentWidget(isEmpty ? static_cast<QWidget*>(m_noApps) : m_list);

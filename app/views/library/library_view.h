@@ -14,7 +14,7 @@
 namespace quillon {
 
 class AppList;
-class EmptyState;
+class MessageView;
 class LibraryDetail;
 
 /// The Library: beside the list of applications that were read, everything about the chosen one.
@@ -49,10 +49,10 @@ class LibraryView : public ThemedWidget {
     std::string m_selection;
     QStackedWidget* m_sidebar;
     AppList* m_list;
-    EmptyState* m_noApps;
+    MessageView* m_noApps;
     SearchBox* m_search;
     QStackedWidget* m_pane;
-    EmptyState* m_noChoice;
+    MessageView* m_noChoice;
     LibraryDetail* m_detail;
     Subscription m_modelChange;
 };

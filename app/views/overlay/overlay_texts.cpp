@@ -15,7 +15,7 @@ int plural(Number count) {
     return static_cast<int>(std::min<Number>(count, std::numeric_limits<int>::max()));
 }
 
-OverlayMessage needsAccessibility(const Vocabulary& vocabulary) {
+MessageWords needsAccessibility(const Vocabulary& vocabulary) {
     return {
         .symbol = Symbol::handRaised,
         .title = QCoreApplication::translate("Overlay", "Quillon needs Accessibility to read menus"),
@@ -25,7 +25,7 @@ OverlayMessage needsAccessibility(const Vocabulary& vocabulary) {
     };
 }
 
-OverlayMessage noSheet(const QString& trigger) {
+MessageWords noSheet(const QString& trigger) {
     return {
         .symbol = Symbol::keyboard,
         .title = QCoreApplication::translate("Overlay", "Switch to an app, then hold %1").arg(trigger),
@@ -34,7 +34,7 @@ OverlayMessage noSheet(const QString& trigger) {
     };
 }
 
-OverlayMessage reading(const QString& appName) {
+MessageWords reading(const QString& appName) {
     return {
         .symbol = Symbol::hourglass,
         .title = QCoreApplication::translate("Overlay", "Reading %1’s menus…").arg(appName),
@@ -43,7 +43,7 @@ OverlayMessage reading(const QString& appName) {
     };
 }
 
-OverlayMessage noShortcuts(const QString& appName, const Vocabulary& vocabulary) {
+MessageWords noShortcuts(const QString& appName, const Vocabulary& vocabulary) {
     return {
         .symbol = Symbol::menuBarRectangle,
         .title = QCoreApplication::translate("Overlay", "No menu shortcuts in %1").arg(appName),
@@ -56,7 +56,7 @@ OverlayMessage noShortcuts(const QString& appName, const Vocabulary& vocabulary)
 
 } // namespace
 
-OverlayMessage
+MessageWords
 message(OverlayState state, const QString& appName, const QString& trigger, const Vocabulary& vocabulary) {
     switch (state) {
     case OverlayState::needsAccessibility: return needsAccessibility(vocabulary);
@@ -64,7 +64,7 @@ message(OverlayState state, const QString& appName, const QString& trigger, cons
     case OverlayState::reading: return reading(appName);
     case OverlayState::noShortcuts: return noShortcuts(appName, vocabulary);
     case OverlayState::noAnswer: {
-        OverlayMessage message = noShortcuts(appName, vocabulary);
+        MessageWords message = noShortcuts(appName, vocabulary);
         message.body +=
             u'\n' + QCoreApplication::translate("Overlay", "%1 does not answer now.").arg(appName);
         return message;
@@ -74,7 +74,7 @@ message(OverlayState state, const QString& appName, const QString& trigger, cons
     return {};
 }
 
-OverlayMessage nothingMatches(const QString& query) {
+MessageWords nothingMatches(const QString& query) {
     const QString pattern = QCoreApplication::translate("Overlay", "Nothing matches “%1”");
     return {
         .symbol = std::nullopt,

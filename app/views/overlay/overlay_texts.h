@@ -2,36 +2,23 @@
 
 #include "overlay_state.h"
 
-#include <quillon/app/views/components/symbols.h>
-#include <quillon/app/views/components/text_part.h>
+#include <quillon/app/views/components/message_words.h>
 #include <quillon/app/views/components/vocabulary.h>
 
 #include <QString>
 
 #include <cstddef>
-#include <optional>
 
 namespace quillon {
-
-/// A state that is told in words instead of shortcuts.
-struct OverlayMessage {
-    std::optional<Symbol> symbol;
-    QString title;
-    QString body;            ///< may be empty, or of several lines
-    QString action;          ///< label of the button; empty for none
-    TextPart shortened = {}; ///< of the title, where it does not fit
-
-    bool operator==(const OverlayMessage&) const = default;
-};
 
 /// The sentences of the overlay, whole and ready to be translated.
 namespace OverlayTexts {
 
 /// Of every state but `shortcuts`.
-OverlayMessage
+MessageWords
 message(OverlayState state, const QString& appName, const QString& trigger, const Vocabulary& vocabulary);
 /// In place of the columns when the query finds nothing.
-OverlayMessage nothingMatches(const QString& query);
+MessageWords nothingMatches(const QString& query);
 
 /// "59 shortcuts from its menus"
 QString allShortcuts(std::size_t count);

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "message_view.h"
 #include "overlay_footer.h"
 #include "overlay_header.h"
 #include "overlay_state.h"
 #include "shortcut_area.h"
 
 #include <quillon/app/core/app_model.h>
+#include <quillon/app/views/components/message_view.h>
 #include <quillon/app/views/components/rounded_background.h>
 #include <quillon/app/views/sheet/searched_sheet.h>
 

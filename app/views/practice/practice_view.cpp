@@ -8,7 +8,6 @@
 #include <quillon/app/languages/translated_keys.h>
 #include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/foreign_text.h>
-#include <quillon/app/views/components/symbol_view.h>
 #include <quillon/app/views/components/text.h>
 #include <quillon/kit/shortcut/key_names.h>
 
@@ -26,9 +25,7 @@ namespace quillon {
 namespace {
 
 constexpr int padding = 24;
-constexpr int spacing = 12;
 constexpr int pageGap = 20;
-constexpr int emptySymbolSize = 34;
 constexpr Count roundLength = 10;
 
 struct AppChoice {
@@ -68,8 +65,9 @@ PracticeView::Draw PracticeView::drawByChance() {
 
 PracticeView::PracticeView(AppModel& model, ThemeSource& themeSource, Draw draw, QWidget* parent)
     : ThemedWidget(themeSource, parent), m_model(model), m_draw(std::move(draw)),
-      m_practice(new QWidget(this)), m_empty(makeEmpty()), m_apps(new DropDown(themeSource, m_practice)),
-      m_start(makeStart()), m_question(new QuestionPage(themeSource, m_practice)),
+      m_practice(new QWidget(this)), m_empty(new MessageView(themeSource, this)),
+      m_apps(new DropDown(themeSource, m_practice)), m_start(makeStart()),
+      m_question(new QuestionPage(themeSource, m_practice)),
       m_results(new ResultsPage(themeSource, m_practice)), m_pages(new QStackedLayout) {
     layOut();
     m_apps->setAccessibleName(PracticeTexts::chooseApp());
@@ -107,26 +105,6 @@ QWidget* PracticeView::makeStart() {
     return start;
 }
 
-QWidget* PracticeView::makeEmpty() {
-    auto* empty = new QWidget(this);
-    auto* title = new ThemedLabel(
-        themes(), [](const TextStyles& styles) { return styles.title; }, &Palette::primary, empty);
-    title->setText(PracticeTexts::noApps());
-    title->setAlignment(Qt::AlignCenter);
-    m_emptyBody = sentence(themes(), empty);
-    auto* column = new QVBoxLayout(empty);
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(spacing);
-    column->addStretch(1);
-    column->addWidget(
-        new SymbolView(themes(), Symbol::graduationCap, emptySymbolSize, &Palette::secondary, empty), 0,
-        Qt::AlignHCenter);
-    column->addWidget(title);
-    column->addWidget(m_emptyBody);
-    column->addStretch(1);
-    return empty;
-}
-
 void PracticeView::layOut() {
     auto* title = new ThemedLabel(
         themes(), [](const TextStyles& styles) { return bold(styles.title2); }, &Palette::primary,
@@ -152,8 +130,10 @@ void PracticeView::layOut() {
 }
 
 void PracticeView::tellHowToBegin() {
-    m_emptyBody->setText(
-        PracticeTexts::noAppsBody(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels())));
+    m_empty->setMessage(
+        {.symbol = Symbol::graduationCap,
+         .title = PracticeTexts::noApps(),
+         .body = PracticeTexts::noAppsBody(modifierLabel(modifier(m_model.trigger()), m_model.keyLabels()))});
 }
 
 /// A sheet came or went. The round that runs is of what was known when it was drawn.

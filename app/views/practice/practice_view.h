@@ -3,6 +3,7 @@
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/core/practice_round.h>
 #include <quillon/app/views/components/drop_down.h>
+#include <quillon/app/views/components/message_view.h>
 #include <quillon/app/views/components/prominent_button.h>
 #include <quillon/app/views/components/themed_label.h>
 #include <quillon/app/views/components/themed_widget.h>
@@ -48,7 +49,6 @@ class PracticeView : public ThemedWidget {
 
   private:
     QWidget* makeStart();
-    QWidget* makeEmpty();
     void layOut();
     void tellHowToBegin();
     void followSheets();
@@ -65,8 +65,7 @@ class PracticeView : public ThemedWidget {
     std::string m_appID;
     PracticeRound m_round;
     QWidget* m_practice;
-    QWidget* m_empty;
-    ThemedLabel* m_emptyBody;
+    MessageView* m_empty;
     DropDown* m_apps;
     ThemedLabel* m_startText;
     ProminentButton* m_startButton;

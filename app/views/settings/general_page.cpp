@@ -3,6 +3,7 @@
 #include "settings_texts.h"
 
 #include <quillon/app/languages/translated_keys.h>
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/components/key_places.h>
 #include <quillon/app/views/components/symbol_view.h>
 
@@ -86,7 +87,7 @@ QWidget* GeneralPage::makeLauncherNotice(QWidget* parent) {
         m_trigger->setFocus();
         m_model.setTrigger(otherTrigger);
     });
-    row->addSpacing(FormRow::ringRoom);
+    row->addSpacing(focusRingRoom);
     row->addWidget(new SymbolView(
         themes(), Symbol::exclamationMarkTriangle, themes().theme().symbolSize() + 2, &Palette::badgeText,
         m_launcherNotice));
@@ -105,7 +106,7 @@ FormRow* GeneralPage::makeHoldTime() {
         new FigureLabel(themes(), secondsWidth, SettingsTexts::seconds(holdTenths.last / 10.0), control);
     line->addWidget(m_holdTime);
     line->addWidget(m_seconds);
-    line->addSpacing(FormRow::ringRoom);
+    line->addSpacing(focusRingRoom);
     connect(m_holdTime, &StepSlider::chosen, this, [this](double number) {
         m_model.setHoldDelay(Seconds(number));
     });
@@ -145,7 +146,7 @@ FormRow* GeneralPage::makeAccessibility() {
         themes(), Symbol::checkmarkCircleFill, themes().theme().symbolSize() + 2, &Palette::accent,
         m_allowed));
     allowed->addWidget(label);
-    allowed->addSpacing(FormRow::ringRoom);
+    allowed->addSpacing(focusRingRoom);
     either->addWidget(m_allow);
     either->addWidget(m_allowed);
     return new FormRow(themes(), SettingsTexts::accessibility(), control, this);

@@ -1,6 +1,7 @@
 #include "settings_page.h"
 
 #include <quillon/app/views/components/focus_ring.h>
+#include <quillon/app/views/components/themed_button.h>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -17,15 +18,14 @@ constexpr int groupGap = 14;
 
 SettingsPage::SettingsPage(ThemeSource& themes, QWidget* parent)
     : QWidget(parent), m_themes(themes), m_groups(new QVBoxLayout(this)) {
-    constexpr int sides = padding - focusRingRoom;
-    m_groups->setContentsMargins(sides, topPadding, sides, padding);
+    m_groups->setContentsMargins(padding - focusRingRoom, topPadding, padding - focusRingRoom, padding);
     m_groups->setSpacing(groupGap);
     m_groups->addStretch(1);
 }
 
 FormGroup* SettingsPage::addGroup() {
     auto* group = new FormGroup(m_themes, this);
-    auto* line = new QHBoxLayout;
+    auto* const line = new QHBoxLayout;
     line->setContentsMargins(focusRingRoom, 0, focusRingRoom, 0);
     line->addWidget(group);
     m_groups->insertLayout(m_groups->count() - 1, line);

@@ -1,5 +1,6 @@
 #include "settings_texts.h"
 
+#include <quillon/app/languages/shown_numbers.h>
 #include <quillon/kit/coach/nudge_policy.h>
 
 #include <QCoreApplication>
@@ -50,7 +51,7 @@ QString holdTime() {
 }
 
 QString seconds(double number) {
-    return QCoreApplication::translate("Settings", "%1 s").arg(QString::number(number, 'f', 1));
+    return QCoreApplication::translate("Settings", "%1 s").arg(withOneDecimal(number));
 }
 
 QString showKeysAs() {

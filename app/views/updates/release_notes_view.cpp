@@ -30,12 +30,13 @@ void ReleaseNotesView::wearTheme() {
     const Theme& theme = m_themes.theme();
     QPalette colours = theme.palette.forToolkit();
     colours.setColor(QPalette::Base, theme.palette.card);
-    colours.setColor(QPalette::Link, theme.palette.primary);
     setPalette(colours);
     // The frame of a group of rows.
     const QString frame =
         u"QTextBrowser { background: %1; border: 1px solid %2; border-radius: 10px; padding: 3px; }"_s;
     setStyleSheet(frame.arg(theme.palette.card.name(), theme.palette.cardBorder.name(QColor::HexArgb)));
+    // Links take their colour from the whole program's palette otherwise, which may still be another one.
+    document()->setDefaultStyleSheet(u"a { color: %1; }"_s.arg(colours.color(QPalette::Link).name()));
     document()->setDefaultFont(theme.styles.body);
     document()->setDocumentMargin(margin);
     setHtml(m_notes);

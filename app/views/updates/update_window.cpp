@@ -22,7 +22,7 @@ constexpr int textWidth = 430;
 } // namespace
 
 UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message& message)
-    : m_themes(themeSource), m_mark(new QLabel(this)), m_column(new QVBoxLayout), m_buttons(new QHBoxLayout) {
+    : m_themes(themeSource), m_mark(new QLabel(this)), m_texts(new QVBoxLayout), m_buttons(new QHBoxLayout) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(UpdateTexts::windowTitle());
     setAccessibleName(message.title);
@@ -38,20 +38,20 @@ UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message&
     text->setWordWrap(true);
     title->setMinimumWidth(textWidth);
     text->setMinimumWidth(textWidth);
-    auto* const texts = new QVBoxLayout;
-    texts->setContentsMargins(0, 0, focusRingRoom, 0);
-    texts->setSpacing(lineGap);
-    texts->addWidget(title);
-    texts->addWidget(text);
 
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
     row->setSpacing(markGap);
     row->addWidget(m_mark, 0, Qt::AlignTop);
-    row->addLayout(m_column, 1);
-    m_column->setSpacing(partGap - focusRingRoom);
-    m_column->addLayout(texts);
-    m_column->addLayout(m_buttons);
+    auto* const column = new QVBoxLayout;
+    row->addLayout(column, 1);
+    column->setSpacing(partGap);
+    column->addLayout(m_texts, 1);
+    column->addLayout(m_buttons);
+    m_texts->setSpacing(lineGap);
+    m_texts->setContentsMargins(0, 0, focusRingRoom, 0);
+    m_texts->addWidget(title);
+    m_texts->addWidget(text);
     m_buttons->setSpacing(buttonGap);
     m_buttons->addStretch(1);
 
@@ -60,10 +60,8 @@ UpdateWindow::UpdateWindow(ThemeSource& themeSource, const UpdateTexts::Message&
 }
 
 void UpdateWindow::addContent(QWidget* content) {
-    auto* const line = new QHBoxLayout;
-    line->setContentsMargins(0, focusRingRoom, focusRingRoom, 0);
-    line->addWidget(content);
-    m_column->insertLayout(m_column->count() - 1, line, 1);
+    m_texts->addSpacing(partGap - lineGap);
+    m_texts->addWidget(content, 1);
 }
 
 void UpdateWindow::addButton(const QString& label, std::function<void()> pressed) {

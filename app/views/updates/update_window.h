@@ -42,7 +42,7 @@ class UpdateWindow : public QDialog {
 
     ThemeSource& m_themes;
     QLabel* m_mark;
-    QVBoxLayout* m_column;
+    QVBoxLayout* m_texts;
     QHBoxLayout* m_buttons;
     Subscription m_subscription;
 };

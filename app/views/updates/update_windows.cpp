@@ -26,9 +26,11 @@ void UpdateWindows::tell(UpdateNotice notice) {
     present(message);
 }
 
-/// The latest message is the one that is true.
+/// The latest message is the one that is true. It may be asked for by a button of the one before, which then
+/// still has to return.
 UpdateWindow& UpdateWindows::makeMessage(const UpdateTexts::Message& message) {
-    delete m_message;
+    if (m_message)
+        m_message->close();
     m_message = new UpdateWindow(m_needs.themes, message);
     return *m_message;
 }

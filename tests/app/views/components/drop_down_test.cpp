@@ -27,6 +27,18 @@ TEST_F(DropDownTest, GrowsWithItsChoicesButNotWithoutEnd) {
     EXPECT_LT(choices.sizeHint().width(), 320);
 }
 
+TEST_F(DropDownTest, ShowsItsChoiceWholeAtEverySize) {
+    for (const QString& choice : {u"Command"_s, u"Symbols"_s, u"Control"_s}) {
+        choices.clear();
+        choices.addItem(choice);
+        for (double points = 7; points < 24; points += 0.5) {
+            appearance.set({ColourScheme::light, {}, points});
+            choices.resize(choices.sizeHint());
+            EXPECT_EQ(choices.shownText(), choice) << points;
+        }
+    }
+}
+
 TEST_F(DropDownTest, OpensAListThatIsCutRoundAndShowsAllChoices) {
     for (const QString& choice : {u"One"_s, u"Two"_s, u"Three"_s})
         choices.addItem(choice);

@@ -57,6 +57,8 @@ TEST_P(PaletteTest, ToolkitWidgetsAreReadableToo) {
     EXPECT_GE(contrast(QPalette::HighlightedText, QPalette::Highlight), 4.5);
     EXPECT_GE(contrast(QPalette::ToolTipText, QPalette::ToolTipBase), 4.5);
     EXPECT_GE(contrast(QPalette::PlaceholderText, QPalette::Base), 4.5);
+    EXPECT_GE(contrast(QPalette::Link, QPalette::Base), 4.5);
+    EXPECT_GE(contrast(QPalette::Link, QPalette::Window), 4.5);
 }
 
 INSTANTIATE_TEST_SUITE_P(

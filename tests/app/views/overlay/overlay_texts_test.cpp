@@ -8,12 +8,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-OverlayMessage messageOn(const Vocabulary& platform, OverlayState state) {
+MessageWords messageOn(const Vocabulary& platform, OverlayState state) {
     return OverlayTexts::message(state, u"Sketchpad"_s, u"⌘"_s, platform);
 }
 
 TEST(OverlayTexts, AskForPermissionInThePlatformsWords) {
-    const OverlayMessage mac = messageOn(Vocabulary::macOS(), OverlayState::needsAccessibility);
+    const MessageWords mac = messageOn(Vocabulary::macOS(), OverlayState::needsAccessibility);
     EXPECT_EQ(mac.symbol, Symbol::handRaised);
     EXPECT_EQ(mac.title, u"Quillon needs Accessibility to read menus"_s);
     EXPECT_EQ(
@@ -21,7 +21,7 @@ TEST(OverlayTexts, AskForPermissionInThePlatformsWords) {
         u"Allow it once in System Settings > Privacy & Security > Accessibility. Nothing leaves your Mac."_s);
     EXPECT_EQ(mac.action, u"Show Me How"_s);
 
-    const OverlayMessage here = messageOn(Vocabulary::linuxDesktop(), OverlayState::needsAccessibility);
+    const MessageWords here = messageOn(Vocabulary::linuxDesktop(), OverlayState::needsAccessibility);
     EXPECT_EQ(
         here.body,
         u"Allow it once in your desktop’s accessibility settings. Nothing leaves your computer."_s);
@@ -33,13 +33,13 @@ TEST(OverlayTexts, TellEveryOtherState) {
     const Vocabulary& mac = Vocabulary::macOS();
     EXPECT_EQ(
         messageOn(mac, OverlayState::noSheet),
-        (OverlayMessage{Symbol::keyboard, u"Switch to an app, then hold ⌘"_s, {}, {}, {}}));
+        (MessageWords{Symbol::keyboard, u"Switch to an app, then hold ⌘"_s, {}, {}, {}}));
     EXPECT_EQ(
         messageOn(mac, OverlayState::reading),
-        (OverlayMessage{Symbol::hourglass, u"Reading Sketchpad’s menus…"_s, {}, {}}));
+        (MessageWords{Symbol::hourglass, u"Reading Sketchpad’s menus…"_s, {}, {}}));
     EXPECT_EQ(
         messageOn(mac, OverlayState::noShortcuts),
-        (OverlayMessage{
+        (MessageWords{
             Symbol::menuBarRectangle,
             u"No menu shortcuts in Sketchpad"_s,
             u"Some apps draw their own menus, which macOS doesn’t share."_s,
@@ -61,14 +61,14 @@ TEST(OverlayTexts, CountAndCloseInPlainWords) {
 }
 
 TEST(OverlayTexts, OnlyTheQueryIsShortened) {
-    const OverlayMessage message = OverlayTexts::nothingMatches(u"N%1"_s);
+    const MessageWords message = OverlayTexts::nothingMatches(u"N%1"_s);
     EXPECT_EQ(message.title, u"Nothing matches “N%1”"_s);
     EXPECT_EQ(message.title.mid(message.shortened.start, message.shortened.length), u"N%1"_s);
 }
 
 TEST(OverlayTexts, AnApplicationThatDoesNotAnswerIsSaidBelowTheEmptyStatesOwnWords) {
-    const OverlayMessage empty = messageOn(Vocabulary::linuxDesktop(), OverlayState::noShortcuts);
-    const OverlayMessage message = messageOn(Vocabulary::linuxDesktop(), OverlayState::noAnswer);
+    const MessageWords empty = messageOn(Vocabulary::linuxDesktop(), OverlayState::noShortcuts);
+    const MessageWords message = messageOn(Vocabulary::linuxDesktop(), OverlayState::noAnswer);
     EXPECT_EQ(message.title, empty.title);
     EXPECT_EQ(message.body, empty.body + u"\nSketchpad does not answer now."_s);
 }

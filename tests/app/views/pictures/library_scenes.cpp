@@ -1,4 +1,4 @@
-#include "window_scenes.h"
+#include "scenes.h"
 
 #include <quillon/app/views/library/app_list.h>
 #include <quillon/app/views/library/library_detail.h>
@@ -24,16 +24,17 @@ namespace {
 using Prepare = std::function<void(ViewDesk&)>;
 using Use = std::function<void(LibraryView&)>;
 
-WindowScene library(QString name, Prepare prepare, Use use = {}) {
+Scene library(QString name, Prepare prepare, Use use = {}) {
     auto show = [prepare = std::move(prepare), use = std::move(use)](ViewDesk& desk) {
         prepare(desk);
-        auto view = std::make_unique<LibraryView>(desk.model, desk.themes, desk.icons, desk.desktop.clock);
-        view->resize(820, 560);
-        view->show();
-        makeActive(*view);
+        LibraryView& view = keep(
+            desk, std::make_unique<LibraryView>(desk.model, desk.themes, desk.icons, desk.desktop.clock));
+        view.resize(820, 560);
+        view.show();
+        makeActive(view);
         if (use)
-            use(*view);
-        return view;
+            use(view);
+        return &view;
     };
     return {std::move(name), std::move(show)};
 }
@@ -99,7 +100,7 @@ Use search(const QString& query) {
 
 } // namespace
 
-std::vector<WindowScene> libraryScenes() {
+std::vector<Scene> libraryScenes() {
     const auto nothing = [](ViewDesk&) {};
     const auto toDetail = [](LibraryView& view) {
         chooseLast(view);

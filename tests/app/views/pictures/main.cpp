@@ -2,8 +2,6 @@
 #include "scenes.h"
 #include "symbol_pictures.h"
 #include "tray_pictures.h"
-#include "update_scenes.h"
-#include "window_scenes.h"
 
 #include <quillon/app/languages/translations.h>
 #include <quillon/app/views/components/text.h>
@@ -18,9 +16,7 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
-#include <memory>
 #include <vector>
 
 namespace quillon {
@@ -49,74 +45,34 @@ QPixmap onDesktop(QWidget& panel, ColourScheme scheme) {
 }
 
 bool draw(const Scene& scene, const Look& look, KeyLabels keys, const QString& path) {
-    ViewDesk desk;
-    desk.settings.setKeyLabels(keys);
-    desk.desktop.appearance.set(look);
-    scene.show(desk);
-    QApplication::processEvents();
-    QWidget* panel = shownPanel();
-    return panel && onDesktop(*panel, look.scheme).save(path);
-}
-
-bool drawTrayMenu(const TrayMenuScene& scene, const Look& look, const QString& path) {
-    ViewDesk desk;
-    desk.desktop.appearance.set(look);
-    PopUpMenu menu(desk.themes, [](int) {});
-    menu.setItems(trayLines(scene.facts));
-    menu.popUp({0, 0});
-    QApplication::processEvents();
-    return onDesktop(menu.menu(), look.scheme).save(path);
-}
-
-bool drawWindow(const WindowScene& scene, const Look& look, KeyLabels keys, const QString& path) {
-    ViewDesk desk;
+    ViewDesk desk; // gives the toolkit the look
     desk.desktop.appearance.set(look);
     desk.settings.setKeyLabels(keys);
-    const std::unique_ptr<QWidget> window = scene.show(desk);
+    QWidget* const shown = scene.show(desk);
     QApplication::processEvents();
     QApplication::processEvents(); // what a window does about its new parts it does a moment later
-    QWidget* const part = scene.part ? scene.part(*window) : window.get();
-    return part && onDesktop(*part, look.scheme).save(path);
+    return shown && onDesktop(*shown, look.scheme).save(path);
 }
 
-/// Any picture, by its name.
-struct Picture {
-    QString name;
-    std::function<bool(const Look& look, const QString& path)> draw;
-};
-
-std::vector<Picture> allPictures(KeyLabels keys) {
-    std::vector<Picture> pictures;
-    const auto add = [&pictures](const auto& scenes, const auto& drawOne) {
-        for (const auto& scene : scenes)
-            pictures.push_back({scene.name, [scene, drawOne](const Look& look, const QString& path) {
-                                    return drawOne(scene, look, path);
-                                }});
-    };
-    const auto drawPanel = [keys](const Scene& scene, const Look& look, const QString& path) {
-        return draw(scene, look, keys, path);
-    };
-    for (const auto& scenes : {overlayScenes(), toastScenes(), updateScenes()})
-        add(scenes, drawPanel);
-    const auto drawOneWindow = [keys](const WindowScene& scene, const Look& look, const QString& path) {
-        return drawWindow(scene, look, keys, path);
-    };
-    for (const auto& scenes : {libraryScenes(), practiceScenes(), settingsScenes(), welcomeScenes()})
-        add(scenes, drawOneWindow);
-    add(trayMenuScenes(), drawTrayMenu);
-    return pictures;
+std::vector<Scene> allScenes() {
+    std::vector<Scene> all;
+    for (auto scenes :
+         {overlayScenes(), toastScenes(), updateScenes(), libraryScenes(), practiceScenes(), settingsScenes(),
+          welcomeScenes(), trayMenuScenes()})
+        std::ranges::move(scenes, std::back_inserter(all));
+    return all;
 }
 
 int drawAll(const QString& folder, const QString& only, KeyLabels keys, Look look) {
-    const std::vector<Picture> pictures = allPictures(keys);
+    const std::vector<Scene> scenes = allScenes();
     for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
         look.scheme = scheme;
         const QString suffix = scheme == ColourScheme::dark ? u"-dark"_s : u"-light"_s;
-        for (const Picture& picture : pictures) {
-            if (!picture.name.contains(only))
+        for (const Scene& scene : scenes) {
+            if (!scene.name.contains(only))
                 continue;
-            const QString path = QDir(folder).filePath(picture.name + suffix + u".png"_s);
-            if (!picture.draw(look, path)) {
+            const QString path = QDir(folder).filePath(scene.name + suffix + u".png"_s);
+            if (!draw(scene, look, keys, path)) {
                 QTextStream(stderr) << "cannot draw " << path << Qt::endl;
                 return 1;
             }

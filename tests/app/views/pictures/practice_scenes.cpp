@@ -1,4 +1,4 @@
-#include "window_scenes.h"
+#include "scenes.h"
 
 #include <quillon/app/views/practice/practice_view.h>
 #include <quillon/kit/menu/sample_menus.h>
@@ -66,43 +66,51 @@ void send(const Press& press) {
         QApplication::sendEvent(focused, &event);
 }
 
-WindowScene practice(QString name, std::vector<std::string> apps, std::vector<Press> presses = {}) {
+/// With these applications, and what their user pressed so far.
+PracticeView&
+practised(ViewDesk& desk, const std::vector<std::string>& apps, const std::vector<Press>& presses) {
+    std::int64_t pid = 2;
+    for (const std::string& app : apps)
+        read(desk, pid++, app);
+    PracticeView& view = keep(
+        desk, std::make_unique<PracticeView>(
+                  desk.model, desk.themes,
+                  [](const AppSheet& sheet, const UsageRecords&, const PracticeDeck::Ids&) {
+                      return sheet.entries;
+                  }));
+    view.resize(QSize(480, 420).expandedTo(view.sizeHint()));
+    view.show();
+    makeActive(view);
+    QApplication::processEvents();
+    for (const Press& press : presses)
+        send(press);
+    return view;
+}
+
+Scene practice(QString name, std::vector<std::string> apps, std::vector<Press> presses = {}) {
     auto show = [apps = std::move(apps), presses = std::move(presses)](ViewDesk& desk) {
-        std::int64_t pid = 2;
-        for (const std::string& app : apps)
-            read(desk, pid++, app);
-        auto view = std::make_unique<PracticeView>(
-            desk.model, desk.themes,
-            [](const AppSheet& sheet, const UsageRecords&, const PracticeDeck::Ids&) {
-                return sheet.entries;
-            });
-        view->resize(QSize(480, 420).expandedTo(view->sizeHint()));
-        view->show();
-        makeActive(*view);
-        QApplication::processEvents();
-        for (const Press& press : presses)
-            send(press);
-        return view;
+        return &practised(desk, apps, presses);
     };
     return {std::move(name), std::move(show)};
 }
 
-QWidget* choicesOf(QWidget& view) {
-    auto* const apps = view.findChild<QComboBox*>();
-    apps->showPopup();
-    return apps->view()->window();
+Scene choices(QString name, std::vector<std::string> apps) {
+    auto show = [apps = std::move(apps)](ViewDesk& desk) {
+        auto* const box = practised(desk, apps, {}).findChild<QComboBox*>();
+        box->showPopup();
+        return box->view()->window();
+    };
+    return {std::move(name), std::move(show)};
 }
 
 } // namespace
 
-std::vector<WindowScene> practiceScenes() {
+std::vector<Scene> practiceScenes() {
     const std::vector<std::string> apps{"Sketchpad", "Calculator", "Writer"};
     const Press save{Qt::Key_S, Qt::ControlModifier};
     const Press find{Qt::Key_H, Qt::ControlModifier};
     const Press paste{Qt::Key_V, Qt::ControlModifier};
     const Press undo{Qt::Key_Z, Qt::ControlModifier};
-    WindowScene choices = practice(u"practice-choices"_s, apps);
-    choices.part = choicesOf;
     return {
         practice(u"practice-empty"_s, {}),
         practice(u"practice-start"_s, apps),
@@ -117,7 +125,7 @@ std::vector<WindowScene> practiceScenes() {
             u"practice-clean"_s, apps,
             {onButton, save, onButton, find, onButton, paste, onButton, undo, onButton}),
         practice(u"practice-long-name"_s, {"The Application With a Rather Long Name for Its Menu"}),
-        std::move(choices),
+        choices(u"practice-choices"_s, apps),
     };
 }
 

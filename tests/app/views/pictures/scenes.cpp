@@ -12,19 +12,17 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The panel on the screen; null when there is none.
 QWidget* shownPanel() {
+    QApplication::processEvents();
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->isVisible() && dynamic_cast<FloatingPanel*>(widget))
             return widget;
     }
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible())
-            return widget;
-    }
     return nullptr;
 }
-
-namespace {
 
 /// Stand-in for an application's icon: a disc on a rounded square.
 IconPixels madeUpIcon() {
@@ -80,8 +78,10 @@ Scene overlay(QString name, Prepare prepare, Stickiness stickiness, QString quer
         prepare(desk);
         desk.model.showOverlay(stickiness);
         desk.model.setQuery(utf8(query));
+        QWidget* const panel = shownPanel();
         if (stickiness == Stickiness::sticky)
-            makeActive(*shownPanel());
+            makeActive(*panel);
+        return panel;
     };
     return {std::move(name), std::move(show)};
 }
@@ -89,6 +89,7 @@ Scene overlay(QString name, Prepare prepare, Stickiness stickiness, QString quer
 Scene toast(QString name, std::string title, Shortcut shortcut) {
     auto show = [entry = MenuEntry{{"File", std::move(title)}, std::move(shortcut), true}](ViewDesk& desk) {
         desk.clickInMenu(entry);
+        return shownPanel();
     };
     return {std::move(name), std::move(show)};
 }

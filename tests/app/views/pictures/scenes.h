@@ -6,6 +6,8 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -13,13 +15,25 @@ namespace quillon {
 /// One picture: how to bring a desk into the state that it shows.
 struct Scene {
     QString name;
-    std::function<void(ViewDesk&)> show; ///< a panel or a window
+    /// What the picture is of; null when it is not there. Lives as long as the desk.
+    std::function<QWidget*(ViewDesk&)> show;
 };
 
-/// The panel on the screen, else a window; null when there is none.
-QWidget* shownPanel();
+/// Leaves something to the desk.
+template <class Kept>
+Kept& keep(ViewDesk& desk, std::unique_ptr<Kept> what) {
+    Kept& kept = *what;
+    desk.kept = std::shared_ptr<Kept>(std::move(what));
+    return kept;
+}
 
+std::vector<Scene> libraryScenes();
 std::vector<Scene> overlayScenes();
+std::vector<Scene> practiceScenes();
+std::vector<Scene> settingsScenes();
 std::vector<Scene> toastScenes();
+std::vector<Scene> trayMenuScenes();
+std::vector<Scene> updateScenes();
+std::vector<Scene> welcomeScenes();
 
 } // namespace quillon

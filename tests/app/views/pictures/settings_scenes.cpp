@@ -1,4 +1,4 @@
-#include "window_scenes.h"
+#include "scenes.h"
 
 #include <quillon/app/views/settings/settings_view.h>
 #include <quillon/tests/support/widgets/active_window.h>
@@ -15,42 +15,62 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Prepare = std::function<void(ViewDesk&)>;
-using Use = std::function<void(SettingsView&)>;
+/// Gives what the picture is of.
+using Use = std::function<QWidget*(SettingsView&)>;
 
-std::unique_ptr<QWidget> shown(ViewDesk& desk, SettingsTab tab, const Use& use) {
+SettingsView& shown(ViewDesk& desk, SettingsTab tab) {
     desk.model.setSettingsTab(tab);
-    auto view = std::make_unique<SettingsView>(
-        desk.model, desk.themes,
-        SettingsView::Needs{
-            desk.desktop.sessionStart, desk.desktop.launcherKey, u"~/.local/share/app.quillon.Quillon"_s});
-    view->resize(view->sizeHint());
-    view->show();
-    makeActive(*view);
-    if (use)
-        use(*view);
+    SettingsView& view = keep(
+        desk, std::make_unique<SettingsView>(
+                  desk.model, desk.themes,
+                  SettingsView::Needs{
+                      desk.desktop.sessionStart, desk.desktop.launcherKey,
+                      u"~/.local/share/app.quillon.Quillon"_s}));
+    view.resize(view.sizeHint());
+    view.show();
+    makeActive(view);
     return view;
 }
 
-WindowScene settings(QString name, SettingsTab tab, Prepare prepare = {}, Use use = {}) {
-    auto show = [tab, prepare = std::move(prepare), use = std::move(use)](ViewDesk& desk) {
+Scene settings(QString name, SettingsTab tab, Prepare prepare = {}, Use use = {}) {
+    auto show = [tab, prepare = std::move(prepare), use = std::move(use)](ViewDesk& desk) -> QWidget* {
         if (prepare)
             prepare(desk);
-        return shown(desk, tab, use);
+        SettingsView& view = shown(desk, tab);
+        return use ? use(view) : &view;
     };
     return {std::move(name), std::move(show)};
 }
 
-QWidget* confirmationOf(QWidget& view) {
-    return static_cast<SettingsView&>(view).privacy().confirmation();
+QWidget* toHoldTime(SettingsView& view) {
+    view.general().holdTime().setFocus(Qt::TabFocusReason);
+    return &view;
 }
 
-QWidget* choicesOf(QWidget& view) {
-    return static_cast<SettingsView&>(view).general().trigger().view()->window();
+QWidget* toNudges(SettingsView& view) {
+    view.coach().nudges().setFocus(Qt::TabFocusReason);
+    return &view;
+}
+
+QWidget* pressStart(SettingsView& view) {
+    view.general().start().click();
+    return &view;
+}
+
+QWidget* pressErase(SettingsView& view) {
+    view.privacy().erase().click();
+    return view.privacy().confirmation();
+}
+
+QWidget* openChoices(SettingsView& view) {
+    DropDown& trigger = view.general().trigger();
+    trigger.showPopup();
+    return trigger.view()->window();
 }
 
 } // namespace
 
-std::vector<WindowScene> settingsScenes() {
+std::vector<Scene> settingsScenes() {
     const auto trusted = [](ViewDesk& desk) {
         desk.trust();
         desk.desktop.sessionStart.setOn(true);
@@ -66,30 +86,16 @@ std::vector<WindowScene> settingsScenes() {
         look.fontPoints = 17;
         desk.desktop.appearance.set(look);
     };
-    WindowScene erase = settings(u"settings-erase"_s, SettingsTab::privacy, {}, [](SettingsView& view) {
-        view.privacy().erase().click();
-    });
-    erase.part = confirmationOf;
-    WindowScene choices = settings(u"settings-choices"_s, SettingsTab::general, {}, [](SettingsView& view) {
-        view.general().trigger().showPopup();
-    });
-    choices.part = choicesOf;
     return {
         settings(u"settings-general"_s, SettingsTab::general, trusted),
-        settings(
-            u"settings-general-focus"_s, SettingsTab::general, {},
-            [](SettingsView& view) { view.general().holdTime().setFocus(Qt::TabFocusReason); }),
+        settings(u"settings-general-focus"_s, SettingsTab::general, {}, toHoldTime),
         settings(u"settings-general-launcher"_s, SettingsTab::general, conflict),
-        settings(
-            u"settings-general-problem"_s, SettingsTab::general, troubled,
-            [](SettingsView& view) { view.general().start().click(); }),
+        settings(u"settings-general-problem"_s, SettingsTab::general, troubled, pressStart),
         settings(u"settings-general-large"_s, SettingsTab::general, large),
-        settings(
-            u"settings-coach"_s, SettingsTab::coach, {},
-            [](SettingsView& view) { view.coach().nudges().setFocus(Qt::TabFocusReason); }),
+        settings(u"settings-coach"_s, SettingsTab::coach, {}, toNudges),
         settings(u"settings-privacy"_s, SettingsTab::privacy),
-        std::move(erase),
-        std::move(choices),
+        settings(u"settings-erase"_s, SettingsTab::privacy, {}, pressErase),
+        settings(u"settings-choices"_s, SettingsTab::general, {}, openChoices),
     };
 }
 

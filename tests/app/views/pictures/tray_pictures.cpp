@@ -10,8 +10,6 @@
 
 namespace quillon {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr std::array sizes{16, 18, 20, 22, 24, 32, 44, 48, 64};
@@ -24,13 +22,6 @@ QImage imageOf(const IconPixels& icon) {
 }
 
 } // namespace
-
-std::vector<TrayMenuScene> trayMenuScenes() {
-    return {
-        {u"tray-menu"_s, {.trusted = true, .appName = "Sketchpad"}},
-        {u"tray-menu-not-allowed"_s, {.trusted = false, .appName = {}, .trigger = TriggerKey::option}},
-    };
-}
 
 QPixmap trayIconPicture(int enlargement) {
     const int width = std::accumulate(sizes.begin(), sizes.end(), gap * static_cast<int>(sizes.size() + 1));

@@ -1,8 +1,11 @@
-#include "update_scenes.h"
+#include "scenes.h"
 
 #include <quillon/app/core/updates/release.h>
 #include <quillon/app/core/updates/release_notes.h>
 #include <quillon/app/views/updates/update_windows.h>
+
+#include <QApplication>
+#include <QDialog>
 
 #include <memory>
 #include <string>
@@ -15,20 +18,28 @@ using namespace Qt::StringLiterals;
 namespace {
 
 UpdateWindows& windowsOn(ViewDesk& desk) {
-    auto windows = std::make_shared<UpdateWindows>(UpdateWindows::Needs{
-        .themes = desk.themes,
-        .foreground = desk.desktop.foreground,
-        .pages = desk.desktop.softwarePages,
-        .version = "0.1.0",
-        .dismissed = [](const std::string&) {}});
-    desk.kept = windows;
-    return *windows;
+    return keep(
+        desk, std::make_unique<UpdateWindows>(UpdateWindows::Needs{
+                  .themes = desk.themes,
+                  .foreground = desk.desktop.foreground,
+                  .pages = desk.desktop.softwarePages,
+                  .version = "0.1.0",
+                  .dismissed = [](const std::string&) {}}));
+}
+
+/// The only dialogue on the screen.
+QWidget* shownDialog() {
+    for (QWidget* const widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && qobject_cast<QDialog*>(widget))
+            return widget;
+    return nullptr;
 }
 
 Scene message(QString name, UpdateNotice notice) {
     auto show = [notice](ViewDesk& desk) {
         desk.desktop.softwarePages.hasCentre = true;
         windowsOn(desk).tell(notice);
+        return shownDialog();
     };
     return {std::move(name), std::move(show)};
 }
@@ -43,6 +54,7 @@ Scene newerRelease(QString name, std::string notes) {
              .notesPage = "https://example.org/notes",
              .page = "https://example.org/download"},
             Occasion::asked);
+        return shownDialog();
     };
     return {std::move(name), std::move(show)};
 }

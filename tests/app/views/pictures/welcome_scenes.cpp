@@ -1,4 +1,4 @@
-#include "window_scenes.h"
+#include "scenes.h"
 
 #include <quillon/app/views/welcome/welcome_view.h>
 
@@ -14,20 +14,21 @@ namespace {
 
 using Prepare = std::function<void(ViewDesk&)>;
 
-WindowScene welcome(QString name, Prepare prepare = {}, QSize size = {}) {
+Scene welcome(QString name, Prepare prepare = {}, QSize size = {}) {
     auto show = [prepare = std::move(prepare), size](ViewDesk& desk) {
-        auto view = std::make_unique<WelcomeView>(
-            desk.model, desk.themes,
-            WelcomeNeeds{
-                .timers = desk.desktop.timers,
-                .silentApps = desk.desktop.silentApps,
-                .launcherKey = desk.desktop.launcherKey,
-                .tray = desk.desktop.tray});
-        view->resize(size.isEmpty() ? view->sizeHint() : size.expandedTo(view->minimumSizeHint()));
-        view->show();
+        WelcomeView& view = keep(
+            desk, std::make_unique<WelcomeView>(
+                      desk.model, desk.themes,
+                      WelcomeNeeds{
+                          .timers = desk.desktop.timers,
+                          .silentApps = desk.desktop.silentApps,
+                          .launcherKey = desk.desktop.launcherKey,
+                          .tray = desk.desktop.tray}));
+        view.resize(size.isEmpty() ? view.sizeHint() : size.expandedTo(view.minimumSizeHint()));
+        view.show();
         if (prepare)
             prepare(desk);
-        return view;
+        return &view;
     };
     return {std::move(name), std::move(show)};
 }
@@ -55,7 +56,7 @@ void everything(ViewDesk& desk) {
 
 } // namespace
 
-std::vector<WindowScene> welcomeScenes() {
+std::vector<Scene> welcomeScenes() {
     const auto trusted = [](ViewDesk& desk) { desk.trust(); };
     const auto option = [](ViewDesk& desk) { desk.model.setTrigger(TriggerKey::option); };
     return {

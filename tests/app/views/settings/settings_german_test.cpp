@@ -39,6 +39,11 @@ TEST_F(GermanSettingsTest, CallKeysAsAGermanKeyboardDoes) {
                           "Übersicht nie."_s));
 }
 
+TEST_F(GermanSettingsTest, WriteNumbersAsGermansDo) {
+    desk.model.setHoldDelay(Seconds(1.2));
+    EXPECT_EQ(read(view->general().holdTime()).text(QAccessible::Value), u"1,2 s"_s);
+}
+
 TEST_F(GermanSettingsTest, TellHowOftenInTheRightForm) {
     openTab(SettingsTab::coach);
     EXPECT_THAT(texts(), Contains(testing::Truly([](const QString& text) {

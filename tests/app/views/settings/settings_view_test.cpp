@@ -1,5 +1,6 @@
 #include "settings_fixture.h"
 
+#include <quillon/app/views/components/focus_ring.h>
 #include <quillon/app/views/settings/shown_path.h>
 
 #include <QScrollArea>
@@ -204,6 +205,18 @@ TEST_F(PrivacyPageTest, EraseIsReachedByTheKeyboard) {
     EXPECT_TRUE(confirmation.destroyButton().hasFocus());
     QTest::keyClick(confirmation.focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(desk.model.current());
+}
+
+TEST_F(PrivacyPageTest, ButtonsEndWhereTheirColumnDoes) {
+    const auto right = [](const QWidget& widget, const QWidget& window) {
+        return widget.mapTo(&window, QPoint(widget.width(), 0)).x();
+    };
+    EXPECT_EQ(right(page().erase(), *view) - focusRingRoom, right(*page().findChild<FormGroup*>(), *view));
+    pressErase();
+    Confirmation& confirmation = *page().confirmation();
+    EXPECT_EQ(
+        right(confirmation.destroyButton(), confirmation) - focusRingRoom,
+        right(*confirmation.findChild<ThemedLabel*>(), confirmation));
 }
 
 TEST(ShownPathTest, WhatLiesInTheHomeBeginsWithATilde) {

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextCursor>
 
 #include <string>
 
@@ -62,6 +63,21 @@ TEST_F(ReleaseNotesViewTest, ALinkIsReachedAndFollowedWithTheKeyboard) {
 TEST_F(ReleaseNotesViewTest, LoadsNothing) {
     ReleaseNotesView view(themes, "<img src=\"file:///etc/passwd\">");
     EXPECT_FALSE(view.loadResource(QTextDocument::ImageResource, QUrl(u"file:///etc/passwd"_s)).isValid());
+}
+
+/// Of the only link in the notes.
+QColor linkColour(const ReleaseNotesView& view) {
+    QTextCursor cursor(view.document());
+    cursor.movePosition(QTextCursor::NextCharacter);
+    return cursor.charFormat().foreground().color();
+}
+
+TEST_F(ReleaseNotesViewTest, LinksStandOutAndCanBeReadInBothSchemes) {
+    const ReleaseNotesView view(themes, "<p><a href=\"https://example.org/a\">more</a></p>");
+    for (const ColourScheme scheme : {ColourScheme::light, ColourScheme::dark}) {
+        appearance.set({scheme, {}, {}});
+        EXPECT_EQ(linkColour(view), themes.theme().palette.badgeText);
+    }
 }
 
 TEST_F(ReleaseNotesViewTest, FollowsTheTheme) {

@@ -2,6 +2,8 @@
 #include <quillon/app/platform/fake/fake_appearance.h>
 #include <quillon/app/platform/fake/fake_foreground.h>
 #include <quillon/app/platform/fake/fake_software_pages.h>
+#include <quillon/app/views/components/focus_ring.h>
+#include <quillon/app/views/components/themed_button.h>
 #include <quillon/app/views/updates/release_window.h>
 #include <quillon/app/views/updates/update_windows.h>
 
@@ -10,6 +12,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
 
 #include <string>
@@ -188,6 +191,27 @@ TEST_F(UpdateWindowsTest, SaysWhenAPageDoesNotOpen) {
     press(only(), u"Open Download Page"_s);
     EXPECT_EQ(only().accessibleName(), u"Couldn’t open the page"_s);
     EXPECT_TRUE(only().accessibleDescription().contains(u"https://example.org/download"_s));
+}
+
+TEST_F(UpdateWindowsTest, AButtonOutlivesWhatIsToldOfItsPress) {
+    pages.hasCentre = true;
+    pages.opensCentre = false;
+    windows.tell(UpdateNotice::withSystem);
+    const QPointer<QPushButton> button = only().findChildren<QPushButton*>().at(0);
+    button->click();
+    EXPECT_TRUE(button) << "its event is not over yet";
+    EXPECT_EQ(only().accessibleName(), u"Couldn’t open the software centre"_s);
+}
+
+TEST_F(UpdateWindowsTest, ButtonsEndWhereTheTextDoes) {
+    windows.offer(release("1.3"), Occasion::asked);
+    const QDialog& window = only();
+    const auto right = [&](const QWidget* widget) {
+        return widget->mapTo(&window, QPoint(widget->width(), 0)).x();
+    };
+    EXPECT_EQ(
+        right(window.findChildren<QPushButton*>().last()) - focusRingRoom,
+        right(window.findChild<QTextBrowser*>()));
 }
 
 TEST_F(UpdateWindowsTest, ALinkInTheNotesOpensItsPage) {

@@ -4,12 +4,13 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
 namespace {
 
-constexpr int padding = 30;
+constexpr int usualPadding = 30;
 constexpr int spacing = 12;
 constexpr int symbolSize = 34;
 constexpr int widestBody = 440;
@@ -18,10 +19,14 @@ constexpr int bodyStretch = 1000;
 } // namespace
 
 MessageView::MessageView(ThemeSource& themeSource, QWidget* parent)
-    : ThemedWidget(themeSource, parent),
+    : MessageView(
+        themeSource, [](const TextStyles& styles) { return styles.title; }, usualPadding, parent) {}
+
+MessageView::MessageView(
+    ThemeSource& themeSource, ThemedLabel::FontChoice title, int padding, QWidget* parent)
+    : ThemedWidget(themeSource, parent), m_padding(padding),
       m_symbol(new SymbolView(themeSource, Symbol::keyboard, symbolSize, &Palette::secondary, this)),
-      m_title(new ThemedLabel(
-          themeSource, [](const TextStyles& styles) { return styles.title; }, &Palette::primary, this)),
+      m_title(new ThemedLabel(themeSource, std::move(title), &Palette::primary, this)),
       m_body(new ThemedLabel(
           themeSource, [](const TextStyles& styles) { return styles.body; }, &Palette::secondary, this)),
       m_action(new ProminentButton(themeSource, {}, this)) {
@@ -49,12 +54,13 @@ MessageView::MessageView(ThemeSource& themeSource, QWidget* parent)
     column->addStretch(5);
 }
 
-void MessageView::setMessage(const OverlayMessage& message) {
+void MessageView::setMessage(const MessageWords& message) {
     m_symbol->setVisible(message.symbol.has_value());
     if (message.symbol)
         m_symbol->setSymbol(*message.symbol);
     m_title->setText(message.title);
     m_title->setShortenedPart(message.shortened);
+    m_title->setWordWrap(message.shortened == TextPart());
     m_body->setText(message.body);
     fitBody();
     m_body->setVisible(!message.body.isEmpty());
@@ -63,7 +69,7 @@ void MessageView::setMessage(const OverlayMessage& message) {
 }
 
 void MessageView::fitBody() {
-    const int room = contentsRect().width() - 2 * padding;
+    const int room = contentsRect().width() - 2 * m_padding;
     m_body->setFixedHeight(std::max(0, m_body->heightForWidth(std::clamp(room, 1, widestBody))));
 }
 

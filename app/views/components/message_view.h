@@ -1,11 +1,10 @@
 #pragma once
 
-#include "overlay_texts.h"
-
-#include <quillon/app/views/components/prominent_button.h>
-#include <quillon/app/views/components/symbol_view.h>
-#include <quillon/app/views/components/themed_label.h>
-#include <quillon/app/views/components/themed_widget.h>
+#include "message_words.h"
+#include "prominent_button.h"
+#include "symbol_view.h"
+#include "themed_label.h"
+#include "themed_widget.h"
 
 namespace quillon {
 
@@ -14,9 +13,12 @@ class MessageView : public ThemedWidget {
     Q_OBJECT
 
   public:
+    /// For a whole window.
     explicit MessageView(ThemeSource& themes, QWidget* parent = nullptr);
+    /// With less around it and another title, for a part of one.
+    MessageView(ThemeSource& themes, ThemedLabel::FontChoice title, int padding, QWidget* parent = nullptr);
 
-    void setMessage(const OverlayMessage& message);
+    void setMessage(const MessageWords& message);
 
   Q_SIGNALS:
     void actionPressed();
@@ -28,6 +30,7 @@ class MessageView : public ThemedWidget {
   private:
     void fitBody();
 
+    int m_padding;
     SymbolView* m_symbol;
     ThemedLabel* m_title;
     ThemedLabel* m_body;

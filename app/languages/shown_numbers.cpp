@@ -1,0 +1,14 @@
+#include "shown_numbers.h"
+
+#include <QCoreApplication>
+
+namespace quillon {
+
+QString withOneDecimal(double number) {
+    const QString plain = QString::number(number, 'f', 1);
+    //: A number with a decimal: %1 is what stands before the decimal mark, %2 what stands behind it.
+    return QCoreApplication::translate("Numbers", "%1.%2")
+        .arg(plain.section(u'.', 0, 0), plain.section(u'.', 1));
+}
+
+} // namespace quillon
