@@ -785,6 +785,59 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     </message>
 </context>
 <context>
+    <name>Learned</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>What you learned</source>
+        <translation>Was Sie gelernt haben</translation>
+    </message>
+    <message>
+        <source>Typed</source>
+        <translation>Getippt</translation>
+    </message>
+    <message>
+        <source>Clicked</source>
+        <translation>Geklickt</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of this language, for the names of months.</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day under a chart, short: d is the day and MMM the month's short name.</extracomment>
+        <translation>d. MMM</translation>
+    </message>
+    <message>
+        <source>Week of %1: %2 clicked, %3 typed.</source>
+        <translation>Woche ab %1: %2 geklickt, %3 getippt.</translation>
+    </message>
+    <message>
+        <source>No shortcut has graduated yet. One does once you’ve typed it %1 times more than you’ve clicked it.</source>
+        <translation>Noch sitzt kein Tastenkürzel. Eines sitzt, sobald Sie es %1-mal öfter getippt als angeklickt haben.</translation>
+    </message>
+    <message>
+        <source>Graduated (%1): %2</source>
+        <translation>Sitzen (%1): %2</translation>
+    </message>
+    <message>
+        <source>About %1 saved: %2 typed × %3 s, which two pointings and two clicks in a menu take longer than two keys.</source>
+        <translation>Etwa %1 gespart: %2 getippt × %3 s, um die zweimal Zeigen und Klicken im Menü länger dauert als zwei Tasten.</translation>
+    </message>
+</context>
+<context>
     <name>Library</name>
     <message>
         <source>last year</source>

@@ -785,6 +785,59 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     </message>
 </context>
 <context>
+    <name>Learned</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>What you learned</source>
+        <translation>Lo que ha aprendido</translation>
+    </message>
+    <message>
+        <source>Typed</source>
+        <translation>Con el teclado</translation>
+    </message>
+    <message>
+        <source>Clicked</source>
+        <translation>Con el menú</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of this language, for the names of months.</extracomment>
+        <translation>es</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day under a chart, short: d is the day and MMM the month's short name.</extracomment>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>Week of %1: %2 clicked, %3 typed.</source>
+        <translation>Semana del %1: %2 con el menú, %3 con el teclado.</translation>
+    </message>
+    <message>
+        <source>No shortcut has graduated yet. One does once you’ve typed it %1 times more than you’ve clicked it.</source>
+        <translation>Aún no domina ningún atajo. Domina uno cuando lo ha tecleado %1 veces más de las que ha hecho clic en él.</translation>
+    </message>
+    <message>
+        <source>Graduated (%1): %2</source>
+        <translation>Dominados (%1): %2</translation>
+    </message>
+    <message>
+        <source>About %1 saved: %2 typed × %3 s, which two pointings and two clicks in a menu take longer than two keys.</source>
+        <translation>Unos %1 ahorrados: %2 tecleados × %3 s, lo que señalar y hacer clic dos veces en un menú tarda más que dos teclas.</translation>
+    </message>
+</context>
+<context>
     <name>Library</name>
     <message>
         <source>last year</source>

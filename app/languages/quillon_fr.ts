@@ -785,6 +785,59 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     </message>
 </context>
 <context>
+    <name>Learned</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>What you learned</source>
+        <translation>Ce que vous avez appris</translation>
+    </message>
+    <message>
+        <source>Typed</source>
+        <translation>Au clavier</translation>
+    </message>
+    <message>
+        <source>Clicked</source>
+        <translation>Au menu</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of this language, for the names of months.</extracomment>
+        <translation>fr</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day under a chart, short: d is the day and MMM the month's short name.</extracomment>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>Week of %1: %2 clicked, %3 typed.</source>
+        <translation>Semaine du %1 : %2 au menu, %3 au clavier.</translation>
+    </message>
+    <message>
+        <source>No shortcut has graduated yet. One does once you’ve typed it %1 times more than you’ve clicked it.</source>
+        <translation>Aucun raccourci n’est encore acquis. Il l’est dès que vous l’avez tapé %1 fois de plus que cliqué.</translation>
+    </message>
+    <message>
+        <source>Graduated (%1): %2</source>
+        <translation>Acquis (%1) : %2</translation>
+    </message>
+    <message>
+        <source>About %1 saved: %2 typed × %3 s, which two pointings and two clicks in a menu take longer than two keys.</source>
+        <translation>Environ %1 gagnées : %2 frappes × %3 s, ce que deux pointages et deux clics dans un menu prennent de plus que deux touches.</translation>
+    </message>
+</context>
+<context>
     <name>Library</name>
     <message>
         <source>last year</source>

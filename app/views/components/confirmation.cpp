@@ -52,7 +52,6 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     auto* top = new QHBoxLayout;
     top->setContentsMargins(0, 0, focusRingRoom, 0);
     top->setSpacing(symbolGap);
-    top->setContentsMargins(0, 0, focusRingRoom, 0);
     top->addWidget(
         new SymbolView(themes, Symbol::exclamationMarkTriangle, symbolSize, &Palette::badgeText, this), 0,
         Qt::AlignTop);

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace quillon::LearnedTexts {
 
@@ -24,23 +23,13 @@ constexpr std::size_t mostTitles = 8;
 constexpr double minute = 60;
 constexpr double hour = 60 * minute;
 
-/// The number that chooses a plural form.
-int form(qint64 count) {
-    return static_cast<int>(std::clamp<qint64>(count, 0, std::numeric_limits<int>::max()));
-}
-
 /// In one unit, whole: an estimate has no more to say.
 QString length(Seconds time) {
-    if (time.count() < minute) {
-        const auto seconds = std::llround(time.count());
-        return QCoreApplication::translate("Learned", "%1 seconds", nullptr, form(seconds)).arg(seconds);
-    }
-    if (time.count() < 2 * hour) {
-        const auto minutes = std::llround(time.count() / minute);
-        return QCoreApplication::translate("Learned", "%1 minutes", nullptr, form(minutes)).arg(minutes);
-    }
-    const auto hours = std::llround(time.count() / hour);
-    return QCoreApplication::translate("Learned", "%1 hours", nullptr, form(hours)).arg(hours);
+    if (time.count() < minute)
+        return QCoreApplication::translate("Learned", "%1 s").arg(std::llround(time.count()));
+    if (time.count() < 2 * hour)
+        return QCoreApplication::translate("Learned", "%1 min").arg(std::llround(time.count() / minute));
+    return QCoreApplication::translate("Learned", "%1 h").arg(std::llround(time.count() / hour));
 }
 
 } // namespace
@@ -75,8 +64,7 @@ QString weeksInWords(const LearnedSummary& summary) {
 }
 
 QString graduated(const LearnedSummary& summary) {
-    const auto count = static_cast<qint64>(summary.graduated.size());
-    if (count == 0)
+    if (summary.graduated.empty())
         return QCoreApplication::translate(
                    "Learned",
                    "No shortcut has graduated yet. One does once you’ve typed it %1 times more than "
@@ -87,8 +75,8 @@ QString graduated(const LearnedSummary& summary) {
         titles.append(summary.graduated[i]);
     if (summary.graduated.size() > mostTitles)
         titles.append(u"…"_s);
-    return QCoreApplication::translate("Learned", "%1 shortcuts graduated: %2", nullptr, form(count))
-        .arg(QString::number(count), titles.join(u", "_s));
+    return QCoreApplication::translate("Learned", "Graduated (%1): %2")
+        .arg(QString::number(summary.graduated.size()), titles.join(u", "_s));
 }
 
 QString timeSaved(Count typed) {
@@ -96,11 +84,10 @@ QString timeSaved(Count typed) {
         return {};
     return QCoreApplication::translate(
                "Learned",
-               "About %2 saved. Reckoned as %1 shortcuts typed at %3 s each: what two pointings and "
-               "two clicks in a menu take longer than two keys.",
-               nullptr, form(typed))
+               "About %1 saved: %2 typed × %3 s, which two pointings and two clicks in a menu take "
+               "longer than two keys.")
         .arg(
-            QString::number(typed), length(quillon::timeSaved(typed)), withOneDecimal(savedByTyping.count()));
+            length(quillon::timeSaved(typed)), QString::number(typed), withOneDecimal(savedByTyping.count()));
 }
 
 } // namespace quillon::LearnedTexts

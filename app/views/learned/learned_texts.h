@@ -18,7 +18,7 @@ QString clicked();
 QString weekLabel(Day monday);
 /// The chart in words: "Week of 16 Nov: 3 clicked, 12 typed." for each week in which something was counted.
 QString weeksInWords(const LearnedSummary& summary);
-/// "Graduated: Save, Open, Find" or how that is done.
+/// "Graduated (3): Save, Open, Find" or how that is done.
 QString graduated(const LearnedSummary& summary);
 /// An estimate with how it is reckoned; "" while nothing was typed.
 QString timeSaved(Count typed);

@@ -88,9 +88,9 @@ TEST_F(TrayMenuTest, AClickOpensTheMenuWhereTheTrayShowsNone) {
     desk.desktop.tray.presence()->openMenu();
     auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
-    EXPECT_EQ(menu->actions().constFirst()->text(), "Allow Accessibility…");
+    EXPECT_EQ(menu->actions().constFirst()->text(), QStringLiteral("Allow Accessibility…"));
     desk.trust();
-    EXPECT_EQ(menu->actions().constFirst()->text(), "Show Shortcuts") << "it follows while it is open";
+    EXPECT_EQ(menu->actions().constFirst()->text(), QStringLiteral("Show Shortcuts")) << "it follows while it is open";
     menu->actions().constFirst()->trigger();
     EXPECT_THAT(done, ElementsAre("overlay"));
 }
