@@ -155,6 +155,7 @@ class MenuTest(TrayTestCase):
         menu.choose("[Or hold ⌘ in any app]")
         menu.choose("Settings | Control+comma")
         self.wait_in_front("Quillon Settings")
+        wait_until("it on the screen", lambda: desktop.visible_windows(self.quillon.pid))
         self.assertEqual(len(desktop.visible_windows(self.quillon.pid)), 1)
 
     def test_the_hint_follows_the_settings_at_once(self):

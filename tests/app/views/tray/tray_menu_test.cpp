@@ -90,7 +90,8 @@ TEST_F(TrayMenuTest, AClickOpensTheMenuWhereTheTrayShowsNone) {
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(menu->actions().constFirst()->text(), QStringLiteral("Allow Accessibility…"));
     desk.trust();
-    EXPECT_EQ(menu->actions().constFirst()->text(), QStringLiteral("Show Shortcuts")) << "it follows while it is open";
+    EXPECT_EQ(menu->actions().constFirst()->text(), QStringLiteral("Show Shortcuts"))
+        << "it follows while it is open";
     menu->actions().constFirst()->trigger();
     EXPECT_THAT(done, ElementsAre("overlay"));
 }
