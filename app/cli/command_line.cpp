@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 
 #include <array>
 
@@ -21,6 +22,7 @@ Commands:
   show        open the overlay and keep it open
                 --sample          with a made-up drawing application
   practice    open the practice window
+                --app NAME        for the application with this id or name
   library     open the library of all shortcuts
   settings    open the settings
   welcome     open the welcome
@@ -29,7 +31,9 @@ Commands:
                 --pid N           the application of this process
                 --front           the front application (default)
                 --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default), json or markdown
+                --format FORMAT   text (default), json, markdown or pdf
+                --output FILE     of a PDF document; needed unless standard
+                                  output goes to a file or another program
                 --keys KEYS       symbols (default), or names as they are printed
                                   on the keyboard; JSON is the same with both
                 --practice N      a practice round of N commands instead, in the
@@ -105,6 +109,8 @@ std::optional<SheetFormat> sheetFormat(const QString& name) {
         return SheetFormat::json;
     if (name == "markdown"_L1)
         return SheetFormat::markdown;
+    if (name == "pdf"_L1)
+        return SheetFormat::pdf;
     return std::nullopt;
 }
 
@@ -129,7 +135,7 @@ std::optional<UsageError> readPractice(
         return parser.isSet(seed) ? std::optional(
                    unexpected(QCoreApplication::translate("CommandLine", "--seed needs --practice")))
                                   : std::nullopt;
-    if (command.format == SheetFormat::markdown)
+    if (command.format != SheetFormat::text && command.format != SheetFormat::json)
         return unexpected(
             QCoreApplication::translate("CommandLine", "--practice is printed as text or json"));
     PracticeRequest request;
@@ -151,6 +157,19 @@ std::optional<UsageError> readPractice(
     return std::nullopt;
 }
 
+/// Reads --output into `command`.
+std::optional<UsageError>
+readOutput(const QCommandLineParser& parser, const QCommandLineOption& output, SheetCommand& command) {
+    if (!parser.isSet(output))
+        return std::nullopt;
+    if (command.format != SheetFormat::pdf)
+        return unexpected(QCoreApplication::translate("CommandLine", "--output needs --format pdf"));
+    if (parser.value(output).isEmpty())
+        return unexpected(QCoreApplication::translate("CommandLine", "--output takes the name of a file"));
+    command.output = QFile::encodeName(parser.value(output)).toStdString();
+    return std::nullopt;
+}
+
 Command parseSheet(const QStringList& arguments) {
     QCommandLineParser parser;
     const QCommandLineOption app = withValue(u"app"_s);
@@ -158,10 +177,12 @@ Command parseSheet(const QStringList& arguments) {
     const QCommandLineOption front(u"front"_s);
     const QCommandLineOption query = withValue(u"query"_s);
     const QCommandLineOption format = withValue(u"format"_s);
+    const QCommandLineOption output = withValue(u"output"_s);
     const QCommandLineOption practice = withValue(u"practice"_s);
     const QCommandLineOption seed = withValue(u"seed"_s);
     const QCommandLineOption keys = withValue(u"keys"_s);
-    if (auto error = readOptions(parser, arguments, {app, pid, front, query, format, practice, seed, keys}))
+    if (auto error =
+            readOptions(parser, arguments, {app, pid, front, query, format, output, practice, seed, keys}))
         return *error;
     if (int(parser.isSet(app)) + int(parser.isSet(pid)) + int(parser.isSet(front)) > 1)
         return unexpected(
@@ -181,9 +202,11 @@ Command parseSheet(const QStringList& arguments) {
     const auto chosenFormat = sheetFormat(parser.isSet(format) ? parser.value(format) : u"text"_s);
     if (!chosenFormat)
         return unexpected(
-            QCoreApplication::translate("CommandLine", "--format is text, json or markdown, not '%1'")
+            QCoreApplication::translate("CommandLine", "--format is text, json, markdown or pdf, not '%1'")
                 .arg(parser.value(format)));
     command.format = *chosenFormat;
+    if (auto error = readOutput(parser, output, command))
+        return *error;
     if (auto error = readPractice(parser, practice, seed, command))
         return *error;
     if (auto error = readKeys(parser, keys, command.keys))
@@ -233,6 +256,17 @@ Command parseWindow(const QStringList& arguments) {
     return WindowCommand{window};
 }
 
+Command parsePractice(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const QCommandLineOption app = withValue(u"app"_s);
+    if (auto error = readOptions(parser, arguments, {app}))
+        return *error;
+    WindowCommand command{.window = WindowName::practice};
+    if (parser.isSet(app))
+        command.appName = parser.value(app).toStdString();
+    return command;
+}
+
 struct Subcommand {
     const char* name;
     Command (*parse)(const QStringList& arguments);
@@ -242,7 +276,7 @@ constexpr std::array subcommands{
     Subcommand{"apps", parsePlain<AppsCommand>},
     Subcommand{"sheet", parseSheet},
     Subcommand{"show", parseShow},
-    Subcommand{"practice", parseWindow<WindowName::practice>},
+    Subcommand{"practice", parsePractice},
     Subcommand{"library", parseWindow<WindowName::library>},
     Subcommand{"settings", parseWindow<WindowName::settings>},
     Subcommand{"welcome", parseWindow<WindowName::welcome>},

@@ -22,7 +22,7 @@ enum class ExitCode {
     noShortcuts = 5,
 };
 
-enum class SheetFormat { text, json, markdown };
+enum class SheetFormat { text, json, markdown, pdf };
 
 /// `quillon` alone: be the program.
 struct RunCommand {
@@ -49,7 +49,8 @@ struct SheetCommand {
     std::optional<std::int64_t> pid;
     std::string query;
     SheetFormat format = SheetFormat::text;
-    std::optional<PracticeRequest> practice; ///< never with the Markdown format
+    std::optional<std::string> output;       ///< the file to write, in the system's encoding; with PDF alone
+    std::optional<PracticeRequest> practice; ///< with text and JSON alone
     KeyLabels keys = KeyLabels::symbols;     ///< without effect on JSON
 
     bool operator==(const SheetCommand&) const = default;
@@ -63,6 +64,7 @@ struct ShowCommand {
 /// `quillon library` and the other windows by their identifiers.
 struct WindowCommand {
     WindowName window = WindowName::welcome;
+    std::optional<std::string> appName = {}; ///< what to practise; of the practice window alone
 
     bool operator==(const WindowCommand&) const = default;
 };

@@ -22,6 +22,8 @@ class Output {
     void print(const TerminalText& text) { write(text.bytes()); }
     /// A result for another program, which gets it byte by byte.
     void printData(std::string_view bytes) { write(bytes); }
+    /// Whether a person sees the results as they come.
+    bool isTerminal() const { return ::isatty(m_results) == 1; }
     /// A result in JSON, on a line of its own. Absent is one that JSON cannot hold, which is a failure.
     void printJson(const std::optional<std::string>& json);
     /// A message to the user, in one line.

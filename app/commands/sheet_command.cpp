@@ -95,17 +95,39 @@ practiceRound(const AppSheet& sheet, const PracticeRequest& request, const Recor
         request.count, generator);
 }
 
-void print(const AppSheet& sheet, const SheetCommand& command, const Records& records, Output& output) {
+/// Writes the sheet as a document: to the file that was asked for, or as the result. One without pages is
+/// nobody's wish: the user was told that nothing matches.
+ExitCode writeDocument(
+    const CheatSheetSource& source, const SheetCommand& command, CheatSheetExports& exports, Output& output) {
+    if (source.sheet.entries.empty())
+        return ExitCode::failure;
+    const Outcome<std::string, ExportFailure> document = exports.pdf(source);
+    if (const ExportFailure* failure = document.failure())
+        return output.fail(ExitCode::failure, TerminalText::of(failure->text));
+    if (!command.output) {
+        output.printData(*document);
+        return ExitCode::success;
+    }
+    if (const std::optional<ExportFailure> failure = exports.save(*document, *command.output))
+        return output.fail(ExitCode::failure, TerminalText::of(failure->text));
+    return ExitCode::success;
+}
+
+ExitCode print(
+    const AppSheet& sheet, const SheetCommand& command, const Records& records, CheatSheetExports& exports,
+    Output& output) {
     const std::optional<KeyNames> names = shownNames(command.keys);
     const KeyNames* const shown = names ? &*names : nullptr;
+    const Annotations& annotations = records.annotations.annotations(sheet.bundleID);
     switch (command.format) {
-    case SheetFormat::json: output.printJson(Json::encode(sheet)); return;
-    case SheetFormat::markdown:
-        output.print(markdownText(sheet, records.annotations.annotations(sheet.bundleID), shown));
-        return;
-    case SheetFormat::text: break;
+    case SheetFormat::pdf: return writeDocument({sheet, annotations, shown}, command, exports, output);
+    case SheetFormat::json: output.printJson(Json::encode(sheet)); break;
+    case SheetFormat::markdown: output.print(markdownText(sheet, annotations, shown)); break;
+    case SheetFormat::text:
+        output.print(command.practice ? practiceText(sheet.entries, shown) : sheetText(sheet, shown));
+        break;
     }
-    output.print(command.practice ? practiceText(sheet.entries, shown) : sheetText(sheet, shown));
+    return ExitCode::success;
 }
 
 /// The whole sheet of `app`. Says what it lacks; without entries there is none to print.
@@ -122,14 +144,19 @@ AppSheet readSheet(const RunningApp& app, MenuReader& menuReader, const Clock& c
 } // namespace
 
 ExitCode runSheet(
-    const SheetCommand& command, ApplicationList& applications, MenuReader& menuReader,
-    const std::filesystem::path& dataFolder, const Clock& clock, Output& output) {
-    if (const auto obstacle = applications.obstacle())
+    const SheetCommand& command, const SheetServices& services, const std::filesystem::path& dataFolder,
+    Output& output) {
+    if (command.format == SheetFormat::pdf && !command.output && output.isTerminal())
+        return output.fail(
+            ExitCode::usage, TerminalText::sentence(QCoreApplication::translate(
+                                 "CommandLine", "a PDF document is not for the terminal; name a file with "
+                                                "--output")));
+    if (const auto obstacle = services.applications.obstacle())
         return output.fail(ExitCode::noAccessibility, TerminalText::of(*obstacle));
-    const std::optional<RunningApp> app = chosenApp(command, applications);
+    const std::optional<RunningApp> app = chosenApp(command, services.applications);
     if (!app)
         return output.fail(ExitCode::noSuchApp, missingAppMessage(command));
-    AppSheet sheet = readSheet(*app, menuReader, clock, output);
+    AppSheet sheet = readSheet(*app, services.menuReader, services.clock, output);
     if (sheet.entries.empty())
         return ExitCode::noShortcuts;
 
@@ -142,8 +169,7 @@ ExitCode runSheet(
                 .arg(nameOf(*app), text(command.query))));
     if (command.practice)
         sheet.entries = practiceRound(sheet, *command.practice, records);
-    print(sheet, command, records, output);
-    return ExitCode::success;
+    return print(sheet, command, records, services.exports, output);
 }
 
 } // namespace quillon

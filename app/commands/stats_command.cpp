@@ -1,34 +1,16 @@
 #include "commands.h"
+#include "learned_file.h"
 
 #include <quillon/app/cli/stats.h>
 #include <quillon/app/languages/translated_keys.h>
 #include <quillon/kit/coach/nudge_policy.h>
-#include <quillon/kit/records/json_file.h>
 #include <quillon/kit/records/learned_files.h>
 
 #include <QCoreApplication>
 
-#include <utility>
 #include <vector>
 
 namespace quillon {
-
-namespace {
-
-/// What the file holds, nothing when there is none. Says why when it cannot be made out; absent then.
-template <class Value>
-std::optional<Value> load(const std::filesystem::path& file, Output& output) {
-    auto loaded = JSONFile<Value>(file).tryLoad();
-    const LoadFailure* const failure = loaded.failure();
-    if (!failure)
-        return std::move(loaded).value();
-    if (failure->kind == LoadFailure::Kind::absent)
-        return Value{};
-    output.say(TerminalText::of(file.string()) + ": " + TerminalText::of(failure->message()));
-    return std::nullopt;
-}
-
-} // namespace
 
 ExitCode runStats(const StatsCommand& command, const std::filesystem::path& dataFolder, Output& output) {
     if (dataFolder.empty())
@@ -36,10 +18,10 @@ ExitCode runStats(const StatsCommand& command, const std::filesystem::path& data
             ExitCode::failure,
             TerminalText::sentence(QCoreApplication::translate(
                 "CommandLine", "there is no home folder that could hold anything; set HOME")));
-    const auto usage = load<UsageBook>(dataFolder / LearnedFiles::usage, output);
+    const auto usage = loadLearned<UsageBook>(dataFolder / LearnedFiles::usage, output);
     if (!usage)
         return ExitCode::failure;
-    const auto sheets = load<SheetMap>(dataFolder / LearnedFiles::menus, output);
+    const auto sheets = loadLearned<SheetMap>(dataFolder / LearnedFiles::menus, output);
 
     std::vector<AppStats> stats =
         statsOf(*usage, sheets.value_or(SheetMap{}), defaultNudgePolicy.graduateAfter);

@@ -3,6 +3,7 @@
 set -l commands show practice library settings welcome sheet apps stats doctor quit
 set -l none "not __fish_seen_subcommand_from $commands"
 set -l in_show '__fish_seen_subcommand_from show'
+set -l in_practice '__fish_seen_subcommand_from practice'
 set -l in_sheet '__fish_seen_subcommand_from sheet'
 set -l in_stats '__fish_seen_subcommand_from stats'
 
@@ -38,11 +39,14 @@ complete -c quillon -n "$none" -l version -d 'Print the version'
 
 complete -c quillon -n "$in_show" -l sample -d 'With a made-up drawing application'
 
+complete -c quillon -n "$in_practice" -l app -x -a '(__quillon_apps)' -d 'For the application with this id or name'
+
 complete -c quillon -n "$in_sheet" -l app -x -a '(__quillon_apps)' -d 'The application with this id or name'
 complete -c quillon -n "$in_sheet" -l pid -x -a '(__quillon_processes)' -d 'The application of this process'
 complete -c quillon -n "$in_sheet" -l front -d 'The front application'
 complete -c quillon -n "$in_sheet" -l query -x -d 'Only the shortcuts that match'
-complete -c quillon -n "$in_sheet" -l format -x -a 'text json markdown' -d 'How the result is written'
+complete -c quillon -n "$in_sheet" -l format -x -a 'text json markdown pdf' -d 'How the result is written'
+complete -c quillon -n "$in_sheet" -l output -r -F -d 'The file of a PDF document'
 complete -c quillon -n "$in_sheet" -l keys -x -a 'symbols names' -d 'How keys are shown'
 complete -c quillon -n "$in_sheet" -l practice -x -d 'A practice round of this many commands'
 complete -c quillon -n "$in_sheet" -l seed -x -d 'The same round every time'

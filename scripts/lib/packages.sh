@@ -29,10 +29,11 @@ app_packages() {
         libxcb-icccm4-dev libxcb-ewmh-dev libxcb-randr0-dev libxcb-xfixes0-dev libxcb-xtest0-dev
 }
 
-# clang and its run-time libraries for the fuzzers; the validators of the files in packaging/ and the shells.
+# clang and its run-time libraries for the fuzzers; the validators of the files in packaging/ and the shells; readers of PDF.
 test_packages() {
     echo clang libclang-rt-dev \
-        desktop-file-utils appstream man-db groff-base zsh fish
+        desktop-file-utils appstream man-db groff-base zsh fish \
+        poppler-utils qpdf mupdf-tools
 }
 
 # The private desktop and the applications that the tests use in it.

@@ -17,6 +17,7 @@ FLOORS = {
     "app/core": ("kit", "app/ports", "app/core"),
     "app/languages": ("kit",),
     "app/views": ("kit", "app/ports", "app/core", "app/languages", "app/views"),
+    "app/cheatsheet": ("kit", "app/ports", "app/languages", "app/views/components", "app/cheatsheet"),
     "app/cli": ("kit", "app/ports", "app/languages"),
     "app/commands": ("kit", "app/ports", "app/cli", "app/languages"),
     "app/platform": ("kit", "app/ports", "app/platform"),

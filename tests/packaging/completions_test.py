@@ -31,13 +31,14 @@ class CompletionsTest(unittest.TestCase):
             self.assert_offered(["quillon", command, "--"], options)
 
     def test_words_that_an_option_takes_are_offered(self):
-        self.assertEqual(words_of_help()["sheet", "--format"], {"text", "json", "markdown"})
+        self.assertEqual(words_of_help()["sheet", "--format"], {"text", "json", "markdown", "pdf"})
         for (command, option), words in words_of_help().items():
             self.assert_offered(["quillon", command, option, ""], words)
         self.assert_offered(["quillon", "sheet", "--format", "j"], ["json"])
 
     def test_applications_and_processes_are_those_that_run_or_were_counted(self):
         self.assert_offered(["quillon", "sheet", "--app", ""], ["geany", "org.gimp.GIMP"])
+        self.assert_offered(["quillon", "practice", "--app", ""], ["geany", "org.gimp.GIMP"])
         self.assert_offered(["quillon", "stats", "--app", ""], ["geany", "org.kde.kate"])
         self.assert_offered(["quillon", "sheet", "--pid", ""], ["71", "72"])
 

@@ -46,10 +46,20 @@ TEST(CommandLine, KnowsItsPlainCommands) {
 TEST(CommandLine, EveryWindowIsOpenedByItsIdentifier) {
     for (const WindowName name : allWindowNames) {
         const std::string command(identifier(name));
-        EXPECT_EQ(parse({command.c_str()}), Command(WindowCommand{name}));
+        EXPECT_EQ(parse({command.c_str()}), Command(WindowCommand{.window = name}));
         EXPECT_NE(errorOf(parse({command.c_str(), "now"})), "no error");
-        EXPECT_NE(errorOf(parse({command.c_str(), "--app", "geany"})), "no error");
+        if (name != WindowName::practice) {
+            EXPECT_NE(errorOf(parse({command.c_str(), "--app", "geany"})), "no error");
+        }
     }
+}
+
+TEST(CommandLine, PracticeMayBeOfOneApplication) {
+    EXPECT_EQ(
+        parse({"practice", "--app", "geany"}),
+        Command(WindowCommand{.window = WindowName::practice, .appName = "geany"}));
+    EXPECT_NE(errorOf(parse({"practice", "--app"})), "no error");
+    EXPECT_NE(errorOf(parse({"practice", "--pid", "1"})), "no error");
 }
 
 TEST(CommandLine, ASheetIsOfTheFrontApplicationAsText) {
@@ -79,6 +89,23 @@ TEST(CommandLine, ASheetIsPrintedAsMarkdown) {
     SheetCommand expected;
     expected.format = SheetFormat::markdown;
     EXPECT_EQ(parse({"sheet", "--format", "markdown"}), Command(expected));
+}
+
+TEST(CommandLine, ASheetIsWrittenAsADocument) {
+    SheetCommand expected;
+    expected.format = SheetFormat::pdf;
+    EXPECT_EQ(parse({"sheet", "--format", "pdf"}), Command(expected));
+    expected.output = "My sheet.pdf";
+    EXPECT_EQ(parse({"sheet", "--format", "pdf", "--output", "My sheet.pdf"}), Command(expected));
+    EXPECT_EQ(
+        errorOf(parse({"sheet", "--output", "My sheet.pdf"})),
+        "--output needs --format pdf; see quillon --help");
+    EXPECT_EQ(
+        errorOf(parse({"sheet", "--format", "pdf", "--output", ""})),
+        "--output takes the name of a file; see quillon --help");
+    EXPECT_NE(
+        errorOf(parse({"sheet", "--practice", "1", "--format", "pdf"})).find("--practice"),
+        std::string::npos);
 }
 
 TEST(CommandLine, KeysAreShownAsSymbolsOrByName) {

@@ -1,5 +1,6 @@
 #include <quillon/app/commands/commands.h>
 #include <quillon/app/platform/fake/fake_application_list.h>
+#include <quillon/app/platform/fake/fake_cheat_sheet_exports.h>
 #include <quillon/app/platform/fake/fake_clock.h>
 #include <quillon/app/platform/fake/fake_menu_reader.h>
 #include <quillon/app/platform/fake/fake_running_program.h>
@@ -11,6 +12,7 @@
 #include <fstream>
 
 #include <fcntl.h>
+#include <pty.h>
 
 namespace quillon {
 namespace {
@@ -62,12 +64,13 @@ class CommandsTest : public testing::Test {
     }
 
     ExitCode sheet(const SheetCommand& command = {}) {
-        return runSheet(command, applications, reader, folder.path(), clock, output);
+        return runSheet(command, {applications, reader, exports, clock}, folder.path(), output);
     }
 
     TemporaryFolder folder;
     FakeApplicationList applications;
     FakeMenuReader reader;
+    FakeCheatSheetExports exports;
     FakeClock clock;
     FakeRunningProgram program;
     Written results;
@@ -152,6 +155,33 @@ TEST_F(StatsCommandTest, NamesTheFileThatCannotBeMadeOut) {
     EXPECT_NE(messages.text().find((folder.path() / "menus.json").string()), std::string::npos);
 }
 
+struct PracticeCommandTest : StatsCommandTest {
+    PracticeCommandTest() { have("menus.json", menus); }
+    std::variant<std::string, ExitCode> find(const std::string& name) {
+        return appToPractise(name, folder.path(), output);
+    }
+};
+
+TEST_F(PracticeCommandTest, IsForAnApplicationThatWasRead) {
+    for (const char* name : {"org.example.sketch", "SKETCH"})
+        EXPECT_EQ(std::get<std::string>(find(name)), "org.example.sketch") << name;
+    EXPECT_EQ(messages.text(), "");
+}
+
+TEST_F(PracticeCommandTest, AnotherIsUnknown) {
+    EXPECT_EQ(std::get<ExitCode>(find("geany")), ExitCode::noSuchApp);
+    EXPECT_EQ(std::get<ExitCode>(appToPractise("geany", {}, output)), ExitCode::noSuchApp) << "no home";
+    const std::string said =
+        "quillon: the shortcuts of an application called 'geany' have not been read yet\n";
+    EXPECT_EQ(messages.text(), said + said);
+}
+
+TEST_F(PracticeCommandTest, AFileThatCannotBeMadeOutIsNamed) {
+    have("menus.json", "{");
+    EXPECT_EQ(std::get<ExitCode>(find("sketch")), ExitCode::failure);
+    EXPECT_NE(messages.text().find("menus.json"), std::string::npos);
+}
+
 TEST_F(CommandsTest, SheetIsOfTheFrontApplication) {
     EXPECT_EQ(sheet(), ExitCode::success);
     EXPECT_EQ(results.text(), "Sketch (org.example.sketch): 2 shortcuts\n\nFile\n  New   ⌘N\n  Save  ⌘S\n");
@@ -192,6 +222,76 @@ TEST_F(CommandsTest, JsonIsForProgramsAndNotForTerminals) {
     command.format = SheetFormat::json;
     EXPECT_EQ(sheet(command), ExitCode::success);
     EXPECT_NE(results.text().find("a\u202eb"), std::string::npos);
+}
+
+struct DocumentTest : CommandsTest {
+    DocumentTest() { command.format = SheetFormat::pdf; }
+
+    SheetCommand command;
+};
+
+TEST_F(DocumentTest, IsWrittenToTheFileThatWasAskedFor) {
+    command.output = "/somewhere/sheet.pdf";
+    EXPECT_EQ(sheet(command), ExitCode::success);
+    ASSERT_EQ(exports.saved.size(), 1U);
+    EXPECT_EQ(exports.saved[0].first, exports.document);
+    EXPECT_EQ(exports.saved[0].second, "/somewhere/sheet.pdf");
+    EXPECT_EQ(exports.made.at(0).sheet.appName, "Sketch");
+    EXPECT_FALSE(exports.made.at(0).withNames);
+    EXPECT_EQ(results.text(), "");
+}
+
+TEST_F(DocumentTest, HasTheNotesAndTheKeysThatWereAskedFor) {
+    std::ofstream(folder.path() / "notes.json")
+        << R"({"apps":{"org.example.sketch":{"File › Save":{"muted":false,"note":"mine","pinned":true}}}})";
+    command.keys = KeyLabels::names;
+    command.query = "save";
+    EXPECT_EQ(sheet(command), ExitCode::success);
+    EXPECT_TRUE(exports.made.at(0).withNames);
+    EXPECT_EQ(exports.made.at(0).sheet.entries.size(), 1U);
+    EXPECT_EQ(exports.made.at(0).annotations.at("File › Save").note, "mine");
+}
+
+TEST_F(DocumentTest, IsNotMadeWithoutAMatch) {
+    command.query = "nothing like it";
+    EXPECT_EQ(sheet(command), ExitCode::failure);
+    EXPECT_EQ(messages.text(), "quillon: no shortcut of Sketch matches 'nothing like it'\n");
+    EXPECT_TRUE(exports.made.empty());
+}
+
+TEST_F(DocumentTest, GoesByteByByteToAnotherProgram) {
+    exports.document = std::string("%PDF\0\n\x1b", 7);
+    EXPECT_EQ(sheet(command), ExitCode::success);
+    EXPECT_EQ(results.text(), exports.document);
+    EXPECT_TRUE(exports.saved.empty());
+}
+
+TEST_F(DocumentTest, IsNotForATerminal) {
+    int ours = -1;
+    int terminal = -1;
+    ASSERT_EQ(::openpty(&ours, &terminal, nullptr, nullptr, nullptr), 0);
+    Output shown(terminal, messages.file());
+    EXPECT_EQ(
+        runSheet(command, {applications, reader, exports, clock}, folder.path(), shown), ExitCode::usage);
+    EXPECT_EQ(
+        messages.text(), "quillon: a PDF document is not for the terminal; name a file with --output\n");
+    EXPECT_TRUE(exports.made.empty());
+    command.output = "/somewhere/sheet.pdf";
+    EXPECT_EQ(
+        runSheet(command, {applications, reader, exports, clock}, folder.path(), shown), ExitCode::success);
+    ::close(ours);
+    ::close(terminal);
+}
+
+TEST_F(DocumentTest, ThatCannotBeMadeOrWrittenIsAFailure) {
+    command.output = "/somewhere/sheet.pdf";
+    exports.saveFailure = ExportFailure{"“/somewhere/sheet.pdf” cannot be written: No such folder."};
+    EXPECT_EQ(sheet(command), ExitCode::failure);
+    exports.pdfFailure = ExportFailure{"No document."};
+    EXPECT_EQ(sheet(command), ExitCode::failure);
+    EXPECT_EQ(
+        messages.text(),
+        "quillon: “/somewhere/sheet.pdf” cannot be written: No such folder.\nquillon: No document.\n");
 }
 
 TEST_F(CommandsTest, ASheetThatJsonCannotHoldIsAFailure) {

@@ -1,8 +1,8 @@
 #include "fake_app_process.h"
-#include "recordings.h"
 
 #include <quillon/app/platform/linux/atspi/atspi_menu_reader.h>
 #include <quillon/kit/menu/menu_parser.h>
+#include <quillon/tests/support/recordings/recordings.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
