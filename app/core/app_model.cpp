@@ -256,7 +256,13 @@ void AppModel::setMuted(const std::string& bundleID, const std::string& entryID,
 void AppModel::openPractice(const std::string& bundleID) {
     m_practiceApp = bundleID;
     changed.emit(ModelField::practiceApp);
-    requestWindow(WindowName::practice);
+    m_services.windows.open(WindowName::practice);
+}
+
+void AppModel::requestWindow(WindowName name) {
+    if (name == WindowName::practice)
+        m_practiceApp.clear();
+    m_services.windows.open(name);
 }
 
 void AppModel::load() {

@@ -180,11 +180,11 @@ class AppModel {
     void setNote(const std::string& bundleID, const std::string& entryID, std::string note);
     /// Whether no nudges are shown for a command. Its pin and note stay.
     void setMuted(const std::string& bundleID, const std::string& entryID, bool muted);
-    /// The application that practice was last asked for; "" before that.
+    /// The application that practice was last asked for; "" when it was asked for without one.
     const std::string& practiceApp() const { return m_practiceApp; }
     /// Opens the practice window for an application.
     void openPractice(const std::string& bundleID);
-    void requestWindow(WindowName name) { m_services.windows.open(name); }
+    void requestWindow(WindowName name);
     /// Whether a window that is asked for will open; views do not offer one that will not.
     bool offersWindow(WindowName name) const { return m_services.windows.offers(name); }
 

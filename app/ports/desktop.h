@@ -5,7 +5,9 @@
 #include "appearance.h"
 #include "foreground.h"
 #include "front_application.h"
+#include "key_reading.h"
 #include "keyboard.h"
+#include "keyboard_grab.h"
 #include "launcher_key.h"
 #include "menu_reader.h"
 #include "menu_use.h"
@@ -27,6 +29,8 @@ class Desktop {
     virtual MenuReader& menuReader() = 0;
     virtual AccessibilityAccess& accessibility() = 0;
     virtual Keyboard& keyboard() = 0;
+    virtual KeyReading& keyReading() = 0;
+    virtual KeyboardGrab& keyboardGrab() = 0;
     virtual MenuUse& menuUse() = 0;
     virtual TypedKeys& typedKeys() = 0;
     virtual AppIcons& icons() = 0;

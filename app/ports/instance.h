@@ -15,7 +15,8 @@ struct InstanceRequests {
     std::function<void()> activate; ///< bring up the menu or a window
     std::function<void()> showOverlay;
     std::function<void()> showSample;
-    std::function<bool(WindowName)> openWindow; ///< false when there is no such window
+    std::function<bool(WindowName)> openWindow;                    ///< false when there is no such window
+    std::function<void(const std::string& bundleID)> openPractice; ///< for an application
     /// Comes ahead of one of these: the desktop's proof that the user wants it.
     std::function<void(std::string activationToken)> expectActivation;
     std::function<void()> quit;

@@ -3,6 +3,7 @@
 #include "windows.h"
 
 #include <optional>
+#include <string>
 
 namespace quillon {
 
@@ -52,6 +53,8 @@ class RunningProgram {
 
     /// Asks for it and waits for the answer within bounds.
     virtual Answer ask(ProgramRequest request) = 0;
+    /// Asks for the practice window with this application, by its bundle identifier, and waits likewise.
+    virtual Answer askForPractice(const std::string& bundleID) = 0;
 };
 
 } // namespace quillon

@@ -7,7 +7,9 @@
 #include "fake_clock.h"
 #include "fake_foreground.h"
 #include "fake_front_application.h"
+#include "fake_key_reading.h"
 #include "fake_keyboard.h"
+#include "fake_keyboard_grab.h"
 #include "fake_launcher_key.h"
 #include "fake_menu_reader.h"
 #include "fake_menu_use.h"
@@ -31,6 +33,8 @@ struct FakeDesktop {
     FakeMenuReader menus;
     FakeAccessibilityAccess access;
     FakeKeyboard keyboard{clock};
+    FakeKeyReading keyReading;
+    FakeKeyboardGrab keyboardGrab;
     FakeMenuUse menuUse;
     FakeTypedKeys typedKeys;
     FakeAppIcons icons;

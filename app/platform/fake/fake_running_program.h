@@ -2,6 +2,7 @@
 
 #include <quillon/app/ports/running_program.h>
 
+#include <string>
 #include <vector>
 
 namespace quillon {
@@ -14,8 +15,14 @@ class FakeRunningProgram final : public RunningProgram {
         return answer;
     }
 
+    Answer askForPractice(const std::string& bundleID) override {
+        practised.push_back(bundleID);
+        return answer;
+    }
+
     Answer answer = Answer::notRunning;
     std::vector<ProgramRequest> asked;
+    std::vector<std::string> practised;
 };
 
 } // namespace quillon

@@ -5,7 +5,9 @@
 #include "no_appearance.h"
 #include "no_foreground.h"
 #include "no_front_application.h"
+#include "no_key_reading.h"
 #include "no_keyboard.h"
+#include "no_keyboard_grab.h"
 #include "no_launcher_key.h"
 #include "no_menu_reader.h"
 #include "no_menu_use.h"
@@ -25,6 +27,8 @@ struct NoDesktop {
     NoMenuReader menus;
     NoAccessibilityAccess access;
     NoKeyboard keyboard;
+    NoKeyReading keyReading;
+    NoKeyboardGrab keyboardGrab;
     NoMenuUse menuUse;
     NoTypedKeys typedKeys;
     NoAppIcons icons;

@@ -71,6 +71,37 @@ QString anotherRound() {
     return QCoreApplication::translate("Practice", "Another Round");
 }
 
+QString everyKeyComesHere() {
+    return QCoreApplication::translate(
+        "Practice", "Every key comes here while a question waits. Hold Esc to let go.");
+}
+
+QString desktopHasItsKeys() {
+    return QCoreApplication::translate(
+        "Practice", "The keyboard is free: your desktop’s own keys work again.");
+}
+
+QString keysAreNotTold() {
+    return QCoreApplication::translate(
+        "Practice", "This desktop does not tell Quillon which keys are pressed.");
+}
+
+QString keyboard() {
+    return QCoreApplication::translate("Practice", "Keyboard");
+}
+
+QString keyboardWith(const QString& keys) {
+    return QCoreApplication::translate("Practice", "Keyboard, lit: %1").arg(keys);
+}
+
+QString readQuestion(const QString& command, const QString& place, const QString& state) {
+    return QCoreApplication::translate("Practice", "%1, in %2. %3").arg(command, place, state);
+}
+
+QString readVerdict(const QString& verdict, const QString& keys) {
+    return QCoreApplication::translate("Practice", "%1. The shortcut is %2.").arg(verdict, keys);
+}
+
 QString noApps() {
     return QCoreApplication::translate("Practice", "No apps to practise yet");
 }

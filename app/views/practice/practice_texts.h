@@ -34,6 +34,21 @@ QString comeUpMore();
 QString cleanRound();
 QString anotherRound();
 
+/// While every key press comes to the window, and how to change that.
+QString everyKeyComesHere();
+/// After the user let go of the keyboard.
+QString desktopHasItsKeys();
+/// Where the desktop does not tell which keys are pressed.
+QString keysAreNotTold();
+
+/// What screen readers call the picture of the keyboard: before an answer, and with the keys that are lit.
+QString keyboard();
+QString keyboardWith(const QString& keys);
+/// A question as it is read aloud: the command, where it is found and what is to be done.
+QString readQuestion(const QString& command, const QString& place, const QString& state);
+/// "You pressed ⌃X. The shortcut is ⌃S."
+QString readVerdict(const QString& verdict, const QString& keys);
+
 QString noApps();
 QString noAppsBody(const QString& trigger);
 

@@ -1,6 +1,6 @@
 #include "practice_view.h"
 
-#include "answer_keys.h"
+#include "answers.h"
 #include "practice_texts.h"
 #include "question_page.h"
 #include "results_page.h"
@@ -11,9 +11,7 @@
 #include <quillon/app/views/components/text.h>
 #include <quillon/kit/shortcut/key_names.h>
 
-#include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -28,23 +26,6 @@ constexpr int padding = 24;
 constexpr int pageGap = 20;
 constexpr Count roundLength = 10;
 
-struct AppChoice {
-    QString name;
-    std::string appID;
-};
-
-/// Every application with a sheet, by name.
-std::vector<AppChoice> choicesOf(const SharedSheets& sheets) {
-    std::vector<AppChoice> choices;
-    for (const auto& [appID, sheet] : sheets)
-        choices.push_back({foreignLine(sheet->appName), appID});
-    std::ranges::sort(choices, [](const AppChoice& a, const AppChoice& b) {
-        const int order = QString::localeAwareCompare(a.name, b.name);
-        return order != 0 ? order < 0 : a.appID < b.appID;
-    });
-    return choices;
-}
-
 ThemedLabel* sentence(ThemeSource& themes, QWidget* parent) {
     auto* label = new ThemedLabel(
         themes, [](const TextStyles& styles) { return styles.body; }, &Palette::secondary, parent);
@@ -55,6 +36,18 @@ ThemedLabel* sentence(ThemeSource& themes, QWidget* parent) {
 
 } // namespace
 
+/// Every application with a sheet, by name.
+std::vector<PracticeView::AppChoice> PracticeView::choicesOf(const SharedSheets& sheets) {
+    std::vector<AppChoice> choices;
+    for (const auto& [appID, sheet] : sheets)
+        choices.push_back({foreignLine(sheet->appName), appID});
+    std::ranges::sort(choices, [](const AppChoice& a, const AppChoice& b) {
+        const int order = QString::localeAwareCompare(a.name, b.name);
+        return order != 0 ? order < 0 : a.appID < b.appID;
+    });
+    return choices;
+}
+
 PracticeView::Draw PracticeView::drawByChance() {
     return [](const AppSheet& sheet, const UsageRecords& usage, const PracticeDeck::Ids& pinned) {
         std::random_device seed;
@@ -63,12 +56,14 @@ PracticeView::Draw PracticeView::drawByChance() {
     };
 }
 
-PracticeView::PracticeView(AppModel& model, ThemeSource& themeSource, Draw draw, QWidget* parent)
-    : ThemedWidget(themeSource, parent), m_model(model), m_draw(std::move(draw)),
+PracticeView::PracticeView(
+    AppModel& model, ThemeSource& themeSource, AnswerInput::Needs keyboard, Draw draw, QWidget* parent)
+    : ThemedWidget(themeSource, parent), m_model(model), m_draw(std::move(draw)), m_keys(keyboard.keys),
       m_practice(new QWidget(this)), m_empty(new MessageView(themeSource, this)),
       m_apps(new DropDown(themeSource, m_practice)), m_start(makeStart()),
       m_question(new QuestionPage(themeSource, m_practice)),
-      m_results(new ResultsPage(themeSource, m_practice)), m_pages(new QStackedLayout) {
+      m_results(new ResultsPage(themeSource, m_practice)), m_pages(new QStackedLayout),
+      m_input(*this, keyboard) {
     layOut();
     m_apps->setAccessibleName(PracticeTexts::chooseApp());
     connect(m_apps, &QComboBox::activated, this, [this](int index) {
@@ -76,16 +71,26 @@ PracticeView::PracticeView(AppModel& model, ThemeSource& themeSource, Draw draw,
     });
     connect(m_question, &QuestionPage::buttonPressed, this, &PracticeView::pressButton);
     connect(m_results, &ResultsPage::anotherRoundWanted, this, &PracticeView::newRound);
+    connect(&m_input, &AnswerInput::answered, this, &PracticeView::take);
+    connect(&m_input, &AnswerInput::gripChanged, this, &PracticeView::tellGrip);
+    connect(&m_input, &AnswerInput::keysChanged, this, &PracticeView::followKeyboard);
     m_modelChange = model.changed.subscribe([this](ModelField field) {
         if (field == ModelField::sheets)
             followSheets();
+        else if (field == ModelField::practiceApp)
+            followRequest();
         else if (field == ModelField::trigger || field == ModelField::keyLabels)
             tellHowToBegin();
     });
     if (model.current() && model.sheets().contains(model.current()->bundleID))
         m_appID = model.current()->bundleID;
+    if (model.sheets().contains(model.practiceApp()))
+        m_appID = model.practiceApp();
+    m_empty->setVisible(model.sheets().empty());
+    m_practice->setVisible(!model.sheets().empty());
     tellHowToBegin();
     followSheets();
+    refresh();
 }
 
 PracticeView::~PracticeView() = default;
@@ -138,16 +143,27 @@ void PracticeView::tellHowToBegin() {
 
 /// A sheet came or went. The round that runs is of what was known when it was drawn.
 void PracticeView::followSheets() {
-    const std::vector<AppChoice> choices = choicesOf(m_model.sheets());
+    std::vector<AppChoice> choices = choicesOf(m_model.sheets());
+    if (choices == m_choices)
+        return;
+    m_choices = std::move(choices);
     m_apps->clear();
-    for (const AppChoice& choice : choices)
+    for (const AppChoice& choice : m_choices)
         m_apps->addItem(choice.name, text(choice.appID));
-    m_practice->setVisible(!choices.empty());
-    m_empty->setVisible(choices.empty());
+    m_practice->setVisible(!m_choices.empty());
+    m_empty->setVisible(m_choices.empty());
     if (m_apps->findData(text(m_appID)) < 0)
-        choose(choices.empty() ? std::string() : choices.front().appID);
+        choose(m_choices.empty() ? std::string() : m_choices.front().appID);
     m_apps->setCurrentIndex(m_apps->findData(text(m_appID)));
-    refresh();
+}
+
+/// Practice is wanted for an application; without a name, for whichever it is.
+void PracticeView::followRequest() {
+    const int index = m_apps->findData(text(m_model.practiceApp()));
+    if (m_model.practiceApp().empty() || index < 0)
+        return;
+    m_apps->setCurrentIndex(index);
+    choose(m_model.practiceApp());
 }
 
 void PracticeView::choose(const std::string& appID) {
@@ -164,6 +180,7 @@ void PracticeView::newRound() {
         return;
     m_round = PracticeRound(
         m_draw(*sheet->second, m_model.usage().records(m_appID), m_model.annotations().pinned(m_appID)));
+    m_input.beginRound();
     m_startText->setText(
         m_round.isDrawn() ? PracticeTexts::pressNewRound()
                           : PracticeTexts::nothingToAsk(foreignLine(sheet->second->appName)));
@@ -183,18 +200,28 @@ void PracticeView::record(const PracticeResult& result) {
 }
 
 void PracticeView::refresh() {
+    m_input.setWaiting(m_round.isWaiting());
     if (m_round.isOver()) {
         m_results->show(m_round);
         showPage(m_results);
-        m_results->focusButton();
     } else if (m_round.isDrawn()) {
-        m_question->show(m_round);
+        followKeyboard();
+        m_question->show(m_round, m_lastPress);
         showPage(m_question);
-        m_question->focusButton();
     } else {
         showPage(m_start);
-        m_startButton->setFocus();
     }
+    takeFocus();
+}
+
+/// Return does what comes next, and a question is read aloud.
+void PracticeView::takeFocus() {
+    if (m_round.isOver())
+        m_results->focusButton();
+    else if (m_round.isDrawn())
+        m_question->takeFocus();
+    else
+        m_startButton->setFocus();
 }
 
 void PracticeView::showPage(QWidget* page) {
@@ -202,40 +229,35 @@ void PracticeView::showPage(QWidget* page) {
 }
 
 void PracticeView::showEvent(QShowEvent* event) {
-    qApp->installEventFilter(this);
+    m_input.start();
+    tellGrip();
     ThemedWidget::showEvent(event);
+    takeFocus(); // what is not in a window yet keeps none
 }
 
 void PracticeView::hideEvent(QHideEvent* event) {
-    qApp->removeEventFilter(this);
+    m_input.stop();
     ThemedWidget::hideEvent(event);
 }
 
-/// Presses go to whatever has the keyboard in the window, and shortcuts before them: both are too late.
-bool PracticeView::eventFilter(QObject* watched, QEvent* event) {
-    const bool isPress = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-    const auto* widget = isPress ? qobject_cast<QWidget*>(watched) : nullptr;
-    if (!widget || widget->window() != window() || !m_round.isWaiting())
-        return false;
-    const auto& press = *static_cast<QKeyEvent*>(event);
-    if (event->type() == QEvent::KeyPress)
-        return takesPress(press);
-    if (!answerKeys(press))
-        return false;
-    event->accept();
-    return true;
-}
-
-bool PracticeView::takesPress(const QKeyEvent& press) {
-    const auto keys = answerKeys(press);
-    if (!keys)
-        return false;
-    if (press.isAutoRepeat())
-        return true;
-    if (const auto result = m_round.press(keys->stroke, displayWith(keys->shortcut, theme().keyNames.get())))
+void PracticeView::take(const KeyStroke& stroke) {
+    m_lastPress = shownAs(stroke);
+    if (const auto result = m_round.press(stroke, displayWith(*m_lastPress, theme().keyNames.get())))
         record(*result);
     refresh();
-    return true;
+}
+
+void PracticeView::tellGrip() {
+    m_question->setHint(
+        !m_input.canRead()                ? PracticeTexts::keysAreNotTold()
+        : m_input.grip() == Grip::allKeys ? PracticeTexts::everyKeyComesHere()
+        : m_input.grip() == Grip::letGo   ? PracticeTexts::desktopHasItsKeys()
+                                          : QString());
+}
+
+void PracticeView::followKeyboard() {
+    if (auto printed = m_keys.printed())
+        m_question->setPrinted(std::move(*printed));
 }
 
 } // namespace quillon

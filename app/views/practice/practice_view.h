@@ -1,5 +1,7 @@
 #pragma once
 
+#include "answer_input.h"
+
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/core/practice_round.h>
 #include <quillon/app/views/components/drop_down.h>
@@ -12,6 +14,7 @@
 #include <QStackedLayout>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,8 +24,8 @@ class QuestionPage;
 class ResultsPage;
 
 /// Short quizzes on the shortcuts of one application: a command is shown, and the user presses what they
-/// think its shortcut is. While a question waits the view takes the presses that can be answers, wherever in
-/// the window the keyboard is.
+/// think its shortcut is. It follows the model where practice is asked for an application: another one than
+/// that of the round that runs ends the round, of which every answer is recorded already.
 class PracticeView : public ThemedWidget {
     Q_OBJECT
 
@@ -34,8 +37,10 @@ class PracticeView : public ThemedWidget {
     /// Ten commands by chance, those that are clicked and missed most the likeliest.
     static Draw drawByChance();
 
-    /// `model` and `themes` outlive the view.
-    PracticeView(AppModel& model, ThemeSource& themes, Draw draw = drawByChance(), QWidget* parent = nullptr);
+    /// All of it outlives the view.
+    PracticeView(
+        AppModel& model, ThemeSource& themes, AnswerInput::Needs keyboard, Draw draw = drawByChance(),
+        QWidget* parent = nullptr);
     ~PracticeView() override;
 
     /// The application that is practised; empty when there is none.
@@ -45,9 +50,15 @@ class PracticeView : public ThemedWidget {
   protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    struct AppChoice {
+        QString name;
+        std::string appID;
+        bool operator==(const AppChoice&) const = default;
+    };
+
+    static std::vector<AppChoice> choicesOf(const SharedSheets& sheets);
     QWidget* makeStart();
     void layOut();
     void tellHowToBegin();
@@ -55,24 +66,32 @@ class PracticeView : public ThemedWidget {
     void choose(const std::string& appID);
     void newRound();
     void pressButton();
-    bool takesPress(const QKeyEvent& press);
+    void take(const KeyStroke& stroke);
+    void followRequest();
+    void tellGrip();
+    void followKeyboard();
     void record(const PracticeResult& result);
     void refresh();
+    void takeFocus();
     void showPage(QWidget* page);
 
     AppModel& m_model;
     Draw m_draw;
     std::string m_appID;
     PracticeRound m_round;
+    std::optional<Shortcut> m_lastPress; ///< of the round
+    KeyReading& m_keys;
     QWidget* m_practice;
     MessageView* m_empty;
     DropDown* m_apps;
+    std::vector<AppChoice> m_choices;
     ThemedLabel* m_startText;
     ProminentButton* m_startButton;
     QWidget* m_start;
     QuestionPage* m_question;
     ResultsPage* m_results;
     QStackedLayout* m_pages;
+    AnswerInput m_input;
     Subscription m_modelChange;
 };
 

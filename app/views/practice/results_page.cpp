@@ -37,6 +37,7 @@ ResultsPage::ResultsPage(ThemeSource& themeSource, QWidget* parent)
     m_missed->setWidgetResizable(true);
     m_missed->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_missed->viewport()->setAutoFillBackground(false);
+    m_missed->setAccessibleName(PracticeTexts::comeUpMore());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);

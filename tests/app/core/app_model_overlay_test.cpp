@@ -207,6 +207,11 @@ TEST_F(AppModelTest, PracticeIsAskedForAnApplicationEachTime) {
     model.openPractice("org.example.sketch");
     EXPECT_EQ(practised, (std::vector<std::string>{"org.example.sketch", "org.example.sketch"}));
     EXPECT_EQ(desktop.windows.opened(), (std::vector{WindowName::practice, WindowName::practice}));
+    EXPECT_EQ(model.practiceApp(), "org.example.sketch");
+    model.requestWindow(WindowName::settings);
+    EXPECT_EQ(model.practiceApp(), "org.example.sketch");
+    model.requestWindow(WindowName::practice);
+    EXPECT_EQ(model.practiceApp(), "") << "what was asked for last is not asked for for ever";
 }
 
 TEST_F(AppModelTest, NotesAndMutesAreTold) {

@@ -16,7 +16,9 @@
 #include <quillon/app/platform/linux/x11/x11_connection.h>
 #include <quillon/app/platform/linux/x11/x11_foreground.h>
 #include <quillon/app/platform/linux/x11/x11_front_application.h>
+#include <quillon/app/platform/linux/x11/x11_key_reading.h>
 #include <quillon/app/platform/linux/x11/x11_keyboard.h>
+#include <quillon/app/platform/linux/x11/x11_keyboard_grab.h>
 #include <quillon/app/platform/linux/x11/x11_panel_windows.h>
 #include <quillon/app/platform/linux/x11/x11_typed_keys.h>
 #include <quillon/app/platform/qt/panels/plain_panel_windows.h>
@@ -78,6 +80,8 @@ LinuxDesktop::LinuxDesktop(const QDBusConnection& sessionBus, Background& backgr
         m_x11, m_identifier,
         [this](const std::string& bundleID, IconPixels icon) { m_icons->note(bundleID, std::move(icon)); });
     m_keyboard = std::make_unique<X11Keyboard>(m_x11, m_input);
+    m_keyReading = std::make_unique<X11KeyReading>(*m_keyboard, background);
+    m_keyboardGrab = X11KeyboardGrab::ofToolkit();
     m_menuUse = std::make_unique<LinuxMenuUse>(
         m_x11, m_input, LinuxMenuUse::Needs{*m_front, background, lookupInOpenMenus()});
     m_typedKeys = std::make_unique<X11TypedKeys>(
@@ -109,6 +113,18 @@ Keyboard& LinuxDesktop::keyboard() {
     if (m_keyboard)
         return *m_keyboard;
     return m_none.keyboard;
+}
+
+KeyReading& LinuxDesktop::keyReading() {
+    if (m_keyReading)
+        return *m_keyReading;
+    return m_none.keyReading;
+}
+
+KeyboardGrab& LinuxDesktop::keyboardGrab() {
+    if (m_keyboardGrab)
+        return *m_keyboardGrab;
+    return m_none.keyboardGrab;
 }
 
 MenuUse& LinuxDesktop::menuUse() {

@@ -21,7 +21,9 @@ namespace quillon {
 class RawInput;
 class RootEventBrake;
 class X11Connection;
+class X11KeyReading;
 class X11Keyboard;
+class X11KeyboardGrab;
 class X11TypedKeys;
 class XdgAppIcons;
 
@@ -37,6 +39,8 @@ class LinuxDesktop final : public Desktop {
     MenuReader& menuReader() override { return m_menuReader; }
     AccessibilityAccess& accessibility() override { return *m_access; }
     Keyboard& keyboard() override;
+    KeyReading& keyReading() override;
+    KeyboardGrab& keyboardGrab() override;
     MenuUse& menuUse() override;
     TypedKeys& typedKeys() override;
     AppIcons& icons() override;
@@ -68,6 +72,8 @@ class LinuxDesktop final : public Desktop {
     std::unique_ptr<Foreground> m_foreground;
     std::unique_ptr<FrontApplication> m_front;
     std::unique_ptr<X11Keyboard> m_keyboard;
+    std::unique_ptr<X11KeyReading> m_keyReading;
+    std::unique_ptr<X11KeyboardGrab> m_keyboardGrab;
     std::unique_ptr<X11TypedKeys> m_typedKeys;
     std::unique_ptr<MenuUse> m_menuUse;
     std::unique_ptr<Tray> m_tray;

@@ -1,5 +1,6 @@
 #include "keymap.h"
 
+#include "dead_keys.h"
 #include "symbol_keys.h"
 
 #include <quillon/kit/base/unicode.h>
@@ -66,6 +67,17 @@ xkb_layout_index_t countedLayout(const KeySymbols& symbols, xkb_layout_index_t c
     return inEffect;
 }
 
+std::string printOf(xkb_keysym_t symbol) {
+    std::string accent = accentOfDeadKey(symbol);
+    return accent.empty() ? characterOf(symbol) : accent;
+}
+
+/// As `countedLayout`; a dead key is not looked past.
+xkb_layout_index_t printedLayout(const KeySymbols& symbols, xkb_layout_index_t count) {
+    const xkb_layout_index_t inEffect = symbols.layoutInEffect();
+    return accentOfDeadKey(symbols.in(inEffect)).empty() ? countedLayout(symbols, count) : inEffect;
+}
+
 std::optional<KeyStroke> namedStroke(xkb_keysym_t symbol, Modifiers modifiers) {
     const auto key = specialKeyOfSymbol(symbol);
     // Shift makes a symbol of its own of Tab.
@@ -94,6 +106,17 @@ std::optional<KeyStroke> Keymap::stroke(std::uint32_t key, const KeyState& state
         .characters = std::move(character),
         .keyCode = code.value_or(KeyCodes::isoSection),
         .modifiers = state.modifiers};
+}
+
+KeyPrint Keymap::print(std::uint32_t key, std::uint32_t group) const {
+    const xkb_layout_index_t count = xkb_keymap_num_layouts_for_key(m_keymap.get(), key);
+    if (count == 0)
+        return {};
+    const KeySymbols plain(m_keymap.get(), key, 0, group);
+    const KeySymbols shifted(m_keymap.get(), key, shiftMask, group);
+    return {
+        .plain = printOf(plain.in(printedLayout(plain, count))),
+        .shifted = printOf(shifted.in(printedLayout(shifted, count)))};
 }
 
 std::size_t Keymap::layoutCount() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <quillon/app/ports/printed_keys.h>
 #include <quillon/kit/shortcut/key_stroke.h>
 
 #include <cstddef>
@@ -40,6 +41,10 @@ class Keymap {
     /// - The code is then that of the ANSI key with the character that the key gives without Shift, because
     ///   matching looks that up: German ⇧- is the use of ⇧⌃-, although its place is that of another key.
     std::optional<KeyStroke> stroke(std::uint32_t key, const KeyState& state) const;
+
+    /// What is printed on a key that has characters, by its X key code, where `group` is in effect; of the
+    /// layout that `stroke` takes them from. A dead key has its accent on it.
+    KeyPrint print(std::uint32_t key, std::uint32_t group) const;
 
     std::size_t layoutCount() const;
 

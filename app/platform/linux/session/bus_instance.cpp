@@ -68,9 +68,21 @@ bool BusInstance::OpenWindow(const QString& identifier, const QString& activatio
     const auto window = windowOfIdentifier(identifier.toStdString());
     if (!window || !m_requests.openWindow)
         return false;
+    expect(activationToken);
+    return m_requests.openWindow(*window);
+}
+
+bool BusInstance::OpenPractice(const QString& bundleID, const QString& activationToken) {
+    if (!m_requests.openPractice)
+        return false;
+    expect(activationToken);
+    m_requests.openPractice(bundleID.toStdString());
+    return true;
+}
+
+void BusInstance::expect(const QString& activationToken) const {
     if (!activationToken.isEmpty() && m_requests.expectActivation)
         m_requests.expectActivation(activationToken.toStdString());
-    return m_requests.openWindow(*window);
 }
 
 void BusInstance::lookForBus() {

@@ -41,6 +41,8 @@ class BusInstance final : public QObject, public Instance {
     Q_SCRIPTABLE void ShowSample() { call(m_requests.showSample); }
     /// By its identifier; false when there is no such window. The token may be "".
     Q_SCRIPTABLE bool OpenWindow(const QString& identifier, const QString& activationToken);
+    /// The practice window for an application, by its bundle identifier; the same token.
+    Q_SCRIPTABLE bool OpenPractice(const QString& bundleID, const QString& activationToken);
     Q_SCRIPTABLE void Quit() { call(m_requests.quit); }
     Q_SCRIPTABLE bool IsWatching() { return watching().holds; }
     Q_SCRIPTABLE bool IsWatchingClicks() { return watching().clicks; }
@@ -55,6 +57,7 @@ class BusInstance final : public QObject, public Instance {
         if (request)
             request();
     }
+    void expect(const QString& activationToken) const;
     Watching watching() const { return m_requests.watching ? m_requests.watching() : Watching{}; }
     Claim claimOnBus();
 

@@ -33,6 +33,16 @@ bool isNobodyThere(const QString& error) {
            || error == QLatin1StringView("org.freedesktop.DBus.Error.NameHasNoOwner");
 }
 
+/// Whether a window opens is told in the answer; of other requests it is enough that there is one.
+RunningProgram::Answer meaningOf(const QDBusMessage& answer, bool opensWindow) {
+    if (answer.type() == QDBusMessage::ReplyMessage) {
+        const bool isRefused = opensWindow && !answer.arguments().value(0, true).toBool();
+        return isRefused ? RunningProgram::Answer::refused : RunningProgram::Answer::done;
+    }
+    return isNobodyThere(answer.errorName()) ? RunningProgram::Answer::notRunning
+                                             : RunningProgram::Answer::silent;
+}
+
 } // namespace
 
 QDBusMessage BusRunningProgram::call(const QString& operation, const QVariantList& arguments) const {
@@ -54,14 +64,14 @@ QDBusMessage BusRunningProgram::send(ProgramRequest request) const {
 }
 
 RunningProgram::Answer BusRunningProgram::ask(ProgramRequest request) {
+    return m_bus.answers() ? meaningOf(send(request), windowOf(request).has_value()) : Answer::unreachable;
+}
+
+RunningProgram::Answer BusRunningProgram::askForPractice(const std::string& bundleID) {
     if (!m_bus.answers())
         return Answer::unreachable;
-    const QDBusMessage answer = send(request);
-    if (answer.type() == QDBusMessage::ReplyMessage) {
-        const bool isRefused = windowOf(request) && !answer.arguments().value(0, true).toBool();
-        return isRefused ? Answer::refused : Answer::done;
-    }
-    return isNobodyThere(answer.errorName()) ? Answer::notRunning : Answer::silent;
+    const QVariantList arguments{QString::fromStdString(bundleID), QString::fromStdString(m_activationToken)};
+    return meaningOf(call(QStringLiteral("OpenPractice"), arguments), true);
 }
 
 std::string activationTokenOf(const Environment& environment) {

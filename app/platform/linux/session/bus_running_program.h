@@ -24,6 +24,7 @@ class BusRunningProgram final : public RunningProgram {
         : m_bus(bus), m_activationToken(std::move(activationToken)) {}
 
     Answer ask(ProgramRequest request) override;
+    Answer askForPractice(const std::string& bundleID) override;
 
     /// What it notices at this moment; absent when it does not run or does not answer. Waits within bounds.
     std::optional<Watching> watching() const;

@@ -45,11 +45,13 @@ void FollowedKeymap::arrived(std::shared_ptr<const Keymap> keymap) {
     m_request.reset();
     m_pause.start();
     if (!keymap) {
-        qCInfo(logInput) << "the X server does not tell the keyboard's map: typed shortcuts are not noticed";
+        qCInfo(logInput)
+            << "the X server does not tell the keyboard's map: shortcuts cannot be told from key presses";
         return;
     }
     m_keymap = std::move(keymap);
     qCInfo(logInput) << "the keyboard's map is read; its layouts:" << m_keymap->layoutCount();
+    changed.emit();
 }
 
 } // namespace quillon

@@ -21,6 +21,8 @@ class FollowedKeymap {
 
     /// The newest that is known; nullptr before the first. It may be a moment behind the keyboard.
     const Keymap* keymap() const { return m_keymap.get(); }
+    /// Emitted when it is another.
+    Event<> changed;
 
   private:
     void follow();

@@ -137,6 +137,16 @@ KeyState X11Keyboard::keyState() const {
         .modifiers = modifiers(), .choosers = m_map.modifiers.choosers(m_mask | m_locked), .group = m_group};
 }
 
+KeyState X11Keyboard::keyState(std::uint32_t stateOfEvent) const {
+    constexpr std::uint32_t modifierBits = 0xff;
+    constexpr std::uint32_t groupShift = 13; // where the keyboard extension puts the layout in effect
+    constexpr std::uint32_t groupBits = 3;
+    return {
+        .modifiers = m_map.modifiers.modifiers(stateOfEvent & modifierBits),
+        .choosers = m_map.modifiers.choosers(stateOfEvent & modifierBits),
+        .group = (stateOfEvent >> groupShift) & groupBits};
+}
+
 void X11Keyboard::handle(const xcb_generic_event_t& event) {
     if (event.response_type != m_x11->extensions().xkbFirstEvent)
         return;

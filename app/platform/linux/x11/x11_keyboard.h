@@ -30,6 +30,8 @@ class X11Keyboard final : public Keyboard {
 
     /// What decides, beside the key, what is pressed now. As the server's events have told it.
     KeyState keyState() const;
+    /// The same for a key event of the server's, by the state that the event carries.
+    KeyState keyState(std::uint32_t stateOfEvent) const;
     /// Called when what the keys give may have changed: another layout, another keyboard.
     Subscription onMapChanged(std::function<void()> callback) {
         return m_mapChanged.subscribe(std::move(callback));

@@ -26,6 +26,8 @@ TEST(NoDesktopTest, HasNothingToTell) {
     EXPECT_FALSE(desktop.sessionStart.isOn());
     EXPECT_TRUE(desktop.launcherKey.modifier().isEmpty());
     EXPECT_FALSE(desktop.softwarePages.hasSoftwareCentre());
+    EXPECT_FALSE(desktop.keyReading.stroke({}));
+    EXPECT_FALSE(desktop.keyReading.printed());
 }
 
 TEST(NoDesktopTest, AsksForNothing) {
@@ -34,6 +36,8 @@ TEST(NoDesktopTest, AsksForNothing) {
     desktop.windows.open(WindowName::library);
     EXPECT_FALSE(desktop.access.onChanged([] {}));
     EXPECT_FALSE(desktop.panels.onScreensChanged([] {}));
+    EXPECT_FALSE(desktop.keyReading.follow([] {}));
+    EXPECT_FALSE(desktop.keyboardGrab.take(0, [] {}));
     EXPECT_FALSE(desktop.keyboard.onModifiersChanged([](Modifiers) {}));
     EXPECT_FALSE(desktop.front.onActivated([](const RunningApp&) {}));
     EXPECT_FALSE(desktop.appearance.onChanged([] {}));

@@ -1,7 +1,10 @@
 #include "scenes.h"
 
+#include <quillon/app/views/components/text.h>
 #include <quillon/app/views/practice/practice_view.h>
 #include <quillon/kit/menu/sample_menus.h>
+#include <quillon/kit/shortcut/key_code.h>
+#include <quillon/tests/app/views/support/typed_answers.h>
 #include <quillon/tests/support/widgets/active_window.h>
 
 #include <QAbstractItemView>
@@ -21,11 +24,12 @@ namespace {
 
 /// A key press while a round is drawn.
 struct Press {
-    int key;
+    Qt::Key key;
     Qt::KeyboardModifiers held = Qt::NoModifier;
 };
 
 constexpr Press onButton{Qt::Key_Return};
+constexpr Press toButton{Qt::Key_Tab};
 constexpr Press wrongKeys{Qt::Key_X, Qt::ControlModifier | Qt::AltModifier};
 
 RawMenuItem command(const char* title, const char* key) {
@@ -60,10 +64,19 @@ void read(ViewDesk& desk, std::int64_t pid, const std::string& name) {
     desk.desktop.background.runAll();
 }
 
-void send(const Press& press) {
-    QKeyEvent event(QEvent::KeyPress, press.key, press.held);
-    if (QWidget* const focused = QApplication::focusWidget())
-        QApplication::sendEvent(focused, &event);
+/// `prints` has two characters for each key with characters, in the order of an ANSI keyboard's rows, and
+/// then those of the key that only an ISO keyboard has.
+void printKeys(FakeKeyReading& reading, KeyboardShape shape, const QString& prints) {
+    constexpr std::string_view places = "`1234567890-=QWERTYUIOP[]\\ASDFGHJKL;'ZXCVBNM,./";
+    PrintedKeys keys{.shape = shape};
+    for (qsizetype i = 0; 2 * i < prints.size(); ++i) {
+        const auto place = static_cast<std::size_t>(i) < places.size()
+                               ? KeyCodes::ofCharacter(places.substr(static_cast<std::size_t>(i), 1))
+                               : KeyCodes::isoSection;
+        keys.keys[place.value_or(KeyCodes::isoSection)] = {
+            .plain = utf8(prints.sliced(2 * i, 1)), .shifted = utf8(prints.sliced(2 * i + 1, 1))};
+    }
+    reading.print(keys);
 }
 
 /// With these applications, and what their user pressed so far.
@@ -72,24 +85,53 @@ practised(ViewDesk& desk, const std::vector<std::string>& apps, const std::vecto
     std::int64_t pid = 2;
     for (const std::string& app : apps)
         read(desk, pid++, app);
+    defineKeys(desk.desktop.keyReading);
+    if (!desk.desktop.keyReading.printed())
+        printKeys(
+            desk.desktop.keyReading, KeyboardShape::ansi,
+            u"`~1!2@3#4$5%6^7&8*9(0)-_=+qQwWeErRtTyYuUiIoOpP[{]}\\|aAsSdDfFgGhHjJkKlL;:'\"zZxXcCvVbBnNmM,<.>/?"_s);
     PracticeView& view = keep(
         desk, std::make_unique<PracticeView>(
                   desk.model, desk.themes,
+                  AnswerInput::Needs{desk.desktop.keyReading, desk.desktop.keyboardGrab, desk.desktop.timers},
                   [](const AppSheet& sheet, const UsageRecords&, const PracticeDeck::Ids&) {
                       return sheet.entries;
                   }));
-    view.resize(QSize(480, 420).expandedTo(view.sizeHint()));
+    view.resize(QSize(560, 580).expandedTo(view.sizeHint()));
     view.show();
     makeActive(view);
     QApplication::processEvents();
     for (const Press& press : presses)
-        send(press);
+        typeKey(press.key, press.held);
     return view;
 }
 
 Scene practice(QString name, std::vector<std::string> apps, std::vector<Press> presses = {}) {
     auto show = [apps = std::move(apps), presses = std::move(presses)](ViewDesk& desk) {
         return &practised(desk, apps, presses);
+    };
+    return {std::move(name), std::move(show)};
+}
+
+/// Where the round asks for ⌃Z.
+Scene germanKeyboard(QString name, std::vector<std::string> apps) {
+    auto show = [apps = std::move(apps)](ViewDesk& desk) {
+        printKeys(
+            desk.desktop.keyReading, KeyboardShape::iso,
+            u"^°1!2\"3§4$5%6&7/8(9)0=ß?´`qQwWeErRtTzZuUiIoOpPüÜ+*#'aAsSdDfFgGhHjJkKlLöÖäÄyYxXcCvVbBnNmM,;.:-_<>"_s);
+        return &practised(
+            desk, apps, {onButton, wrongKeys, onButton, wrongKeys, onButton, wrongKeys, onButton, wrongKeys});
+    };
+    return {std::move(name), std::move(show)};
+}
+
+Scene letGo(QString name, std::vector<std::string> apps) {
+    auto show = [apps = std::move(apps)](ViewDesk& desk) {
+        PracticeView& view = practised(desk, apps, {onButton});
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(QApplication::focusWidget(), &escape);
+        desk.desktop.timers.advance(Seconds(1.1));
+        return &view;
     };
     return {std::move(name), std::move(show)};
 }
@@ -117,7 +159,9 @@ std::vector<Scene> practiceScenes() {
         practice(u"practice-question"_s, apps, {onButton, save, onButton}),
         practice(u"practice-right"_s, apps, {onButton, save, onButton, find}),
         practice(u"practice-wrong"_s, apps, {onButton, save, onButton, find, onButton, wrongKeys}),
-        practice(u"practice-revealed"_s, apps, {onButton, onButton}),
+        practice(u"practice-revealed"_s, apps, {onButton, toButton, onButton}),
+        germanKeyboard(u"practice-german-keyboard"_s, apps),
+        letGo(u"practice-let-go"_s, apps),
         practice(
             u"practice-missed"_s, apps,
             {onButton, save, onButton, wrongKeys, onButton, wrongKeys, onButton, undo, onButton}),

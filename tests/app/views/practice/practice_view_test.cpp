@@ -1,6 +1,8 @@
+#include <quillon/app/views/practice/keyboard_view.h>
 #include <quillon/app/views/practice/practice_view.h>
 #include <quillon/kit/menu/sample_menus.h>
 #include <quillon/tests/app/views/support/printing.h>
+#include <quillon/tests/app/views/support/typed_answers.h>
 #include <quillon/tests/app/views/support/view_desk.h>
 
 #include <gmock/gmock.h>
@@ -9,6 +11,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QTest>
 
@@ -38,8 +41,9 @@ MenuReading menusWith(std::initializer_list<RawMenuItem> items) {
 class PracticeViewTest : public testing::Test {
   protected:
     void open() {
+        defineKeys(desk.desktop.keyReading);
         view = new PracticeView(
-            desk.model, desk.themes,
+            desk.model, desk.themes, keyboard(),
             [](const AppSheet& sheet, const UsageRecords&, const PracticeDeck::Ids&) {
                 return sheet.entries;
             },
@@ -69,6 +73,12 @@ class PracticeViewTest : public testing::Test {
                 texts.append(label->text());
         return texts;
     }
+    /// As the mouse does.
+    void showAnswer() {
+        for (auto* button : view->findChildren<QAbstractButton*>())
+            if (button->isVisible() && button->text() == u"Show Answer"_s)
+                QTest::mouseClick(button, Qt::LeftButton);
+    }
     QStringList buttons() const {
         QStringList labels;
         for (const auto* button : view->findChildren<QAbstractButton*>())
@@ -76,8 +86,15 @@ class PracticeViewTest : public testing::Test {
                 labels.append(button->text());
         return labels;
     }
-    void press(int key, Qt::KeyboardModifiers held = Qt::NoModifier) {
-        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), held);
+    static void press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) { typeKey(key, held); }
+    AnswerInput::Needs keyboard() {
+        return {desk.desktop.keyReading, desk.desktop.keyboardGrab, desk.desktop.timers};
+    }
+    const QLabel* label(const QString& text) const {
+        for (const auto* label : view->findChildren<QLabel*>())
+            if (label->isVisible() && label->text() == text)
+                return label;
+        return nullptr;
     }
     UsageRecord record(const char* id) const {
         return desk.model.usage().record("org.example.Writer", id).value_or(UsageRecord());
@@ -135,7 +152,9 @@ TEST_F(PracticeViewTest, ARightAnswerIsSaidAndCounted) {
     open();
     press(Qt::Key_Return); // New Round
     EXPECT_THAT(
-        texts(), ElementsAre(u"Practice"_s, u"1 of 2"_s, u"File"_s, u"Save"_s, u"Press the shortcut"_s));
+        texts(), ElementsAre(
+                     u"Practice"_s, u"1 of 2"_s, u"File"_s, u"Save"_s, u"Press the shortcut"_s,
+                     u"Every key comes here while a question waits. Hold Esc to let go."_s));
     EXPECT_THAT(buttons(), ElementsAre(u"Show Answer"_s));
     press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(texts(), Contains(u"Right"_s));
@@ -154,7 +173,9 @@ TEST_F(PracticeViewTest, AWrongAnswerTellsWhatWasPressedAndComesAgain) {
     EXPECT_EQ(record("File › Save").practiceWrong, 1);
     press(Qt::Key_Return); // Next
     EXPECT_THAT(texts(), Contains(u"2 of 2"_s));
-    press(Qt::Key_Return); // Show Answer
+    press(Qt::Key_Return);
+    EXPECT_TRUE(view->round().isWaiting()) << "a Return too many gives no answer away";
+    showAnswer();
     EXPECT_EQ(record("File › Quit").practiceWrong, 1);
     EXPECT_THAT(buttons(), ElementsAre(u"See Results"_s));
     press(Qt::Key_Return);
@@ -189,10 +210,99 @@ TEST_F(PracticeViewTest, ModifiersAndKeysOfTheWindowAreNoAnswers) {
     EXPECT_TRUE(view->round().isWaiting());
 }
 
+TEST_F(PracticeViewTest, TheAnswerIsShownByTheKeyboardToo) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    QWidget* const question = QApplication::focusWidget();
+    ASSERT_TRUE(question);
+    EXPECT_EQ(question->accessibleName(), u"Save, in File. Press the shortcut"_s);
+    press(Qt::Key_Tab);
+    const auto* const button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+    ASSERT_TRUE(button);
+    EXPECT_EQ(button->text(), u"Show Answer"_s);
+    press(Qt::Key_Return);
+    EXPECT_THAT(buttons(), ElementsAre(u"Next"_s));
+    EXPECT_EQ(record("File › Save").practiceWrong, 1);
+    EXPECT_EQ(QApplication::focusWidget()->accessibleDescription(), u"⌃S"_s);
+}
+
+TEST_F(PracticeViewTest, TheKeyboardLightsUpNoSoonerThanTheAnswer) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    const auto& keyboard = *view->findChild<KeyboardView*>();
+    EXPECT_TRUE(keyboard.lit().empty());
+    EXPECT_EQ(keyboard.accessibleName(), u"Keyboard"_s);
+    press(Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(keyboard.accessibleName(), u"Keyboard, lit: ⌃S"_s);
+    EXPECT_EQ(keyboard.lit().size(), 2U);
+    EXPECT_EQ(keyboard.marked().size(), 2U);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(keyboard.lit().empty());
+    EXPECT_TRUE(keyboard.marked().empty());
+}
+
+TEST_F(PracticeViewTest, SaysWhoHasTheKeyboard) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(label(u"Every key comes here while a question waits. Hold Esc to let go."_s));
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(QApplication::focusWidget(), &escape);
+    desk.desktop.timers.advance(Seconds(1.1));
+    EXPECT_TRUE(label(u"The keyboard is free: your desktop’s own keys work again."_s));
+}
+
+TEST_F(PracticeViewTest, SaysWhereKeysAreNotTold) {
+    desk.desktop.keyReading.disable();
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(label(u"This desktop does not tell Quillon which keys are pressed."_s));
+}
+
+TEST_F(PracticeViewTest, OpensForTheApplicationThatWasAskedFor) {
+    read(3, "Zebra", menusWith({command("Save", "S")}));
+    readWriter();
+    desk.model.openPractice("org.example.Zebra");
+    open();
+    EXPECT_EQ(view->appID(), "org.example.Zebra");
+    EXPECT_EQ(view->findChild<QComboBox*>()->currentText(), u"Zebra"_s);
+}
+
+TEST_F(PracticeViewTest, AnotherApplicationThatIsAskedForEndsTheRound) {
+    read(3, "Zebra", menusWith({command("Save", "S")}));
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    press(Qt::Key_S, Qt::ControlModifier);
+    desk.model.openPractice("org.example.Writer");
+    EXPECT_TRUE(view->round().isDrawn()) << "the round's own";
+    desk.model.openPractice("org.example.Unread");
+    EXPECT_TRUE(view->round().isDrawn()) << "one that there is nothing to practise of";
+    desk.model.openPractice("org.example.Zebra");
+    EXPECT_EQ(view->appID(), "org.example.Zebra");
+    EXPECT_FALSE(view->round().isDrawn());
+    EXPECT_EQ(record("File › Save").practiceRight, 1);
+    EXPECT_FALSE(desk.desktop.keyboardGrab.isWanted());
+}
+
+TEST_F(PracticeViewTest, ASheetThatArrivesLeavesTheFocusWhereItIs) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    press(Qt::Key_Tab);
+    const QWidget* const button = QApplication::focusWidget();
+    read(3, "Zebra", menusWith({command("Save", "S")}));
+    EXPECT_EQ(QApplication::focusWidget(), button);
+    EXPECT_EQ(view->findChild<QComboBox*>()->count(), 2);
+}
+
 TEST_F(PracticeViewTest, AnAppWithoutPractisableShortcutsIsSaidSo) {
     readWriter();
     view = new PracticeView(
-        desk.model, desk.themes,
+        desk.model, desk.themes, keyboard(),
         [](const auto&, const auto&, const auto&) { return std::vector<MenuEntry>(); }, &window);
     window.show();
     QApplication::processEvents();

@@ -1,9 +1,10 @@
+#include "keymaps.h"
+
 #include <quillon/app/platform/linux/keys/keymap.h>
 
 #include <quillon/kit/shortcut/shortcut.h>
 
 #include <linux/input-event-codes.h>
-#include <xkbcommon/xkbcommon.h>
 
 #include <gtest/gtest.h>
 
@@ -14,22 +15,6 @@
 
 namespace quillon {
 namespace {
-
-/// A keymap of xkeyboard-config, as setxkbmap makes it.
-struct Layouts {
-    const char* names;
-    const char* variants = "";
-    const char* options = "";
-};
-
-Keymap keymapOf(const Layouts& layouts) {
-    xkb_context* const context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
-    const xkb_rule_names names{"evdev", "pc105", layouts.names, layouts.variants, layouts.options};
-    Keymap::Handle keymap(
-        xkb_keymap_new_from_names(context, &names, XKB_KEYMAP_COMPILE_NO_FLAGS), xkb_keymap_unref);
-    xkb_context_unref(context);
-    return Keymap(std::move(keymap));
-}
 
 /// What is held or on, beside Ctrl.
 enum Chooser : std::uint32_t { plain = 0, shift = 1, numLock = 16, altGr = 128 };

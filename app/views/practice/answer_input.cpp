@@ -1,0 +1,209 @@
+#include "answer_input.h"
+
+#include "answers.h"
+
+#include <QApplication>
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr Seconds letGoAfter{1};
+constexpr Seconds absentAfter{30};
+
+HardwarePress hardwarePress(const QKeyEvent& event) {
+    return {.key = event.nativeScanCode(), .state = event.nativeModifiers()};
+}
+
+bool isPlainEscape(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier;
+}
+
+bool isPopup(const QObject* object) {
+    const auto* const widget = qobject_cast<const QWidget*>(object);
+    return widget && widget->isWindow() && widget->windowType() == Qt::Popup;
+}
+
+} // namespace
+
+AnswerInput::AnswerInput(QWidget& view, Needs needs) : m_view(view), m_needs(needs) {}
+
+AnswerInput::~AnswerInput() = default;
+
+void AnswerInput::start() {
+    if (std::exchange(m_isListening, true))
+        return;
+    qApp->installEventFilter(this);
+    m_reading = m_needs.keys.follow([this] { Q_EMIT keysChanged(); });
+    follow();
+}
+
+void AnswerInput::stop() {
+    if (!std::exchange(m_isListening, false))
+        return;
+    qApp->removeEventFilter(this);
+    windowLeft();
+    m_reading.reset();
+}
+
+void AnswerInput::setWaiting(bool waiting) {
+    m_isWaiting = waiting;
+    m_isResting = false;
+    m_escape.reset();
+    follow();
+}
+
+void AnswerInput::beginRound() {
+    m_isLetGo = false;
+    follow();
+}
+
+Grip AnswerInput::grip() const {
+    return m_isLetGo ? Grip::letGo : m_isTaken ? Grip::allKeys : Grip::someKeys;
+}
+
+/// Takes the keyboard, or gives it back, as it is due now.
+void AnswerInput::follow() {
+    const bool isDue = m_isListening && (m_isWaiting || m_answeringKey) && !m_isLetGo && !m_isResting
+                       && m_view.window()->isActiveWindow() && !QApplication::activePopupWidget();
+    if (!isDue) {
+        m_grab.reset();
+        setGrip(false, m_isLetGo);
+    } else if (!m_grab) {
+        m_grab = m_needs.grab.take(m_view.window()->winId(), [this] {
+            setGrip(true, m_isLetGo);
+            stirred();
+        });
+    }
+}
+
+/// Somebody is there.
+void AnswerInput::stirred() {
+    if (std::exchange(m_isResting, false))
+        follow();
+    if (!m_isTaken)
+        return;
+    m_absence = m_needs.timers.after(absentAfter, [this] {
+        m_isResting = true;
+        follow();
+    });
+}
+
+void AnswerInput::setGrip(bool isTaken, bool isLetGo) {
+    const Grip before = grip();
+    m_isTaken = isTaken;
+    m_isLetGo = isLetGo;
+    if (grip() != before)
+        Q_EMIT gripChanged();
+}
+
+/// Presses go to whatever has the keyboard in the window, and shortcuts before them: both are too late.
+bool AnswerInput::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::WindowActivate:
+        if (watched == m_view.window())
+            follow();
+        return false;
+    case QEvent::WindowDeactivate:
+        if (watched == m_view.window())
+            windowLeft();
+        return false;
+    case QEvent::Show:
+    case QEvent::Hide:
+        if (isPopup(watched))
+            QMetaObject::invokeMethod(this, &AnswerInput::popupCameOrWent, Qt::QueuedConnection);
+        return false;
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonPress:
+    case QEvent::Enter: stirred(); return false;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride: break;
+    default: return false;
+    }
+    const auto* const widget = qobject_cast<QWidget*>(watched);
+    return widget && widget->window() == m_view.window() && takes(*static_cast<QKeyEvent*>(event));
+}
+
+bool AnswerInput::takes(QKeyEvent& key) {
+    switch (key.type()) {
+    case QEvent::KeyPress: stirred(); return key.isAutoRepeat() ? takesRepeat(key) : takesPress(key);
+    case QEvent::KeyRelease: released(key); return false;
+    default: break;
+    }
+    if (!m_isWaiting || !answer(key))
+        return false;
+    key.accept();
+    return true;
+}
+
+/// The toolkit takes the keyboard for its menus, and gives it back for the whole program after them.
+void AnswerInput::popupCameOrWent() {
+    m_grab.reset();
+    setGrip(false, m_isLetGo);
+    follow();
+}
+
+void AnswerInput::windowLeft() {
+    m_escape.reset();
+    m_absence.reset();
+    m_isResting = false;
+    m_answeringKey.reset();
+    m_grab.reset();
+    setGrip(false, false);
+}
+
+std::optional<KeyStroke> AnswerInput::answer(const QKeyEvent& press) const {
+    const auto stroke = m_needs.keys.stroke(hardwarePress(press));
+    return stroke && !worksWindow(*stroke) ? stroke : std::nullopt;
+}
+
+bool AnswerInput::takesPress(const QKeyEvent& press) {
+    if (!m_isWaiting)
+        return false;
+    if (isPlainEscape(press)) {
+        beginToLetGo();
+        return true;
+    }
+    const auto stroke = answer(press);
+    if (!stroke)
+        return false;
+    m_answeringKey = press.nativeScanCode();
+    Q_EMIT answered(*stroke);
+    return true;
+}
+
+/// Held keys neither answer nor press buttons over and over; they only walk.
+bool AnswerInput::takesRepeat(const QKeyEvent& press) const {
+    switch (press.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Escape: return true;
+    default: return m_answeringKey == press.nativeScanCode() || (m_isWaiting && answer(press));
+    }
+}
+
+void AnswerInput::released(const QKeyEvent& release) {
+    if (release.isAutoRepeat())
+        return;
+    if (release.key() == Qt::Key_Escape)
+        m_escape.reset();
+    if (m_answeringKey == release.nativeScanCode()) {
+        m_answeringKey.reset();
+        follow();
+    }
+}
+
+void AnswerInput::beginToLetGo() {
+    if (grip() != Grip::allKeys)
+        return;
+    m_escape = m_needs.timers.after(letGoAfter, [this] {
+        m_grab.reset();
+        setGrip(false, true);
+    });
+}
+
+} // namespace quillon
