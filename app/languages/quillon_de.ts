@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CheatSheet</name>
+    <message>
+        <source>%1 Shortcuts</source>
+        <translation>Tastenkürzel von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 Tastenkürzel</numerusform><numerusform>%1 Tastenkürzel</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 Command  %2 Option  %3 Control  %4 Shift</source>
+        <translation>%1 Befehlstaste  %2 Wahltaste  %3 Steuerungstaste  %4 Umschalttaste</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Angeheftet</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1 (Fortsetzung)</translation>
+    </message>
+    <message>
+        <source>Made with Quillon</source>
+        <translation>Erstellt mit Quillon</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>The PDF document cannot be written.</source>
+        <translation>Das PDF-Dokument lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>There are no shortcuts to print.</source>
+        <translation>Es gibt keine Tastenkürzel zu drucken.</translation>
+    </message>
+    <message>
+        <source>The printer does not take the pages. Check that it is set up and on.</source>
+        <translation>Der Drucker nimmt die Seiten nicht an. Prüfen Sie, ob er eingerichtet und eingeschaltet ist.</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>%1; see quillon --help</source>
@@ -40,8 +87,20 @@
         <translation>--pid nimmt eine Prozessnummer, nicht „%1“</translation>
     </message>
     <message>
-        <source>--format is text, json or markdown, not '%1'</source>
-        <translation>--format ist text, json oder markdown, nicht „%1“</translation>
+        <source>--format is text, json, markdown or pdf, not '%1'</source>
+        <translation>--format ist text, json, markdown oder pdf, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--output needs --format pdf</source>
+        <translation>--output braucht --format pdf</translation>
+    </message>
+    <message>
+        <source>--output takes the name of a file</source>
+        <translation>--output erwartet den Namen einer Datei</translation>
+    </message>
+    <message>
+        <source>a PDF document is not for the terminal; name a file with --output</source>
+        <translation>ein PDF-Dokument ist nichts für das Terminal; nennen Sie mit --output eine Datei</translation>
     </message>
     <message>
         <source>--format is text or json, not '%1'</source>
@@ -170,6 +229,7 @@ Commands:
   show        open the overlay and keep it open
                 --sample          with a made-up drawing application
   practice    open the practice window
+                --app NAME        for the application with this id or name
   library     open the library of all shortcuts
   settings    open the settings
   welcome     open the welcome
@@ -178,7 +238,9 @@ Commands:
                 --pid N           the application of this process
                 --front           the front application (default)
                 --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default), json or markdown
+                --format FORMAT   text (default), json, markdown or pdf
+                --output FILE     of a PDF document; needed unless standard
+                                  output goes to a file or another program
                 --keys KEYS       symbols (default), or names as they are printed
                                   on the keyboard; JSON is the same with both
                 --practice N      a practice round of N commands instead, in the
@@ -214,6 +276,7 @@ Befehle:
   show        die Übersicht öffnen und offen halten
                 --sample          mit einem erfundenen Zeichenprogramm
   practice    das Fenster zum Üben öffnen
+                --app NAME        für diese Anwendung (Name oder Kennung)
   library     die Bibliothek aller Tastenkürzel öffnen
   settings    die Einstellungen öffnen
   welcome     die Begrüßung öffnen
@@ -222,7 +285,9 @@ Befehle:
                 --pid N           die Anwendung dieses Prozesses
                 --front           die Anwendung im Vordergrund (Vorgabe)
                 --query Q         nur die Tastenkürzel, die zu Q passen
-                --format FORMAT   text (Vorgabe), json oder markdown
+                --format FORMAT   text (Vorgabe), json, markdown oder pdf
+                --output DATEI    eines PDF-Dokuments; nötig, wenn die Ausgabe
+                                  nicht in eine Datei oder ein Programm geht
                 --keys TASTEN     symbols (Vorgabe: Zeichen) oder names, wie auf
                                   der Tastatur; JSON ist mit beiden gleich
                 --practice N      stattdessen eine Übungsrunde von N Befehlen,
@@ -248,6 +313,10 @@ Optionen:
 Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
 4 Barrierefreiheit fehlt oder ist aus, 5 keine Menü-Tastenkürzel freigegeben.
 </translation>
+    </message>
+    <message>
+        <source>the shortcuts of an application called '%1' have not been read yet</source>
+        <translation>die Tastenkürzel einer Anwendung namens „%1“ wurden noch nicht gelesen</translation>
     </message>
 </context>
 <context>
@@ -947,6 +1016,102 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
         <source>Pick an app</source>
         <translation>Anwendung auswählen</translation>
     </message>
+    <message>
+        <source>Pin to the top of the overlay and cheat sheet</source>
+        <translation>Oben in Übersicht und Spickzettel anheften</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Nicht mehr anheften</translation>
+    </message>
+    <message>
+        <source>Add a note</source>
+        <translation>Notiz hinzufügen</translation>
+    </message>
+    <message>
+        <source>Nudge me when I click this in the menu</source>
+        <translation>Hinweisen, wenn ich das im Menü anklicke</translation>
+    </message>
+    <message>
+        <source>Pin %1</source>
+        <translation>%1 anheften</translation>
+    </message>
+    <message>
+        <source>Unpin %1</source>
+        <translation>%1 nicht mehr anheften</translation>
+    </message>
+    <message>
+        <source>Note for %1</source>
+        <translation>Notiz zu %1</translation>
+    </message>
+    <message>
+        <source>Turn nudges off for %1</source>
+        <translation>Hinweise zu %1 ausschalten</translation>
+    </message>
+    <message>
+        <source>Turn nudges on for %1</source>
+        <translation>Hinweise zu %1 einschalten</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>angeheftet</translation>
+    </message>
+    <message>
+        <source>nudges off</source>
+        <translation>keine Hinweise</translation>
+    </message>
+    <message>
+        <source>A note to remember it by</source>
+        <translation>Eine Notiz als Eselsbrücke</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Üben</translation>
+    </message>
+    <message>
+        <source>Drill this app’s shortcuts, weighted to the ones you click</source>
+        <translation>Die Tastenkürzel dieser Anwendung üben, am meisten die, die Sie anklicken</translation>
+    </message>
+    <message>
+        <source>Cheat Sheet</source>
+        <translation>Spickzettel</translation>
+    </message>
+    <message>
+        <source>A printable cheat sheet of these shortcuts, pinned first, with your notes</source>
+        <translation>Ein Spickzettel dieser Tastenkürzel zum Drucken, Angeheftetes zuerst, mit Ihren Notizen</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Als PDF sichern …</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drucken …</translation>
+    </message>
+    <message>
+        <source>Copy as Markdown</source>
+        <translation>Als Markdown kopieren</translation>
+    </message>
+    <message>
+        <source>PDF documents (%1)</source>
+        <translation>PDF-Dokumente (%1)</translation>
+    </message>
+    <message>
+        <source>Couldn’t make the cheat sheet</source>
+        <translation>Der Spickzettel ließ sich nicht erstellen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>Numbers</name>
@@ -1128,6 +1293,34 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 keine solche Anwendung,
     <message>
         <source>Hold %1 in an app first, so Quillon can read its shortcuts.</source>
         <translation>Halten Sie erst %1 in einer Anwendung, damit Quillon deren Tastenkürzel lesen kann.</translation>
+    </message>
+    <message>
+        <source>Every key comes here while a question waits. Hold Esc to let go.</source>
+        <translation>Jede Taste gehört hierher, solange eine Frage wartet. Mit gehaltener Esc-Taste geben Sie die Tastatur frei.</translation>
+    </message>
+    <message>
+        <source>The keyboard is free: your desktop’s own keys work again.</source>
+        <translation>Die Tastatur ist frei: Die Tasten Ihres Desktops wirken wieder.</translation>
+    </message>
+    <message>
+        <source>This desktop does not tell Quillon which keys are pressed.</source>
+        <translation>Dieser Desktop teilt Quillon nicht mit, welche Tasten gedrückt werden.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>Keyboard, lit: %1</source>
+        <translation>Tastatur, beleuchtet: %1</translation>
+    </message>
+    <message>
+        <source>%1, in %2. %3</source>
+        <translation>%1, in %2. %3</translation>
+    </message>
+    <message>
+        <source>%1. The shortcut is %2.</source>
+        <translation>%1. Das Tastenkürzel ist %2.</translation>
     </message>
 </context>
 <context>

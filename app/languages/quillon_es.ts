@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>CheatSheet</name>
+    <message>
+        <source>%1 Shortcuts</source>
+        <translation>Atajos de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 atajo</numerusform><numerusform>%1 atajos</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 Command  %2 Option  %3 Control  %4 Shift</source>
+        <translation>%1 Comando  %2 Opción  %3 Control  %4 Mayúsculas</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Fijados</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1 (continuación)</translation>
+    </message>
+    <message>
+        <source>Made with Quillon</source>
+        <translation>Hecho con Quillon</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>The PDF document cannot be written.</source>
+        <translation>No se puede escribir el documento PDF.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>No se puede escribir «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>There are no shortcuts to print.</source>
+        <translation>No hay atajos que imprimir.</translation>
+    </message>
+    <message>
+        <source>The printer does not take the pages. Check that it is set up and on.</source>
+        <translation>La impresora no acepta las páginas. Compruebe que está configurada y encendida.</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>%1; see quillon --help</source>
@@ -40,8 +87,20 @@
         <translation>--pid toma un número de proceso, no «%1»</translation>
     </message>
     <message>
-        <source>--format is text, json or markdown, not '%1'</source>
-        <translation>--format es text, json o markdown, no «%1»</translation>
+        <source>--format is text, json, markdown or pdf, not '%1'</source>
+        <translation>--format es text, json, markdown o pdf, no «%1»</translation>
+    </message>
+    <message>
+        <source>--output needs --format pdf</source>
+        <translation>--output necesita --format pdf</translation>
+    </message>
+    <message>
+        <source>--output takes the name of a file</source>
+        <translation>--output toma el nombre de un archivo</translation>
+    </message>
+    <message>
+        <source>a PDF document is not for the terminal; name a file with --output</source>
+        <translation>un documento PDF no es para el terminal; indique un archivo con --output</translation>
     </message>
     <message>
         <source>--format is text or json, not '%1'</source>
@@ -170,6 +229,7 @@ Commands:
   show        open the overlay and keep it open
                 --sample          with a made-up drawing application
   practice    open the practice window
+                --app NAME        for the application with this id or name
   library     open the library of all shortcuts
   settings    open the settings
   welcome     open the welcome
@@ -178,7 +238,9 @@ Commands:
                 --pid N           the application of this process
                 --front           the front application (default)
                 --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default), json or markdown
+                --format FORMAT   text (default), json, markdown or pdf
+                --output FILE     of a PDF document; needed unless standard
+                                  output goes to a file or another program
                 --keys KEYS       symbols (default), or names as they are printed
                                   on the keyboard; JSON is the same with both
                 --practice N      a practice round of N commands instead, in the
@@ -214,6 +276,7 @@ pulsada la tecla de activación (Super) en una aplicación para ver sus atajos.
   show        abrir el panel y mantenerlo abierto
                 --sample          con una aplicación de dibujo inventada
   practice    abrir la ventana de práctica
+                --app NOMBRE      para esta aplicación (nombre o identificador)
   library     abrir la biblioteca de todos los atajos
   settings    abrir la configuración
   welcome     abrir la bienvenida
@@ -222,7 +285,9 @@ pulsada la tecla de activación (Super) en una aplicación para ver sus atajos.
                 --pid N           la aplicación de este proceso
                 --front           la aplicación en primer plano (por omisión)
                 --query Q         solo los atajos que coincidan con Q
-                --format FORMATO  text (por omisión), json o markdown
+                --format FORMATO  text (por omisión), json, markdown o pdf
+                --output ARCHIVO  de un documento PDF; necesario salvo que la
+                                  salida vaya a un archivo o a otro programa
                 --keys TECLAS     symbols (por omisión), o names, los nombres
                                   impresos en el teclado; el JSON es el mismo
                 --practice N      en su lugar, una ronda de práctica de N
@@ -248,6 +313,10 @@ Opciones:
 Códigos de salida: 0 éxito, 1 fallo, 2 uso incorrecto, 3 no existe tal
 aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de menú.
 </translation>
+    </message>
+    <message>
+        <source>the shortcuts of an application called '%1' have not been read yet</source>
+        <translation>los atajos de una aplicación llamada «%1» aún no se han leído</translation>
     </message>
 </context>
 <context>
@@ -947,6 +1016,102 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
         <source>Pick an app</source>
         <translation>Elija una aplicación</translation>
     </message>
+    <message>
+        <source>Pin to the top of the overlay and cheat sheet</source>
+        <translation>Fijar al principio del panel y de la chuleta</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Dejar de fijar</translation>
+    </message>
+    <message>
+        <source>Add a note</source>
+        <translation>Añadir una nota</translation>
+    </message>
+    <message>
+        <source>Nudge me when I click this in the menu</source>
+        <translation>Avisarme cuando haga clic en esto en el menú</translation>
+    </message>
+    <message>
+        <source>Pin %1</source>
+        <translation>Fijar %1</translation>
+    </message>
+    <message>
+        <source>Unpin %1</source>
+        <translation>Dejar de fijar %1</translation>
+    </message>
+    <message>
+        <source>Note for %1</source>
+        <translation>Nota para %1</translation>
+    </message>
+    <message>
+        <source>Turn nudges off for %1</source>
+        <translation>Desactivar los avisos para %1</translation>
+    </message>
+    <message>
+        <source>Turn nudges on for %1</source>
+        <translation>Activar los avisos para %1</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>fijado</translation>
+    </message>
+    <message>
+        <source>nudges off</source>
+        <translation>sin avisos</translation>
+    </message>
+    <message>
+        <source>A note to remember it by</source>
+        <translation>Una nota para recordarlo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Práctica</translation>
+    </message>
+    <message>
+        <source>Drill this app’s shortcuts, weighted to the ones you click</source>
+        <translation>Practicar los atajos de esta aplicación, sobre todo aquellos en los que hace clic</translation>
+    </message>
+    <message>
+        <source>Cheat Sheet</source>
+        <translation>Chuleta</translation>
+    </message>
+    <message>
+        <source>A printable cheat sheet of these shortcuts, pinned first, with your notes</source>
+        <translation>Una chuleta imprimible de estos atajos, primero los fijados, con sus notas</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Guardar como PDF…</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimir…</translation>
+    </message>
+    <message>
+        <source>Copy as Markdown</source>
+        <translation>Copiar como Markdown</translation>
+    </message>
+    <message>
+        <source>PDF documents (%1)</source>
+        <translation>Documentos PDF (%1)</translation>
+    </message>
+    <message>
+        <source>Couldn’t make the cheat sheet</source>
+        <translation>No se pudo crear la chuleta</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
 </context>
 <context>
     <name>Numbers</name>
@@ -1128,6 +1293,34 @@ aplicación, 4 accesibilidad ausente o desactivada, 5 no comparte atajos de men�
     <message>
         <source>Hold %1 in an app first, so Quillon can read its shortcuts.</source>
         <translation>Mantenga primero %1 en una aplicación, para que Quillon pueda leer sus atajos.</translation>
+    </message>
+    <message>
+        <source>Every key comes here while a question waits. Hold Esc to let go.</source>
+        <translation>Todas las teclas llegan aquí mientras espera una pregunta. Mantenga Esc para soltarlas.</translation>
+    </message>
+    <message>
+        <source>The keyboard is free: your desktop’s own keys work again.</source>
+        <translation>Teclado liberado: las teclas de su escritorio vuelven a funcionar.</translation>
+    </message>
+    <message>
+        <source>This desktop does not tell Quillon which keys are pressed.</source>
+        <translation>Este escritorio no indica a Quillon qué teclas se pulsan.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>Keyboard, lit: %1</source>
+        <translation>Teclado, iluminadas: %1</translation>
+    </message>
+    <message>
+        <source>%1, in %2. %3</source>
+        <translation>%1, en %2. %3</translation>
+    </message>
+    <message>
+        <source>%1. The shortcut is %2.</source>
+        <translation>%1. El atajo es %2.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>CheatSheet</name>
+    <message>
+        <source>%1 Shortcuts</source>
+        <translation>Raccourcis de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 shortcuts</source>
+        <translation><numerusform>%1 raccourci</numerusform><numerusform>%1 raccourcis</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 Command  %2 Option  %3 Control  %4 Shift</source>
+        <translation>%1 Commande  %2 Option  %3 Contrôle  %4 Majuscule</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Épinglés</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1 (suite)</translation>
+    </message>
+    <message>
+        <source>Made with Quillon</source>
+        <translation>Fait avec Quillon</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>The PDF document cannot be written.</source>
+        <translation>Impossible d’écrire le document PDF.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>There are no shortcuts to print.</source>
+        <translation>Il n’y a aucun raccourci à imprimer.</translation>
+    </message>
+    <message>
+        <source>The printer does not take the pages. Check that it is set up and on.</source>
+        <translation>L’imprimante n’accepte pas les pages. Vérifiez qu’elle est configurée et allumée.</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>%1; see quillon --help</source>
@@ -40,8 +87,20 @@
         <translation>--pid prend un numéro de processus, pas « %1 »</translation>
     </message>
     <message>
-        <source>--format is text, json or markdown, not '%1'</source>
-        <translation>--format vaut text, json ou markdown, pas « %1 »</translation>
+        <source>--format is text, json, markdown or pdf, not '%1'</source>
+        <translation>--format vaut text, json, markdown ou pdf, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--output needs --format pdf</source>
+        <translation>--output demande --format pdf</translation>
+    </message>
+    <message>
+        <source>--output takes the name of a file</source>
+        <translation>--output prend le nom d’un fichier</translation>
+    </message>
+    <message>
+        <source>a PDF document is not for the terminal; name a file with --output</source>
+        <translation>un document PDF n’est pas fait pour le terminal ; indiquez un fichier avec --output</translation>
     </message>
     <message>
         <source>--format is text or json, not '%1'</source>
@@ -170,6 +229,7 @@ Commands:
   show        open the overlay and keep it open
                 --sample          with a made-up drawing application
   practice    open the practice window
+                --app NAME        for the application with this id or name
   library     open the library of all shortcuts
   settings    open the settings
   welcome     open the welcome
@@ -178,7 +238,9 @@ Commands:
                 --pid N           the application of this process
                 --front           the front application (default)
                 --query Q         only the shortcuts that match Q
-                --format FORMAT   text (default), json or markdown
+                --format FORMAT   text (default), json, markdown or pdf
+                --output FILE     of a PDF document; needed unless standard
+                                  output goes to a file or another program
                 --keys KEYS       symbols (default), or names as they are printed
                                   on the keyboard; JSON is the same with both
                 --practice N      a practice round of N commands instead, in the
@@ -214,6 +276,7 @@ Commandes :
   show        ouvrir le panneau et le garder ouvert
                 --sample          avec une application de dessin inventée
   practice    ouvrir la fenêtre d’exercices
+                --app NOM         pour cette application (nom ou identifiant)
   library     ouvrir la bibliothèque de tous les raccourcis
   settings    ouvrir les réglages
   welcome     ouvrir la fenêtre de bienvenue
@@ -222,7 +285,9 @@ Commandes :
                 --pid N           l’application de ce processus
                 --front           l’application au premier plan (par défaut)
                 --query Q         seulement les raccourcis correspondant à Q
-                --format FORMAT   text (par défaut), json ou markdown
+                --format FORMAT   text (par défaut), json, markdown ou pdf
+                --output FICHIER  d’un document PDF ; nécessaire sauf si la
+                                  sortie va à un fichier ou à un programme
                 --keys TOUCHES    symbols (par défaut), ou names, les noms
                                   sur le clavier ; le JSON est le même
                 --practice N      plutôt une série d’exercices de N commandes,
@@ -248,6 +313,10 @@ Options :
 Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue,
 4 accessibilité absente ou désactivée, 5 aucun raccourci de menu partagé.
 </translation>
+    </message>
+    <message>
+        <source>the shortcuts of an application called '%1' have not been read yet</source>
+        <translation>les raccourcis d’une application nommée « %1 » n’ont pas encore été lus</translation>
     </message>
 </context>
 <context>
@@ -947,6 +1016,102 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
         <source>Pick an app</source>
         <translation>Choisissez une application</translation>
     </message>
+    <message>
+        <source>Pin to the top of the overlay and cheat sheet</source>
+        <translation>Épingler en haut du panneau et de l’aide-mémoire</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Ne plus épingler</translation>
+    </message>
+    <message>
+        <source>Add a note</source>
+        <translation>Ajouter une note</translation>
+    </message>
+    <message>
+        <source>Nudge me when I click this in the menu</source>
+        <translation>Me le rappeler quand je clique dessus dans le menu</translation>
+    </message>
+    <message>
+        <source>Pin %1</source>
+        <translation>Épingler %1</translation>
+    </message>
+    <message>
+        <source>Unpin %1</source>
+        <translation>Ne plus épingler %1</translation>
+    </message>
+    <message>
+        <source>Note for %1</source>
+        <translation>Note pour %1</translation>
+    </message>
+    <message>
+        <source>Turn nudges off for %1</source>
+        <translation>Désactiver les rappels pour %1</translation>
+    </message>
+    <message>
+        <source>Turn nudges on for %1</source>
+        <translation>Activer les rappels pour %1</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>épinglé</translation>
+    </message>
+    <message>
+        <source>nudges off</source>
+        <translation>sans rappels</translation>
+    </message>
+    <message>
+        <source>A note to remember it by</source>
+        <translation>Une note pour s’en souvenir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation>Exercices</translation>
+    </message>
+    <message>
+        <source>Drill this app’s shortcuts, weighted to the ones you click</source>
+        <translation>Exercer les raccourcis de cette application, surtout ceux que vous cliquez</translation>
+    </message>
+    <message>
+        <source>Cheat Sheet</source>
+        <translation>Aide-mémoire</translation>
+    </message>
+    <message>
+        <source>A printable cheat sheet of these shortcuts, pinned first, with your notes</source>
+        <translation>Un aide-mémoire imprimable de ces raccourcis, les épinglés d’abord, avec vos notes</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Enregistrer en PDF…</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimer…</translation>
+    </message>
+    <message>
+        <source>Copy as Markdown</source>
+        <translation>Copier en Markdown</translation>
+    </message>
+    <message>
+        <source>PDF documents (%1)</source>
+        <translation>Documents PDF (%1)</translation>
+    </message>
+    <message>
+        <source>Couldn’t make the cheat sheet</source>
+        <translation>Impossible de créer l’aide-mémoire</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>Numbers</name>
@@ -1128,6 +1293,34 @@ Codes de sortie : 0 succès, 1 échec, 2 usage incorrect, 3 application inconnue
     <message>
         <source>Hold %1 in an app first, so Quillon can read its shortcuts.</source>
         <translation>Maintenez d’abord %1 dans une application, pour que Quillon puisse lire ses raccourcis.</translation>
+    </message>
+    <message>
+        <source>Every key comes here while a question waits. Hold Esc to let go.</source>
+        <translation>Toutes les touches arrivent ici tant qu’une question attend. Maintenez Échap pour les libérer.</translation>
+    </message>
+    <message>
+        <source>The keyboard is free: your desktop’s own keys work again.</source>
+        <translation>Clavier libéré : les touches de votre bureau agissent de nouveau.</translation>
+    </message>
+    <message>
+        <source>This desktop does not tell Quillon which keys are pressed.</source>
+        <translation>Ce bureau n’indique pas à Quillon quelles touches sont pressées.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>Keyboard, lit: %1</source>
+        <translation>Clavier, touches allumées : %1</translation>
+    </message>
+    <message>
+        <source>%1, in %2. %3</source>
+        <translation>%1, dans %2. %3</translation>
+    </message>
+    <message>
+        <source>%1. The shortcut is %2.</source>
+        <translation>%1. Le raccourci est %2.</translation>
     </message>
 </context>
 <context>

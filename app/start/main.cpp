@@ -1,6 +1,7 @@
 #include "run_program.h"
 #include "this_platform.h"
 
+#include <quillon/app/cheatsheet/exports/system_exports.h>
 #include <quillon/app/cli/log_output.h>
 #include <quillon/app/commands/commands.h>
 #include <quillon/app/languages/translations.h>
@@ -8,6 +9,7 @@
 #include <quillon/app/ports/diagnostics/log.h>
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringList>
 
 #include <clocale>
@@ -34,18 +36,36 @@ class Execution {
     ExitCode operator()(const ShowCommand& show) {
         return run(show.sample ? ProgramRequest::showSample : ProgramRequest::showOverlay);
     }
-    ExitCode operator()(const WindowCommand& command) { return run(openingOf(command.window)); }
+    ExitCode operator()(const WindowCommand& command) {
+        if (!command.appName)
+            return run(openingOf(command.window));
+        std::variant<std::string, ExitCode> app;
+        withPlatform([&](Platform& platform) {
+            app = appToPractise(*command.appName, platform.dataFolder(), m_output);
+            return ExitCode::success;
+        });
+        if (const auto* failed = std::get_if<ExitCode>(&app))
+            return *failed;
+        return run(ProgramRequest::openPractice, std::get<std::string>(app));
+    }
     ExitCode operator()(const AppsCommand&) {
         return withPlatform([&](Platform& platform) {
             return runApps(platform.applications(), platform.menuReader(), m_output);
         });
     }
     ExitCode operator()(const SheetCommand& sheet) {
-        return withPlatform([&](Platform& platform) {
+        const auto run = [&](Platform& platform) {
+            SystemExports exports;
+            const SystemClock clock;
             return runSheet(
-                sheet, platform.applications(), platform.menuReader(), platform.dataFolder(), SystemClock(),
-                m_output);
-        });
+                sheet, {platform.applications(), platform.menuReader(), exports, clock},
+                platform.dataFolder(), m_output);
+        };
+        if (sheet.format != SheetFormat::pdf)
+            return withPlatform<QCoreApplication>(run);
+        // Documents need the toolkit's fonts, and no display.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return withPlatform<QGuiApplication>(run);
     }
     ExitCode operator()(const StatsCommand& stats) {
         return withPlatform(
@@ -70,8 +90,8 @@ class Execution {
     }
 
   private:
-    ExitCode run(ProgramRequest request) {
-        return runProgram(*thisPlatform(), request, m_argc, m_argv, m_output);
+    ExitCode run(ProgramRequest request, const std::string& practiceApp = {}) {
+        return runProgram(*thisPlatform(), {request, practiceApp}, m_argc, m_argv, m_output);
     }
 
     /// The command once more, with its texts in the session's language.
@@ -86,9 +106,9 @@ class Execution {
     };
 
     /// Commands without windows still need what makes Qt's sockets and buses work.
-    template <class Work>
+    template <class Application = QCoreApplication, class Work>
     ExitCode withPlatform(Work work) {
-        const QCoreApplication application(m_argc, m_argv);
+        const Application application(m_argc, m_argv);
         const Translations translations;
         const std::unique_ptr<Platform> platform = thisPlatform();
         return work(*platform);

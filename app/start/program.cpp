@@ -61,7 +61,7 @@ Program::Program(Platform& platform)
            .checkForUpdates = [this] { m_updates.checkForUpdates(); },
            .quit = [] { QApplication::quit(); }}),
       m_windowOffers(offerWindows(
-          m_windows, {m_model, m_themes, m_icons, *m_desktop, m_timers, m_clock,
+          m_windows, {m_model, m_themes, m_icons, *m_desktop, m_timers, m_clock, m_exports,
                       shownPath(platform.dataFolder(), QDir::homePath().toStdString())})),
       m_trustForFirstShow(m_model, m_timers), m_welcome(m_model, m_timers) {
     const auto applyKeyLabels = [this] { m_themes.setKeyLabels(m_settings.keyLabels()); };
@@ -84,6 +84,7 @@ InstanceRequests Program::requests() {
         .showOverlay = [this] { showOverlay(); },
         .showSample = [this] { showSample(); },
         .openWindow = [this](WindowName name) { return openWindow(name); },
+        .openPractice = [this](const std::string& bundleID) { openPractice(bundleID); },
         .expectActivation = [this](std::string token) { m_desktop->foreground().expect(std::move(token)); },
         .quit = [] { QApplication::quit(); },
         .watching = [this] { return m_model.watching(); },
@@ -91,20 +92,22 @@ InstanceRequests Program::requests() {
     };
 }
 
-void Program::start(ProgramRequest request) {
+void Program::start(const ProgramWish& wish) {
     m_model.start();
     m_tray.show();
     m_updates.start();
     // The first hold should not have to wait for what can be made while nobody waits.
     m_preparation = m_timers.after(Seconds(0), [this] { m_model.preparePanels(); });
-    const auto window = windowOf(request);
-    if (window && m_windows.offers(*window))
+    const auto window = windowOf(wish.request);
+    if (!wish.practiceApp.empty())
+        onceTrustIsKnown([this, app = wish.practiceApp] { openPractice(app); });
+    else if (window && m_windows.offers(*window))
         onceTrustIsKnown([this, name = *window] { openWindow(name); });
-    else if (request == ProgramRequest::showOverlay)
+    else if (wish.request == ProgramRequest::showOverlay)
         onceTrustIsKnown([this] { showOverlay(); });
-    else if (request == ProgramRequest::showSample)
+    else if (wish.request == ProgramRequest::showSample)
         showSample();
-    else if (request == ProgramRequest::serve)
+    else if (wish.request == ProgramRequest::serve)
         m_isToldWhatFor = false;
     else
         m_welcome.begin();
@@ -123,6 +126,10 @@ void Program::askedFor(std::function<void()> show) {
         onceTrustIsKnown(std::move(show));
     else
         show();
+}
+
+void Program::openPractice(const std::string& bundleID) {
+    askedFor([this, bundleID] { m_model.openPractice(bundleID); });
 }
 
 void Program::onceTrustIsKnown(std::function<void()> show) {

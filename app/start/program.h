@@ -3,6 +3,7 @@
 #include "program_updates.h"
 #include "window_contents.h"
 
+#include <quillon/app/cheatsheet/exports/system_exports.h>
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/core/first_trust.h>
 #include <quillon/app/core/welcome_at_start.h>
@@ -20,11 +21,19 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace quillon {
 
 class Showcase;
+
+/// What the program is started for.
+struct ProgramWish {
+    ProgramRequest request = ProgramRequest::activate;
+    std::string practiceApp =
+        {}; ///< with `openPractice`, the bundle identifier of what to practise; "" for any
+};
 
 /// The running program: everything that lives from its start to its end, in the order in which it needs one
 /// another.
@@ -36,14 +45,14 @@ class Program {
 
     /// What other processes of the session may ask of this one.
     InstanceRequests requests();
-    /// `request` is what it is started for.
-    void start(ProgramRequest request);
+    void start(const ProgramWish& wish);
 
   private:
     void activate();
     void comeUp();
     bool openWindow(WindowName name);
     void askedFor(std::function<void()> show);
+    void openPractice(const std::string& bundleID);
     void showOverlay();
     void onceTrustIsKnown(std::function<void()> show);
     void showSample();
@@ -54,6 +63,7 @@ class Program {
     std::unique_ptr<Desktop> m_desktop;
     Settings m_settings;
     ThemeSource m_themes;
+    SystemExports m_exports;
     AppIconCache m_icons;
     ViewPanelHost m_panels;
     TitledWindows m_windows;

@@ -29,12 +29,12 @@ ExitCode failWithoutWindow(Output& output) {
 enum LoopEnd { quit = 0, startAnew = 1 };
 
 /// Runs until the user quits or the session that was lost is back.
-LoopEnd run(Program& program, Instance& instance, ProgramRequest request) {
+LoopEnd run(Program& program, Instance& instance, const ProgramWish& wish) {
     const Subscription returned = instance.onReturn([](Instance::Return how) {
         QApplication::exit(how == Instance::Return::startAnew ? LoopEnd::startAnew : LoopEnd::quit);
     });
     const EndSignals signals([] { QApplication::quit(); });
-    program.start(request);
+    program.start(wish);
     return static_cast<LoopEnd>(QApplication::exec());
 }
 
@@ -43,8 +43,12 @@ struct Ended {
     LoopEnd how = LoopEnd::quit;
 };
 
-Ended runInstance(Platform& platform, ProgramRequest request, Output& output) {
-    switch (platform.runningProgram().ask(request)) {
+RunningProgram::Answer askFor(const ProgramWish& wish, RunningProgram& program) {
+    return wish.practiceApp.empty() ? program.ask(wish.request) : program.askForPractice(wish.practiceApp);
+}
+
+Ended runInstance(Platform& platform, const ProgramWish& wish, Output& output) {
+    switch (askFor(wish, platform.runningProgram())) {
     case RunningProgram::Answer::done: return {};
     case RunningProgram::Answer::refused: return {failWithoutWindow(output)};
     case RunningProgram::Answer::silent: return {failUnanswered(output)};
@@ -61,18 +65,18 @@ Ended runInstance(Platform& platform, ProgramRequest request, Output& output) {
             "CommandLine", "the session bus cannot be reached; menus cannot be read, see quillon doctor")));
         break;
     case Instance::Claim::taken:
-        if (platform.runningProgram().ask(request) == RunningProgram::Answer::done)
+        if (askFor(wish, platform.runningProgram()) == RunningProgram::Answer::done)
             return {};
         return {failUnanswered(output)};
     case Instance::Claim::unreachable: return {failUnanswered(output)};
     }
     const std::unique_ptr<QObject> measuring = stallHook();
-    return {ExitCode::success, run(program, *instance, request)};
+    return {ExitCode::success, run(program, *instance, wish)};
 }
 
 } // namespace
 
-ExitCode runProgram(Platform& platform, ProgramRequest request, int& argc, char** argv, Output& output) {
+ExitCode runProgram(Platform& platform, const ProgramWish& wish, int& argc, char** argv, Output& output) {
     if (const auto problem = platform.prepareDisplay())
         return output.fail(ExitCode::failure, TerminalText::of(*problem));
     QApplication::setApplicationName(QStringLiteral("Quillon")); // trays and screen readers tell it
@@ -85,7 +89,7 @@ ExitCode runProgram(Platform& platform, ProgramRequest request, int& argc, char*
         const QApplication application(argc, argv);
         const Translations translations;
         QApplication::setQuitOnLastWindowClosed(false);
-        ended = runInstance(platform, request, output);
+        ended = runInstance(platform, wish, output);
     }
     if (ended.how == LoopEnd::startAnew) {
         std::array<char*, 3> again{argv[0], verbose, nullptr};

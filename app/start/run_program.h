@@ -7,8 +7,8 @@
 
 namespace quillon {
 
-/// Is the program, until its user quits it; where it runs already, hands it the request.
+/// Is the program, until its user quits it; where it runs already, hands it the wish.
 /// `argc` and `argv` are those of main, for Qt.
-ExitCode runProgram(Platform& platform, ProgramRequest request, int& argc, char** argv, Output& output);
+ExitCode runProgram(Platform& platform, const ProgramWish& wish, int& argc, char** argv, Output& output);
 
 } // namespace quillon

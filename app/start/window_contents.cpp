@@ -14,8 +14,8 @@ namespace {
 /// The views say themselves when they need more.
 constexpr QSize welcomeSize(560, 480);
 constexpr QSize settingsSize(560, 420);
-constexpr QSize practiceSize(480, 400);
-constexpr QSize librarySize(820, 560);
+constexpr QSize practiceSize(560, 580);
+constexpr QSize librarySize(880, 580);
 
 WelcomeNeeds welcomeNeeds(const WindowNeeds& needs) {
     return {
@@ -41,16 +41,23 @@ std::vector<Subscription> offerWindows(TitledWindows& windows, const WindowNeeds
          .size = welcomeSize});
     offer(
         WindowName::practice,
-        {.make = [needs] { return std::make_unique<PracticeView>(needs.model, needs.themes); },
+        {.make =
+             [needs] {
+                 return std::make_unique<PracticeView>(
+                     needs.model, needs.themes,
+                     AnswerInput::Needs{
+                         needs.desktop.keyReading(), needs.desktop.keyboardGrab(), needs.timers});
+             },
          .size = practiceSize,
          .escape = EscapeKey::doesNothing});
     offer(
-        WindowName::library,
-        {.make =
-             [needs] {
-                 return std::make_unique<LibraryView>(needs.model, needs.themes, needs.icons, needs.clock);
-             },
-         .size = librarySize});
+        WindowName::library, {.make =
+                                  [needs] {
+                                      return std::make_unique<LibraryView>(
+                                          needs.model, needs.themes,
+                                          LibraryView::Needs{needs.icons, needs.clock, needs.exports});
+                                  },
+                              .size = librarySize});
     offer(
         WindowName::settings,
         {.make =

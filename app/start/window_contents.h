@@ -1,6 +1,7 @@
 #pragma once
 
 #include <quillon/app/core/app_model.h>
+#include <quillon/app/ports/cheat_sheet_exports.h>
 #include <quillon/app/ports/clock.h>
 #include <quillon/app/ports/desktop.h>
 #include <quillon/app/ports/timers.h>
@@ -23,6 +24,7 @@ struct WindowNeeds {
     Desktop& desktop;
     Timers& timers;
     const Clock& clock;
+    CheatSheetExports& exports;
     QString dataFolder = {}; ///< where everything learned is kept, as it is shown; empty for nowhere
 };
 

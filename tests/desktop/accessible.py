@@ -93,6 +93,10 @@ class Accessible:
     def action_count(self):
         return self._property("org.a11y.atspi.Action", "NActions", 0)
 
+    def press(self):
+        """Does the first of its actions, as a screen reader does."""
+        self._ask("org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
+
     def toolkit(self):
         """The name and the version of an application's toolkit."""
         return (self._property("org.a11y.atspi.Application", "ToolkitName", ""),

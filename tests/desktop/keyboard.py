@@ -24,11 +24,19 @@ class Server:
     def __init__(self):
         self.x11, self.xtest = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXtst.so.6")
         self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
         self.display = ctypes.c_void_p(self.x11.XOpenDisplay(None))
 
     def key(self, name, is_down):
         self.xtest.XTestFakeKeyEvent(self.display, CODES[name], is_down, ctypes.c_ulong(0))
         self.x11.XSync(self.display, 0)
+
+    def takes_keyboard(self):
+        root = self.x11.XDefaultRootWindow(self.display)
+        grabbed = self.x11.XGrabKeyboard(self.display, ctypes.c_ulong(root), 0, 1, 1, ctypes.c_ulong(0)) == 0
+        self.x11.XUngrabKeyboard(self.display, ctypes.c_ulong(0))
+        self.x11.XSync(self.display, 0)
+        return grabbed
 
     def lock_layout(self, number):
         self.x11.XkbLockGroup(self.display, CORE_KEYBOARD, number)
@@ -38,6 +46,11 @@ class Server:
 @functools.cache
 def server():
     return Server()
+
+
+def is_keyboard_free():
+    """Whether no program has taken the keyboard for itself."""
+    return server().takes_keyboard()
 
 
 @contextlib.contextmanager

@@ -1,8 +1,7 @@
 #include "confirmation.h"
 
+#include "dialog_message.h"
 #include "focus_ring.h"
-#include "symbol_view.h"
-#include "themed_label.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -13,22 +12,8 @@ namespace quillon {
 namespace {
 
 constexpr int padding = 22;
-constexpr int symbolSize = 34;
-constexpr int symbolGap = 16;
-constexpr int titleGap = 8;
 constexpr int buttonsGap = 20;
 constexpr int betweenButtons = 6;
-constexpr double textEms = 33;
-
-ThemedLabel* paragraph(
-    ThemeSource& themes, ThemedLabel::FontChoice font, QColor Palette::*colour, const QString& text,
-    QWidget* parent) {
-    auto* label = new ThemedLabel(themes, std::move(font), colour, parent);
-    label->setText(text);
-    label->setWordWrap(true);
-    label->setMinimumWidth(static_cast<int>(textEms * pixelSize(themes.theme().styles.body)));
-    return label;
-}
 
 } // namespace
 
@@ -40,23 +25,6 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     setAccessibleDescription(words.message);
     setModal(true);
 
-    auto* texts = new QVBoxLayout;
-    texts->setSpacing(titleGap);
-    texts->addWidget(paragraph(
-        themes, [](const TextStyles& styles) { return semibold(styles.title2); }, &Palette::primary,
-        words.title, this));
-    texts->addWidget(paragraph(
-        themes, [](const TextStyles& styles) { return styles.body; }, &Palette::secondary, words.message,
-        this));
-    texts->addStretch(1);
-    auto* top = new QHBoxLayout;
-    top->setContentsMargins(0, 0, focusRingRoom, 0);
-    top->setSpacing(symbolGap);
-    top->addWidget(
-        new SymbolView(themes, Symbol::exclamationMarkTriangle, symbolSize, &Palette::badgeText, this), 0,
-        Qt::AlignTop);
-    top->addLayout(texts, 1);
-
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(betweenButtons);
     buttons->addStretch(1);
@@ -66,7 +34,9 @@ Confirmation::Confirmation(ThemeSource& themes, const ConfirmationWords& words, 
     column->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
     column->setSpacing(buttonsGap);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    column->addLayout(top);
+    auto* message = dialogMessage(themes, Symbol::exclamationMarkTriangle, words.title, words.message, this);
+    message->setContentsMargins(0, 0, focusRingRoom, 0);
+    column->addLayout(message);
     column->addLayout(buttons);
 
     m_cancel->setDefault(true);

@@ -12,20 +12,8 @@ namespace quillon {
 
 namespace {
 
-constexpr double gap = 3;
 constexpr double cornerRadius = 5;
 constexpr double borderWidth = 0.5;
-constexpr double paddingPerSize = 0.35;
-constexpr double smallestWidthPerSize = 1.7;
-/// Lower than wide, so that lines of text with caps in them stand hardly further apart than others.
-constexpr double heightPerSize = 1.55;
-
-double widestDigitOf(const QFontMetricsF& metrics) {
-    double widest = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
-        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
-    return widest;
-}
 
 /// Where a picture begins so that the ink in it, from `begin` to `end`, is in the middle of `room` pixels.
 int middled(double room, double begin, double end) {
@@ -43,29 +31,19 @@ QStringList capTexts(const Shortcut& shortcut, const KeyNames* names) {
 
 KeyCaps::KeyCaps(const Theme& theme, double size, CapEmphasis emphasis)
     : m_palette(theme.palette), m_names(theme.keyNames), m_font(semibold(atSize(theme.styles.body, size))),
-      m_metrics(m_font), m_size(size), m_emphasis(emphasis),
-      m_height(std::ceil(std::max(heightPerSize * size, m_metrics.capHeight()))),
-      m_baseline(std::round((m_height + m_metrics.capHeight()) / 2)),
-      m_widestDigit(widestDigitOf(m_metrics)) {}
-
-double KeyCaps::inkWidth(const QString& cap) const {
-    if (KeyPictograms::has(cap))
-        return KeyPictograms::widthPerSize(cap) * m_size;
-    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    QString others = cap;
-    const qsizetype digits = cap.size() - others.removeIf(isDigit).size();
-    return m_metrics.horizontalAdvance(others) + static_cast<double>(digits) * m_widestDigit;
-}
+      m_metrics(m_font, size), m_size(size), m_emphasis(emphasis),
+      m_height(std::ceil(std::max(CapMetrics::heightPerSize * size, m_metrics.font().capHeight()))),
+      m_baseline(std::round((m_height + m_metrics.font().capHeight()) / 2)) {}
 
 double KeyCaps::capWidth(const QString& cap) const {
-    return std::ceil(std::max(inkWidth(cap) + 2 * paddingPerSize * m_size, smallestWidthPerSize * m_size));
+    return std::ceil(m_metrics.width(cap));
 }
 
 double KeyCaps::width(const Shortcut& shortcut) const {
     if (const auto known = m_widths.find(shortcut); known != m_widths.end())
         return known->second;
     const QStringList caps = capTexts(shortcut, m_names.get());
-    double width = static_cast<double>(caps.size() - 1) * gap;
+    double width = static_cast<double>(caps.size() - 1) * CapMetrics::gap;
     for (const QString& cap : caps)
         width += capWidth(cap);
     m_widths.emplace(shortcut, width);
@@ -132,7 +110,7 @@ void KeyCaps::paint(QPainter& painter, QPointF topLeft, const Shortcut& shortcut
     QPointF at = topLeft;
     for (const QString& cap : capTexts(shortcut, m_names.get())) {
         painter.drawPixmap(onDevicePixel(painter, at), capPixmap(cap, ratio));
-        at.rx() += capWidth(cap) + gap;
+        at.rx() += capWidth(cap) + CapMetrics::gap;
     }
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "cap_metrics.h"
 #include "theme.h"
 
 #include <quillon/kit/shortcut/key_names.h>
 #include <quillon/kit/shortcut/shortcut.h>
 
-#include <QFontMetricsF>
 #include <QHash>
 #include <QPainter>
 #include <QPixmap>
@@ -47,7 +47,6 @@ class KeyCaps {
 
   private:
     double capWidth(const QString& cap) const;
-    double inkWidth(const QString& cap) const;
     Ink inkOf(const QString& cap, double ratio) const;
     void drawInk(QPainter& painter, const QString& cap, QSize room, double ratio) const;
     const QPixmap& capPixmap(const QString& cap, double ratio) const;
@@ -56,12 +55,11 @@ class KeyCaps {
     Palette m_palette;
     std::shared_ptr<const KeyNames> m_names;
     QFont m_font;
-    QFontMetricsF m_metrics;
+    CapMetrics m_metrics;
     double m_size;
     CapEmphasis m_emphasis;
     double m_height;
     double m_baseline;
-    double m_widestDigit;
     mutable std::unordered_map<Shortcut, double> m_widths;
     mutable QHash<QString, QPixmap> m_pixmaps;
     mutable double m_pixmapRatio = 1;

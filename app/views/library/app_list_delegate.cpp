@@ -3,6 +3,7 @@
 #include "app_list_model.h"
 
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -47,9 +48,13 @@ void AppListDelegate::paint(
         painter->drawRoundedRect(background.adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
     }
 
+    painter->setLayoutDirection(option.direction);
     const QRect row =
         option.rect.adjusted(inset + padding, verticalPadding, -inset - padding, -verticalPadding);
-    const QRect icon(row.left(), row.center().y() - iconSize / 2, iconSize, iconSize);
+    const auto mirrored = [&](const QRect& place) {
+        return QStyle::visualRect(option.direction, option.rect, place);
+    };
+    const QRect icon = mirrored(QRect(row.left(), row.center().y() - iconSize / 2, iconSize, iconSize));
     const std::string bundleID = index.data(AppListModel::bundleRole).toString().toStdString();
     if (const QPixmap pixmap = m_icons.pixmap(bundleID, iconSize, painter->device()->devicePixelRatioF());
         !pixmap.isNull()) {
@@ -60,7 +65,7 @@ void AppListDelegate::paint(
         painter->drawRoundedRect(icon, cornerRadius, cornerRadius);
     }
 
-    const QRect text = row.adjusted(iconSize + gap, 0, 0, 0);
+    const QRect text = mirrored(row.adjusted(iconSize + gap, 0, 0, 0));
     const auto line = [&](const QFont& font, const QColor& colour, const QString& words,
                           Qt::Alignment where) {
         painter->setFont(font);

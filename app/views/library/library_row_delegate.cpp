@@ -11,7 +11,6 @@
 #include <QStyle>
 #include <QToolTip>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -21,27 +20,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int sidePadding = 18;
-constexpr int rowPadding = 5;
-constexpr int statisticsRoom = 8; ///< above the first row
-constexpr int headingRoom = 16;   ///< above a heading
-constexpr int gap = 12;
-constexpr int countsWidth = 90;
-constexpr double countsSize = 11;
-constexpr int widestKeyColumn = 150; ///< wider keys push their row's counts aside
-constexpr int focusInset = 8;
+constexpr int groundInset = 8; ///< of a row's background
 constexpr double cornerRadius = 6;
-
-int heightOf(const QFont& font) {
-    return QFontMetrics(font).height();
-}
+constexpr double ringWidth = 1.5;
+/// Of a button that stands for nothing that was said, while neither pointer nor keyboard are near.
+constexpr double restingOpacity = 0.78;
 
 const LibraryRow& rowAt(const QModelIndex& index) {
     return static_cast<const LibraryRowsModel*>(index.model())->row(index);
-}
-
-QRect boxOf(const QStyleOptionViewItem& option) {
-    return option.rect.adjusted(sidePadding, rowPadding, -sidePadding, -rowPadding);
 }
 
 /// From left to right, or the other way round where people read so.
@@ -66,34 +52,32 @@ bool isTooLong(const QString& words, const QFont& font, const QRect& place) {
     return lineRoom(font, words) > place.width();
 }
 
+/// What the button stands for, where it stands for something.
+const QColor& colourOf(RowButton button, const Palette& palette) {
+    return button == RowButton::pin ? palette.pin : palette.primary;
+}
+
 } // namespace
 
 LibraryRowDelegate::LibraryRowDelegate(Theme theme, QObject* parent)
-    : QStyledItemDelegate(parent), m_theme(std::move(theme)),
-      m_countsFont(atSize(m_theme.styles.caption, countsSize)), m_noteFont(italic(m_theme.styles.caption)),
-      m_keys(m_theme, m_theme.keySize()) {}
+    : QStyledItemDelegate(parent), m_theme(std::move(theme)), m_layout(m_theme) {}
 
-void LibraryRowDelegate::makeRoomForKeys(const std::vector<LibraryRow>& rows) {
-    double widest = 0;
-    for (const LibraryRow& row : rows)
-        if (row.shortcut)
-            widest = std::max(widest, m_keys.width(*row.shortcut));
-    m_keysWidth = std::min(static_cast<int>(std::ceil(widest)), widestKeyColumn);
+QSize LibraryRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const auto* const list = qobject_cast<const QAbstractItemView*>(option.widget);
+    return {0, m_layout.height(rowAt(index), list ? list->viewport()->width() : option.rect.width())};
 }
 
-QSize LibraryRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
-    const TextStyles& styles = m_theme.styles;
-    const LibraryRow& row = rowAt(index);
-    switch (row.kind) {
-    case LibraryRow::Kind::statistics:
-        return {0, heightOf(styles.headline) + statisticsRoom + 2 * rowPadding};
-    case LibraryRow::Kind::totals:
-        return {0, std::max(heightOf(styles.callout), m_theme.symbolSize()) + 2 * rowPadding};
-    case LibraryRow::Kind::heading: return {0, heightOf(styles.headline) + headingRoom + 2 * rowPadding};
-    case LibraryRow::Kind::command: break;
-    }
-    const int line = std::max(heightOf(styles.body), static_cast<int>(std::ceil(m_keys.height())));
-    return {0, line + (row.note.isEmpty() ? 0 : heightOf(m_noteFont)) + 2 * rowPadding};
+std::optional<RowButton> LibraryRowDelegate::buttonAt(
+    const QPoint& point, const QStyleOptionViewItem& option, const LibraryRow& row) const {
+    if (row.kind != LibraryRow::Kind::command)
+        return std::nullopt;
+    const QPoint unmirrored = mirrored(option, QRect(point, QSize(1, 1))).topLeft();
+    return m_layout.placesOf(row, m_layout.boxOf(option.rect)).buttonAt(unmirrored);
+}
+
+QRect LibraryRowDelegate::buttonRect(
+    RowButton button, const QStyleOptionViewItem& option, const LibraryRow& row) const {
+    return mirrored(option, m_layout.placesOf(row, m_layout.boxOf(option.rect)).button(button));
 }
 
 void LibraryRowDelegate::paint(
@@ -102,89 +86,132 @@ void LibraryRowDelegate::paint(
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setLayoutDirection(option.direction);
-    paintFocus(*painter, option);
+    paintGround(*painter, option, row);
     const Palette& palette = m_theme.palette;
     const QFont& headline = m_theme.styles.headline;
+    const QRect box = m_layout.boxOf(option.rect);
     switch (row.kind) {
     case LibraryRow::Kind::statistics:
-        paintLine(*painter, {headline, palette.primary, row.text}, boxOf(option), Qt::AlignBottom);
+        paintLine(*painter, {headline, palette.primary, row.text}, box, Qt::AlignBottom);
         break;
     case LibraryRow::Kind::totals: paintTotals(*painter, option, row); break;
     case LibraryRow::Kind::heading:
-        paintLine(*painter, {headline, palette.secondary, row.text}, boxOf(option), Qt::AlignBottom);
+        paintLine(*painter, {headline, palette.secondary, row.text}, box, Qt::AlignBottom);
         break;
     case LibraryRow::Kind::command: paintCommand(*painter, option, row); break;
+    case LibraryRow::Kind::weeks: m_layout.chart().paint(*painter, box, row.weeks); break;
+    case LibraryRow::Kind::remark:
+        painter->setFont(m_layout.remarkFont());
+        painter->setPen(palette.secondary);
+        painter->drawText(box, Qt::TextWordWrap, row.text);
+        break;
     }
     painter->restore();
 }
 
-void LibraryRowDelegate::paintFocus(QPainter& painter, const QStyleOptionViewItem& option) const {
-    if (!option.state.testFlag(QStyle::State_HasFocus))
-        return;
-    painter.setPen(QPen(m_theme.palette.focusRing, 1.5));
-    painter.setBrush(Qt::NoBrush);
-    const QRectF ring = QRectF(option.rect).adjusted(focusInset, 1, -focusInset, -1);
-    painter.drawRoundedRect(ring, cornerRadius, cornerRadius);
-}
-
-LibraryRowDelegate::Places LibraryRowDelegate::placesOf(const LibraryRow& row, const QRect& box) const {
-    Places places;
-    const int noteHeight = row.note.isEmpty() ? 0 : heightOf(m_noteFont);
-    const QRect line = box.adjusted(0, 0, 0, -noteHeight);
-    const int keys = row.shortcut ? static_cast<int>(std::ceil(m_keys.width(*row.shortcut))) : 0;
-    places.keys = QRect(line.right() + 1 - keys, line.top(), keys, line.height());
-    int end = line.right() + 1 - std::max(keys, m_keysWidth) - gap;
-    if (!row.counts.isEmpty()) {
-        const QFont font = row.leansOnClicks ? bold(m_countsFont) : m_countsFont;
-        const int width = std::max(countsWidth, lineRoom(font, row.counts));
-        places.counts = QRect(end - width, line.top(), width, line.height());
-        end = places.counts.left() - gap;
+void LibraryRowDelegate::paintGround(
+    QPainter& painter, const QStyleOptionViewItem& option, const LibraryRow& row) const {
+    const QRectF ground = QRectF(option.rect).adjusted(groundInset, 1, -groundInset, -1);
+    if (row.kind == LibraryRow::Kind::command && option.state.testFlag(QStyle::State_MouseOver)) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_theme.palette.hover);
+        painter.drawRoundedRect(ground, cornerRadius, cornerRadius);
     }
-    places.title = QRect(line.left(), line.top(), std::max(0, end - line.left()), line.height());
-    const int noteEnd = row.counts.isEmpty() ? end : places.counts.right() + 1;
-    places.note = QRect(box.left(), line.bottom() + 1, std::max(0, noteEnd - box.left()), noteHeight);
-    return places;
+    if (option.state.testFlag(QStyle::State_HasFocus) && !m_marks.focused) {
+        painter.setPen(QPen(m_theme.palette.focusRing, ringWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(ground, cornerRadius, cornerRadius);
+    }
 }
 
 void LibraryRowDelegate::paintCommand(
     QPainter& painter, const QStyleOptionViewItem& option, const LibraryRow& row) const {
     const Palette& palette = m_theme.palette;
-    const Places places = placesOf(row, boxOf(option));
+    const CommandPlaces places = m_layout.placesOf(row, m_layout.boxOf(option.rect));
     paintLine(
         painter, {m_theme.styles.body, palette.primary, row.text}, mirrored(option, places.title),
         Qt::AlignVCenter);
     if (!row.note.isEmpty())
         paintLine(
-            painter, {m_noteFont, palette.secondary, row.note}, mirrored(option, places.note),
+            painter, {m_layout.noteFont(), palette.secondary, row.note}, mirrored(option, places.note),
             Qt::AlignVCenter);
-    if (!row.counts.isEmpty()) {
-        const QFont font = row.leansOnClicks ? bold(m_countsFont) : m_countsFont;
-        const QColor& colour = row.leansOnClicks ? palette.primary : palette.secondary;
+    if (!row.counts.isEmpty())
         paintLine(
-            painter, {font, colour, row.counts}, mirrored(option, places.counts),
-            Qt::AlignRight | Qt::AlignVCenter);
-    }
-    if (row.shortcut) {
-        const QRect keys = mirrored(option, places.keys);
-        const double top = std::floor(keys.top() + (keys.height() - m_keys.height()) / 2);
-        m_keys.paint(painter, {static_cast<double>(keys.left()), top}, *row.shortcut);
-    }
+            painter,
+            {m_layout.countsFont(row), row.leansOnClicks ? palette.primary : palette.secondary, row.counts},
+            mirrored(option, places.counts), Qt::AlignRight | Qt::AlignVCenter);
+    for (const RowButton button : allRowButtons)
+        paintButton(painter, option, row, button);
+    if (row.shortcut)
+        paintKeys(painter, mirrored(option, places.keys), places, *row.shortcut);
+}
+
+void LibraryRowDelegate::paintButton(
+    QPainter& painter, const QStyleOptionViewItem& option, const LibraryRow& row, RowButton button) const {
+    const Palette& palette = m_theme.palette;
+    const bool isNear =
+        option.state.testFlag(QStyle::State_MouseOver) || option.state.testFlag(QStyle::State_HasFocus);
+    const bool isHovered = option.state.testFlag(QStyle::State_MouseOver) && m_marks.hovered == button;
+    const bool isFocused = option.state.testFlag(QStyle::State_HasFocus) && m_marks.focused == button;
+    const QRect place = buttonRect(button, option, row);
+    const QRectF ground = QRectF(place).adjusted(1, 1, -1, -1);
+    painter.setPen(isFocused ? QPen(palette.focusRing, ringWidth) : QPen(Qt::NoPen));
+    painter.setBrush(isHovered ? palette.primaryAt(m_marks.isDown ? 0.18 : 0.09) : QColor(Qt::transparent));
+    painter.drawRoundedRect(ground, cornerRadius, cornerRadius);
+
+    const bool stands = isSet(button, row);
+    const int size = m_layout.symbolSize();
+    const QPixmap symbol = symbolPixmap(
+        symbolOf(button, row), size, stands ? colourOf(button, palette) : palette.secondary,
+        painter.device()->devicePixelRatioF(), option.direction);
+    painter.setOpacity(stands || isNear ? 1 : restingOpacity);
+    painter.drawPixmap(
+        place.left() + (place.width() - size) / 2, place.top() + (place.height() - size) / 2, symbol);
+    painter.setOpacity(1);
+}
+
+void LibraryRowDelegate::paintKeys(
+    QPainter& painter, const QRect& place, const CommandPlaces& places, const Shortcut& shortcut) const {
+    const KeyCaps& keys = m_layout.keys();
+    const double height = keys.height() * places.keysScale;
+    const double top = std::floor(place.top() + (place.height() - height) / 2);
+    painter.save();
+    painter.translate(place.left(), top);
+    painter.scale(places.keysScale, places.keysScale);
+    keys.paint(painter, {0, 0}, shortcut);
+    painter.restore();
 }
 
 void LibraryRowDelegate::paintTotals(
     QPainter& painter, const QStyleOptionViewItem& option, const LibraryRow& row) const {
     const QColor& colour = m_theme.palette.secondary;
     const QFont& font = m_theme.styles.callout;
-    const int size = m_theme.symbolSize();
-    QRect box = boxOf(option);
+    const int size = m_layout.symbolSize();
+    QRect box = m_layout.boxOf(option.rect);
     const QRect symbol(box.left(), box.top() + (box.height() - size) / 2, size, size);
     painter.drawPixmap(
         mirrored(option, symbol).topLeft(),
         symbolPixmap(Symbol::keyboard, size, colour, painter.device()->devicePixelRatioF()));
-    box.setLeft(symbol.right() + 1 + gap / 2);
+    box.setLeft(symbol.right() + 1 + LibraryRowLayout::gap / 2);
     paintLine(painter, {font, colour, row.text}, mirrored(option, box), Qt::AlignVCenter);
-    box.setLeft(box.left() + lineRoom(font, row.text) + gap);
+    box.setLeft(box.left() + lineRoom(font, row.text) + LibraryRowLayout::gap);
     paintLine(painter, {font, colour, row.counts}, mirrored(option, box), Qt::AlignVCenter);
+}
+
+QString LibraryRowDelegate::tipAt(
+    const QPoint& point, const QStyleOptionViewItem& option, const LibraryRow& row) const {
+    if (row.kind != LibraryRow::Kind::command)
+        return {};
+    if (const auto button = buttonAt(point, option, row))
+        return helpOf(*button, row).toHtmlEscaped();
+    const CommandPlaces places = m_layout.placesOf(row, m_layout.boxOf(option.rect));
+    if (!isTooLong(row.text, m_theme.styles.body, places.title)
+        && !isTooLong(row.note, m_layout.noteFont(), places.note))
+        return {};
+    QString tip = row.text.toHtmlEscaped();
+    if (!row.note.isEmpty())
+        tip += u"<br><i>"_s + row.note.toHtmlEscaped() + u"</i>"_s;
+    return tip;
 }
 
 bool LibraryRowDelegate::helpEvent(
@@ -193,18 +220,15 @@ bool LibraryRowDelegate::helpEvent(
     if (event->type() != QEvent::ToolTip || !index.isValid())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const LibraryRow& row = rowAt(index);
-    const Places places = placesOf(row, boxOf(option));
-    const bool isCut = row.kind == LibraryRow::Kind::command
-                       && (isTooLong(row.text, m_theme.styles.body, places.title)
-                           || isTooLong(row.note, m_noteFont, places.note));
-    if (!isCut) {
+    const QString tip = tipAt(event->pos(), option, row);
+    if (tip.isEmpty()) {
         QToolTip::hideText();
         return true;
     }
-    QString tip = row.text.toHtmlEscaped();
-    if (!row.note.isEmpty())
-        tip += u"<br><i>"_s + row.note.toHtmlEscaped() + u"</i>"_s;
-    QToolTip::showText(event->globalPos(), tip, view->viewport(), option.rect);
+    const auto button = buttonAt(event->pos(), option, row);
+    const QRect place = button ? buttonRect(*button, option, row) : option.rect;
+    // Rich text, so that a long tip is wrapped.
+    QToolTip::showText(event->globalPos(), u"<qt>"_s + tip + u"</qt>"_s, view->viewport(), place);
     return true;
 }
 

@@ -2,11 +2,7 @@
 
 #include "library_texts.h"
 
-#include <quillon/app/languages/translated_keys.h>
-#include <quillon/app/views/components/foreign_text.h>
-#include <quillon/app/views/components/text.h>
-#include <quillon/kit/menu/menu_group.h>
-
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -18,16 +14,14 @@ constexpr Count mostToLearn = 3;
 /// The rows of one application while they are put together.
 class Rows {
   public:
-    Rows(const AppSheet& sheet, const LibraryRecords& records)
-        : m_sheet(sheet), m_usage(records.usage.records(sheet.bundleID)),
-          m_said(records.annotations.annotations(sheet.bundleID)), m_book(records.usage) {}
+    Rows(const PreparedSheet& sheet, const UsageBook& usage) : m_sheet(sheet), m_usage(usage) {}
 
-    void addStatistics(Instant now) {
+    void addStatistics(Seconds age) {
         const auto count = static_cast<qint64>(m_sheet.entries.size());
-        const QString ago = LibraryTexts::ago(secondsBetween(m_sheet.readAt, now));
         m_rows.push_back(
-            {.kind = LibraryRow::Kind::statistics, .text = LibraryTexts::statistics(count, ago)});
-        const auto [clicked, typed] = m_book.totals(m_sheet.bundleID);
+            {.kind = LibraryRow::Kind::statistics,
+             .text = LibraryTexts::statistics(count, LibraryTexts::ago(age))});
+        const auto [clicked, typed] = m_usage.totals(m_sheet.bundleID);
         m_rows.push_back(
             {.kind = LibraryRow::Kind::totals,
              .text = LibraryTexts::menuClicks(clicked),
@@ -35,70 +29,65 @@ class Rows {
     }
 
     void addToLearn() {
-        bool isFirst = true;
-        for (const auto& ranked : m_book.mostClicked(m_sheet.bundleID, mostToLearn)) {
-            const MenuEntry* const entry = m_sheet.entry(ranked.id);
-            if (!entry)
-                continue;
-            if (std::exchange(isFirst, false))
-                addHeading(LibraryTexts::learnNext());
-            addCommand(*entry);
-        }
+        const std::size_t before = m_rows.size();
+        addHeading(LibraryTexts::learnNext());
+        for (const auto& ranked : m_usage.mostClicked(m_sheet.bundleID, mostToLearn))
+            if (const auto entry = std::ranges::find(m_sheet.entries, ranked.id, &PreparedEntry::id);
+                entry != m_sheet.entries.end())
+                addCommand(*entry);
+        if (m_rows.size() == before + 1)
+            m_rows.pop_back();
+        for (std::size_t row = before; row < m_rows.size(); ++row)
+            m_rows[row].isToLearn = true;
     }
 
-    void addMenus(std::string_view query) {
-        for (const MenuGroup& group : MenuGroup::group(
-                 ShortcutSearch::filter(m_sheet.entries, query, notes(), translatedKeyWords()))) {
-            addHeading(foreignLine(group.menu));
-            for (const MenuEntry& entry : group.entries)
-                addCommand(entry);
+    void addMenus(const std::vector<std::size_t>& matches) {
+        std::vector<std::vector<std::size_t>> menus(m_sheet.menus.size());
+        for (const std::size_t match : matches)
+            menus[m_sheet.entries[match].menu].push_back(match);
+        m_rows.reserve(m_rows.size() + matches.size() + menus.size());
+        for (std::size_t menu = 0; menu < menus.size(); ++menu) {
+            if (!menus[menu].empty())
+                addHeading(m_sheet.menus[menu]);
+            for (const std::size_t entry : menus[menu])
+                addCommand(m_sheet.entries[entry]);
         }
     }
 
     std::vector<LibraryRow> take() { return std::move(m_rows); }
 
   private:
-    Notes notes() const {
-        Notes notes;
-        for (const auto& [id, annotation] : m_said)
-            if (!annotation.note.empty())
-                notes.emplace(id, annotation.note);
-        return notes;
-    }
-
     void addHeading(QString text) {
         m_rows.push_back({.kind = LibraryRow::Kind::heading, .text = std::move(text)});
     }
 
-    void addCommand(const MenuEntry& entry) {
-        LibraryRow row{.text = foreignLine(entry.title()), .shortcut = entry.shortcut, .entryID = entry.id()};
-        if (const auto record = m_usage.find(row.entryID); record != m_usage.end()) {
-            const Count clicked = record->second.clicked;
-            const Count typed = record->second.typed;
-            if (clicked > 0 || typed > 0)
-                row.counts = LibraryTexts::counts(clicked, typed);
-            row.leansOnClicks = clicked > typed;
-        }
-        if (const auto annotation = m_said.find(row.entryID); annotation != m_said.end())
-            row.note = singleLine(annotation->second.note);
-        m_rows.push_back(std::move(row));
+    void addCommand(const PreparedEntry& entry) {
+        m_rows.push_back(
+            {.text = entry.title,
+             .counts = entry.clicked > 0 || entry.typed > 0 ? LibraryTexts::counts(entry.clicked, entry.typed)
+                                                            : QString(),
+             .leansOnClicks = entry.clicked > entry.typed,
+             .pinned = entry.pinned,
+             .muted = entry.muted,
+             .note = entry.note,
+             .shortcut = entry.shortcut,
+             .entryID = entry.id});
     }
 
-    const AppSheet& m_sheet;
-    const UsageRecords& m_usage;
-    const Annotations& m_said;
-    const UsageBook& m_book;
+    const PreparedSheet& m_sheet;
+    const UsageBook& m_usage;
     std::vector<LibraryRow> m_rows;
 };
 
 } // namespace
 
-std::vector<LibraryRow>
-libraryRows(const AppSheet& sheet, const LibraryRecords& records, std::string_view query, Instant now) {
-    Rows rows(sheet, records);
-    rows.addStatistics(now);
+std::vector<LibraryRow> libraryRows(
+    const PreparedSheet& sheet, const UsageBook& usage, const std::vector<std::size_t>& matches,
+    Seconds age) {
+    Rows rows(sheet, usage);
+    rows.addStatistics(age);
     rows.addToLearn();
-    rows.addMenus(query);
+    rows.addMenus(matches);
     return rows.take();
 }
 

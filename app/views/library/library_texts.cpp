@@ -87,6 +87,104 @@ QString counts(Count clicked, Count typed) {
         .arg(QString::number(clicked), QString::number(typed));
 }
 
+QString pinHelp() {
+    return QCoreApplication::translate("Library", "Pin to the top of the overlay and cheat sheet");
+}
+
+QString unpinHelp() {
+    return QCoreApplication::translate("Library", "Unpin");
+}
+
+QString noteHelp() {
+    return QCoreApplication::translate("Library", "Add a note");
+}
+
+QString nudgeHelp() {
+    return QCoreApplication::translate("Library", "Nudge me when I click this in the menu");
+}
+
+QString pin(const QString& title) {
+    return QCoreApplication::translate("Library", "Pin %1").arg(title);
+}
+
+QString unpin(const QString& title) {
+    return QCoreApplication::translate("Library", "Unpin %1").arg(title);
+}
+
+QString noteFor(const QString& title) {
+    return QCoreApplication::translate("Library", "Note for %1").arg(title);
+}
+
+QString nudgesOff(const QString& title) {
+    return QCoreApplication::translate("Library", "Turn nudges off for %1").arg(title);
+}
+
+QString nudgesOn(const QString& title) {
+    return QCoreApplication::translate("Library", "Turn nudges on for %1").arg(title);
+}
+
+QString isPinned() {
+    return QCoreApplication::translate("Library", "pinned");
+}
+
+QString isMuted() {
+    return QCoreApplication::translate("Library", "nudges off");
+}
+
+QString notePlaceholder() {
+    return QCoreApplication::translate("Library", "A note to remember it by");
+}
+
+QString cancel() {
+    return QCoreApplication::translate("Library", "Cancel");
+}
+
+QString save() {
+    return QCoreApplication::translate("Library", "Save");
+}
+
+QString practice() {
+    return QCoreApplication::translate("Library", "Practice");
+}
+
+QString practiceHelp() {
+    return QCoreApplication::translate(
+        "Library", "Drill this app’s shortcuts, weighted to the ones you click");
+}
+
+QString cheatSheet() {
+    return QCoreApplication::translate("Library", "Cheat Sheet");
+}
+
+QString cheatSheetHelp() {
+    return QCoreApplication::translate(
+        "Library", "A printable cheat sheet of these shortcuts, pinned first, with your notes");
+}
+
+QString saveAsPdf() {
+    return QCoreApplication::translate("Library", "Save as PDF…");
+}
+
+QString print() {
+    return QCoreApplication::translate("Library", "Print…");
+}
+
+QString copyAsMarkdown() {
+    return QCoreApplication::translate("Library", "Copy as Markdown");
+}
+
+QString pdfDocuments(const QString& pattern) {
+    return QCoreApplication::translate("Library", "PDF documents (%1)").arg(pattern);
+}
+
+QString exportFailed() {
+    return QCoreApplication::translate("Library", "Couldn’t make the cheat sheet");
+}
+
+QString ok() {
+    return QCoreApplication::translate("Library", "OK");
+}
+
 QString noAppsTitle() {
     return QCoreApplication::translate("Library", "No apps yet");
 }

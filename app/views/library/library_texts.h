@@ -31,6 +31,40 @@ QString learnNext();
 /// "14 clicked · 3 typed"
 QString counts(Count clicked, Count typed);
 
+/// What the buttons of a command do.
+QString pinHelp();
+QString unpinHelp();
+QString noteHelp();
+QString nudgeHelp();
+/// What screen readers call them; `title` is that of the command.
+QString pin(const QString& title);
+QString unpin(const QString& title);
+QString noteFor(const QString& title);
+QString nudgesOff(const QString& title);
+QString nudgesOn(const QString& title);
+/// What screen readers say of a command that is so.
+QString isPinned();
+QString isMuted();
+
+/// The note editor.
+QString notePlaceholder();
+QString cancel();
+QString save();
+
+/// The toolbar: its buttons, and what they do.
+QString practice();
+QString practiceHelp();
+QString cheatSheet();
+QString cheatSheetHelp();
+QString saveAsPdf();
+QString print();
+QString copyAsMarkdown();
+/// The kind of file that a cheat sheet is saved as; `pattern` is "*.pdf".
+QString pdfDocuments(const QString& pattern);
+/// Over what went wrong with a cheat sheet.
+QString exportFailed();
+QString ok();
+
 /// Before an application was read.
 QString noAppsTitle();
 /// What to do about it; `triggerGlyph` is that of the trigger key.

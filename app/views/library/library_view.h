@@ -1,12 +1,15 @@
 #pragma once
 
 #include <quillon/app/core/app_model.h>
+#include <quillon/app/ports/cheat_sheet_exports.h>
 #include <quillon/app/ports/clock.h>
 #include <quillon/app/views/components/app_icon_cache.h>
 #include <quillon/app/views/components/search_box.h>
 #include <quillon/app/views/components/themed_widget.h>
 #include <quillon/kit/base/subscription.h>
 
+#include <QMenu>
+#include <QPointer>
 #include <QStackedWidget>
 
 #include <string>
@@ -16,16 +19,22 @@ namespace quillon {
 class AppList;
 class MessageView;
 class LibraryDetail;
+class NoteEditor;
+class SheetExport;
+class ToolbarButton;
 
 /// The Library: beside the list of applications that were read, everything about the chosen one.
 class LibraryView : public ThemedWidget {
     Q_OBJECT
 
   public:
-    /// All of them outlive it.
-    LibraryView(
-        AppModel& model, ThemeSource& themes, AppIconCache& icons, const Clock& clock,
-        QWidget* parent = nullptr);
+    /// What it needs beside the model. All of it outlives the view.
+    struct Needs {
+        AppIconCache& icons;
+        const Clock& clock;
+        CheatSheetExports& exports;
+    };
+    LibraryView(AppModel& model, ThemeSource& themes, const Needs& needs, QWidget* parent = nullptr);
 
     /// The application that is shown; "" for none.
     const std::string& selection() const { return m_selection; }
@@ -39,10 +48,13 @@ class LibraryView : public ThemedWidget {
   private:
     QWidget* makeSidebar();
     QWidget* makePane();
+    void makeSheetMenu();
     void modelChanged(ModelField field);
     void refresh();
     void search(const QString& query);
     void showSelection();
+    /// Lets the user write the note of a command of the shown application.
+    void editNote(const std::string& entryID, const QString& title);
     void wearTheme();
 
     AppModel& m_model;
@@ -51,6 +63,11 @@ class LibraryView : public ThemedWidget {
     AppList* m_list;
     MessageView* m_noApps;
     SearchBox* m_search;
+    ToolbarButton* m_practice;
+    ToolbarButton* m_cheatSheet;
+    QMenu* m_sheetMenu;
+    SheetExport* m_export;
+    QPointer<NoteEditor> m_noteEditor;
     QStackedWidget* m_pane;
     MessageView* m_noChoice;
     LibraryDetail* m_detail;

@@ -141,7 +141,7 @@ void OverlayView::refresh() {
 }
 
 void OverlayView::refreshSheet() {
-    m_sheet.update(m_model.current(), m_model.annotations(), m_model.usage());
+    m_sheet.update(m_model.current() ? &*m_model.current() : nullptr, m_model.annotations(), m_model.usage());
     if (m_sheet.isSearchStale())
         m_prepareSearch.start();
 }

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillon {
@@ -21,9 +22,15 @@ struct PreparedEntry {
     std::size_t menu = 0; ///< position in `PreparedSheet::menus`
     bool enabled = true;
     bool pinned = false;
+    bool muted = false; ///< no nudges are shown for it
     Count clicked = 0;
-    QString note; ///< empty for none
+    Count typed = 0;
+    QString note; ///< as `noteLine` has it; empty for none
 };
+
+/// A note for one line on the screen, without line breaks, tabs and what turns the direction of the text
+/// around it. Of a note that nobody would read there only the beginning, ending in an ellipsis.
+QString noteLine(std::string_view note);
 
 /// A sheet joined with what is known of its commands. Made once per change of the sheet, the pins and notes
 /// or the counts, so that searching and drawing need not look anything up.

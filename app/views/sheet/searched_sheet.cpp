@@ -9,9 +9,9 @@ namespace quillon {
 namespace {
 
 /// Whether two readings of menus came to the same.
-bool showTheSame(const std::optional<AppSheet>& a, const std::optional<AppSheet>& b) {
+bool showTheSame(const std::optional<AppSheet>& a, const AppSheet* b) {
     if (!a || !b)
-        return a.has_value() == b.has_value();
+        return a.has_value() == (b != nullptr);
     return a->bundleID == b->bundleID && a->appName == b->appName && a->entries == b->entries;
 }
 
@@ -27,14 +27,13 @@ std::optional<std::size_t> positionOfMostClicked(const PreparedSheet& sheet, con
 
 } // namespace
 
-void SearchedSheet::update(
-    const std::optional<AppSheet>& sheet, const AnnotationBook& annotations, const UsageBook& usage) {
+void SearchedSheet::update(const AppSheet* sheet, const AnnotationBook& annotations, const UsageBook& usage) {
     const bool isOther = std::exchange(m_sheetMayDiffer, false) && !showTheSame(m_source, sheet);
     const bool hasOtherRecords = std::exchange(m_recordsMayDiffer, false);
     if (m_prepared && !isOther && !hasOtherRecords)
         return;
     if (isOther) {
-        m_source = sheet;
+        m_source = sheet ? std::optional(*sheet) : std::nullopt;
         m_indexIsStale = true;
     }
     m_prepared = std::make_shared<const PreparedSheet>(

@@ -22,9 +22,8 @@ class SearchedSheet {
     void sheetMayDiffer() { m_sheetMayDiffer = true; }
     void recordsMayDiffer() { m_recordsMayDiffer = true; }
 
-    /// Takes over what differs; no sheet is an empty one.
-    void
-    update(const std::optional<AppSheet>& sheet, const AnnotationBook& annotations, const UsageBook& usage);
+    /// Takes over what differs; null is an empty sheet.
+    void update(const AppSheet* sheet, const AnnotationBook& annotations, const UsageBook& usage);
 
     /// Another object whenever something in it is another. Never null after `update`.
     const std::shared_ptr<const PreparedSheet>& prepared() const { return m_prepared; }

@@ -1,3 +1,4 @@
+#include "frame_times.h"
 #include "frame_watch.h"
 
 #include <quillon/kit/menu/sample_menus.h>
@@ -8,10 +9,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTextStream>
 
-#include <algorithm>
-#include <ctime>
 #include <optional>
 #include <vector>
 
@@ -25,58 +23,8 @@ constexpr int rounds = 41;
 constexpr double budget = 8.0;
 constexpr const char* area = "quillon::ShortcutArea";
 
-QTextStream& out() {
-    static QTextStream stream(stdout);
-    return stream;
-}
-
-/// What one frame took, in milliseconds.
-struct FrameTime {
-    double wall = 0;
-    double processor =
-        0; ///< of this program, all its threads; what is left on a machine that is busy otherwise
-};
-
-/// Times from its making on.
-class FrameTimer {
-  public:
-    FrameTimer() : m_processor(std::clock()) { m_wall.start(); }
-
-    FrameTime elapsed() const {
-        return {
-            static_cast<double>(m_wall.nsecsElapsed()) / 1e6,
-            static_cast<double>(std::clock() - m_processor) * 1000.0 / CLOCKS_PER_SEC};
-    }
-
-  private:
-    QElapsedTimer m_wall;
-    std::clock_t m_processor;
-};
-
-/// Absent for a frame that never came.
-using MaybeFrame = std::optional<FrameTime>;
-
-double quantile(const std::vector<MaybeFrame>& frames, double FrameTime::*part, std::size_t percent) {
-    std::vector<double> values;
-    for (const MaybeFrame& frame : frames)
-        values.push_back((*frame).*part);
-    std::ranges::sort(values);
-    return values[(values.size() - 1) * percent / 100];
-}
-
-/// One line of the report; false when the median is over the budget or a frame never came.
 bool report(const QString& what, const std::vector<MaybeFrame>& frames) {
-    out() << qSetFieldWidth(48) << Qt::left << what << qSetFieldWidth(0);
-    if (std::ranges::any_of(frames, [](const MaybeFrame& frame) { return !frame; })) {
-        out() << "no frame" << Qt::endl;
-        return false;
-    }
-    const double median = quantile(frames, &FrameTime::wall, 50);
-    out() << QString::asprintf(
-        "median %6.2f ms   95 %% %6.2f ms   processor %6.2f ms   budget %.0f ms", median,
-        quantile(frames, &FrameTime::wall, 95), quantile(frames, &FrameTime::processor, 50), budget)
-          << Qt::endl;
-    return median <= budget;
+    return reportFrames(what, frames, budget);
 }
 
 /// From asking the model for the overlay to the frame on the screen.

@@ -1,4 +1,6 @@
+#include <quillon/app/views/library/learned_rows.h>
 #include <quillon/app/views/library/library_rows.h>
+#include <quillon/app/views/sheet/searched_sheet.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,10 +22,16 @@ constexpr Instant now = std::chrono::sys_days{std::chrono::year{2024} / 5 / 1};
 
 class LibraryRowsTest : public testing::Test {
   protected:
+    std::vector<LibraryRow> rows(std::string_view query = "") const {
+        SearchedSheet searched;
+        searched.update(&sheet, annotations, usage);
+        return libraryRows(
+            *searched.prepared(), usage, searched.matches(query), secondsBetween(sheet.readAt, now));
+    }
     /// The rows as lines: "# Heading", "Title", what else there is of them behind it.
     std::vector<std::string> lines(std::string_view query = "") const {
         std::vector<std::string> lines;
-        for (const LibraryRow& row : libraryRows(sheet, {usage, annotations}, query, now)) {
+        for (const LibraryRow& row : rows(query)) {
             QStringList parts{(row.kind == LibraryRow::Kind::heading ? u"# "_s : QString()) + row.text};
             for (const QString& part : {row.counts, row.note})
                 if (!part.isEmpty())
@@ -96,11 +104,46 @@ TEST_F(LibraryRowsTest, NotesAreShownAndFound) {
     EXPECT_THAT(lines("clipboard"), Contains("Copy | into the clipboard"));
 }
 
+TEST_F(LibraryRowsTest, PinsAndMutesAreTold) {
+    annotations.apps[sheet.bundleID]["Edit › Copy"] = {.pinned = true, .note = "", .muted = false};
+    annotations.apps[sheet.bundleID]["File › Save"] = {.pinned = false, .note = "", .muted = true};
+    for (const LibraryRow& row : rows()) {
+        EXPECT_EQ(row.pinned, row.entryID == "Edit › Copy") << row.entryID;
+        EXPECT_EQ(row.muted, row.entryID == "File › Save") << row.entryID;
+    }
+}
+
+TEST_F(LibraryRowsTest, ACommandToLearnIsAnotherRowThanTheSameInItsMenu) {
+    usage.click(sheet.bundleID, "File › Save", now);
+    const auto shown = rows();
+    EXPECT_EQ(shown[3].entryID, shown[6].entryID);
+    EXPECT_FALSE(shown[3].isSameAs(shown[6]));
+    usage.click(sheet.bundleID, "File › Save", now);
+    EXPECT_NE(rows()[3], shown[3]);
+    EXPECT_TRUE(rows()[3].isSameAs(shown[3]));
+}
+
 TEST_F(LibraryRowsTest, LeaningOnClicksIsToldApart) {
     usage.click(sheet.bundleID, "File › Save", now);
     usage.typed(sheet.bundleID, "File › Open");
-    for (const LibraryRow& row : libraryRows(sheet, {usage, annotations}, "", now))
+    for (const LibraryRow& row : rows())
         EXPECT_EQ(row.leansOnClicks, row.entryID == "File › Save") << row.entryID;
+}
+
+TEST(LearnedRows, AreAHeadingTheChartAndWhatToSayOfIt) {
+    const LearnedSummary summary{
+        .weeks = {{Day(std::chrono::local_days{std::chrono::year{2026} / 11 / 16}), 3, 12}},
+        .graduated = {u"Save"_s},
+        .typed = 12};
+    const auto rows = learnedRows(summary);
+    ASSERT_EQ(rows.size(), 4U);
+    EXPECT_EQ(rows[0].text, u"What you learned"_s);
+    EXPECT_EQ(rows[1].weeks, summary.weeks);
+    EXPECT_EQ(rows[1].text, u"Week of 16 Nov: 3 clicked, 12 typed."_s) << "read aloud";
+    EXPECT_EQ(rows[2].text, u"Graduated (1): Save"_s);
+    EXPECT_TRUE(rows[3].text.startsWith(u"About 26 s saved"_s));
+    EXPECT_EQ(learnedRows({.weeks = summary.weeks, .graduated = {}, .typed = 0}).size(), 3U)
+        << "nothing was typed";
 }
 
 } // namespace

@@ -45,6 +45,37 @@ TEST(PreparedSheet, TitlesNamesAndNotesAreOneLineEach) {
     EXPECT_EQ(made.entries[0].id, sheet.entries[0].id()) << "the key of its records stays as it is";
 }
 
+TEST(PreparedSheet, KnowsWhatIsMutedAndHowOftenItIsTyped) {
+    AppSheet sheet{.bundleID = "app", .appName = "App", .entries = {entry({"File", "New"})}};
+    Annotations said;
+    said[sheet.entries[0].id()].muted = true;
+    UsageRecords usage;
+    usage[sheet.entries[0].id()].typed = 3;
+    const PreparedSheet made = prepared(sheet, said, usage);
+    EXPECT_TRUE(made.entries[0].muted);
+    EXPECT_EQ(made.entries[0].typed, 3);
+}
+
+TEST(NoteLine, LinesTabsAndBlanksBecomeBlanks) {
+    EXPECT_EQ(noteLine("one\ttwo\r\n\nthree\u2028four  five"), u"one two three four five"_s);
+    EXPECT_EQ(noteLine(" \n\t "), QString());
+}
+
+TEST(NoteLine, TurnsNoTextAroundIt) {
+    EXPECT_EQ(noteLine("a\u202eb"), u"a\ufffdb"_s);
+    EXPECT_EQ(noteLine("שמור עותק"), u"שמור עותק"_s);
+}
+
+TEST(NoteLine, OfALongOneThereIsTheBeginning) {
+    EXPECT_EQ(noteLine(std::string(1000, 'x')), QString(1000, u'x'));
+    EXPECT_EQ(noteLine(std::string(10'000, 'x')), QString(1000, u'x') + u'…');
+    std::string flags;
+    for (int count = 0; count < 2000; ++count)
+        flags += "🇩🇪"; // four units each
+    const QString cut = noteLine("x" + flags);
+    EXPECT_EQ(cut.size(), 1 + 4 * 249 + 1) << "no flag is torn apart";
+}
+
 TEST(PreparedSheet, BrokenTextIsStillShown) {
     const PreparedSheet made =
         prepared({.bundleID = "app", .appName = "\xff", .entries = {entry({"File", "caf\xe9"})}});

@@ -17,7 +17,7 @@ class SearchedSheetTest : public testing::Test {
         usage.apps[app] = SampleMenus::usage();
         update();
     }
-    void update() { searched.update(sheet, annotations, usage); }
+    void update() { searched.update(sheet ? &*sheet : nullptr, annotations, usage); }
     QStringList found(std::string_view query) {
         QStringList titles;
         for (const std::size_t match : searched.matches(query))

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "library_rows.h"
+
+#include <quillon/app/views/learned/learned_summary.h>
+
+#include <vector>
+
+namespace quillon {
+
+/// The foot of an application's page: what its user learned.
+std::vector<LibraryRow> learnedRows(const LearnedSummary& summary);
+
+} // namespace quillon
