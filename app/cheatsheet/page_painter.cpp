@@ -10,6 +10,8 @@
 #include <QPainterPath>
 #include <QPen>
 
+#include <cmath>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -35,6 +37,26 @@ QColor onPaper(const QColor& colour) {
     return Colours::over(colour, Qt::white);
 }
 
+/// Places are told in whole units: every further digit only makes documents larger.
+double neat(double places) {
+    return std::round(places * unit) / unit;
+}
+
+QPointF neat(QPointF point) {
+    return {neat(point.x()), neat(point.y())};
+}
+
+QRectF neat(const QRectF& box) {
+    return {neat(box.topLeft()), neat(box.bottomRight())};
+}
+
+/// The same in whole units, of which a drawing is some two hundred high.
+QPainterPath inWholeUnits(QPainterPath path) {
+    for (int i = 0; i < path.elementCount(); ++i)
+        path.setElementPositionAt(i, std::round(path.elementAt(i).x), std::round(path.elementAt(i).y));
+    return path;
+}
+
 /// Draws each kind of element.
 class ElementPainter {
   public:
@@ -48,9 +70,9 @@ class ElementPainter {
         const double size = PageFonts::size(sign.font) * unit;
         const KeyPictograms::Drawing drawing = KeyPictograms::drawing(sign.sign, size);
         m_painter.save();
-        m_painter.translate(sign.box.topLeft());
+        m_painter.translate(neat(sign.box.topLeft()));
         m_painter.scale(sign.scale / unit, sign.scale / unit);
-        m_painter.fillPath(drawing.path, colourOf(sign.ink));
+        m_painter.fillPath(inWholeUnits(drawing.path), colourOf(sign.ink));
         m_painter.restore();
         const double natural = m_fonts.width(sign.font, sign.sign);
         if (natural > 0)
@@ -62,7 +84,8 @@ class ElementPainter {
         m_painter.setBrush(m_capFill);
         const double inset = borderWidth / 2;
         m_painter.drawRoundedRect(
-            cap.box.adjusted(inset, inset, -inset, -inset), PageMeasures::capRadius, PageMeasures::capRadius);
+            neat(cap.box).adjusted(inset, inset, -inset, -inset), PageMeasures::capRadius,
+            PageMeasures::capRadius);
     }
 
     void operator()(const PlacedPin& pin) {
@@ -91,7 +114,7 @@ class ElementPainter {
 
     void write(const QString& text, QPointF start, PageFont font, QPointF scale, const QColor& colour) {
         m_painter.save();
-        m_painter.translate(start);
+        m_painter.translate(neat(start));
         m_painter.scale(scale.x() / unit, scale.y() / unit);
         m_painter.setFont(m_fonts.font(font));
         m_painter.setPen(colour);
