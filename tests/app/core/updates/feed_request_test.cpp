@@ -62,9 +62,11 @@ TEST(FeedRequestTest, SaysWhoAsksAndPassesCachesOver) {
         LocalServer::status(200)(client, text);
     });
     head(server);
-    EXPECT_NE(request.find("\r\nUser-Agent: Quillon/0.1\r\n"), std::string::npos) << request;
-    EXPECT_NE(request.find("\r\nCache-Control: no-cache\r\n"), std::string::npos) << request;
-    EXPECT_EQ(request.find("Cookie"), std::string::npos) << request;
+    // The toolkit's versions differ in how they write the names.
+    const QByteArray said = QByteArray::fromStdString(request).toLower();
+    EXPECT_TRUE(said.contains("\r\nuser-agent: quillon/0.1\r\n")) << request;
+    EXPECT_TRUE(said.contains("\r\ncache-control: no-cache\r\n")) << request;
+    EXPECT_FALSE(said.contains("cookie")) << request;
 }
 
 TEST(FeedRequestTest, KeepsNoCookies) {
