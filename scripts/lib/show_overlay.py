@@ -24,6 +24,7 @@ def show(picture):
 
     desktop.xdotool("getactivewindow", "windowmove", "0", "0", "windowsize", "--sync", "100%", "96%")
 
+    quillon.write_settings(onboarded="true")  # the welcome would lie beneath
     program = desktop.Program([quillon.QUILLON])
     wait_until("quillon on the session bus", lambda: quillon.owns_name(quillon.SERVICE))
     overlay = quillon.Overlay(program.pid)
