@@ -106,6 +106,11 @@ class Accessible:
         """What an editable field holds; "" for anything else."""
         return self._ask("org.a11y.atspi.Text", "GetText", GLib.Variant("(ii)", (0, -1)), otherwise=("",))[0]
 
+    def set_text(self, text):
+        """Fills an editable field, at once: what is typed into one that offers completions is lost in part while
+        their list opens."""
+        self._ask("org.a11y.atspi.EditableText", "SetTextContents", GLib.Variant("(s)", (text,)))
+
     def extents(self):
         """x, y, width and height on the screen."""
         return self._ask("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)),
