@@ -41,17 +41,14 @@ std::vector<QString> graduatedOf(const AppSheet& sheet, const UsageRecords& usag
 } // namespace
 
 std::optional<LearnedSummary>
-learnedSummary(const AppSheet& sheet, const UsageRecords& usage, const WeekSums& weeks, Day today) {
-    LearnedSummary summary;
-    Count clicked = 0;
-    for (const auto& [id, record] : usage) {
-        clicked = checkedAdd(clicked, record.clicked);
-        summary.typed = checkedAdd(summary.typed, record.typed);
-    }
-    if (clicked == 0 && summary.typed == 0)
+learnedSummary(const AppSheet& sheet, const UsageBook& usage, const WeekSums& weeks, Day today) {
+    const auto [clicked, typed] = usage.totals(sheet.bundleID);
+    if (clicked == 0 && typed == 0)
         return std::nullopt;
+    LearnedSummary summary;
+    summary.typed = typed;
     summary.weeks = barsOf(weeks, today);
-    summary.graduated = graduatedOf(sheet, usage);
+    summary.graduated = graduatedOf(sheet, usage.records(sheet.bundleID));
     return summary;
 }
 

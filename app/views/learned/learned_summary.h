@@ -36,6 +36,6 @@ struct LearnedSummary {
 /// Of the application of `sheet`, on `today`. Absent when nothing was counted yet. Commands that its menus no
 /// longer have are left out of `graduated`.
 std::optional<LearnedSummary>
-learnedSummary(const AppSheet& sheet, const UsageRecords& usage, const WeekSums& weeks, Day today);
+learnedSummary(const AppSheet& sheet, const UsageBook& usage, const WeekSums& weeks, Day today);
 
 } // namespace quillon

@@ -108,9 +108,8 @@ void LibraryDetail::refresh() {
 }
 
 std::vector<LibraryRow> LibraryDetail::learned(const AppSheet& sheet) const {
-    const auto summary = learnedSummary(
-        sheet, m_model.usage().records(m_bundleID), m_model.weeks().weeks(m_bundleID),
-        localDay(m_clock.now()));
+    const auto summary =
+        learnedSummary(sheet, m_model.usage(), m_model.weeks().weeks(m_bundleID), localDay(m_clock.now()));
     return summary ? learnedRows(*summary) : std::vector<LibraryRow>();
 }
 

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -20,15 +21,19 @@ MenuEntry command(const std::string& title) {
 
 const AppSheet sheet{"writer", "Writer", {command("Save"), command("Open"), command("Print")}, {}};
 
+UsageBook used(UsageRecords records) {
+    return {{{sheet.bundleID, std::move(records)}}};
+}
+
 TEST(LearnedSummary, IsAbsentBeforeAnythingWasCounted) {
     EXPECT_FALSE(learnedSummary(sheet, {}, {}, today));
-    EXPECT_FALSE(learnedSummary(sheet, {{"File › Save", {.practiceRight = 3}}}, {}, today));
-    EXPECT_TRUE(learnedSummary(sheet, {{"File › Save", {.clicked = 1}}}, {}, today));
+    EXPECT_FALSE(learnedSummary(sheet, used({{"File › Save", {.practiceRight = 3}}}), {}, today));
+    EXPECT_TRUE(learnedSummary(sheet, used({{"File › Save", {.clicked = 1}}}), {}, today));
 }
 
 TEST(LearnedSummary, ShowsTwelveWeeksUpToThisOne) {
     const WeekSums sums{{"2026-11-16", {2, 9}}, {"2026-09-14", {7, 1}}, {"2026-08-24", {5, 5}}};
-    const auto summary = learnedSummary(sheet, {{"File › Save", {.typed = 1}}}, sums, today);
+    const auto summary = learnedSummary(sheet, used({{"File › Save", {.typed = 1}}}), sums, today);
     ASSERT_EQ(summary->weeks.size(), 12U);
     EXPECT_EQ(weekName(summary->weeks.front().monday), "2026-08-31");
     EXPECT_EQ(summary->weeks[2].clicked, 7);
@@ -44,7 +49,7 @@ TEST(LearnedSummary, NamesGraduatedCommandsThatTheMenusHaveByHowOftenTheyAreType
         {"File › Open", {.typed = 40}},
         {"File › Print", {.clicked = 2, .typed = 6}},
         {"File › Gone", {.typed = 90}}};
-    const auto summary = learnedSummary(sheet, usage, {}, today);
+    const auto summary = learnedSummary(sheet, used(usage), {}, today);
     EXPECT_THAT(summary->graduated, ElementsAre(u"Open"_s, u"Save"_s));
     EXPECT_EQ(summary->typed, 142);
 }
