@@ -4,6 +4,7 @@
 #include "session_kind.h"
 
 #include <QByteArray>
+#include <QDBusMessage>
 #include <QUrl>
 
 #include <systemd/sd-bus.h>
@@ -118,6 +119,9 @@ SessionBus::SessionBus(std::chrono::milliseconds limit)
     : m_address(sessionBusAddress()), m_found(askBus(m_address, instanceName, limit)) {}
 
 QDBusConnection SessionBus::connection() const {
+    // Qt's table of such types has to be there before the thread of its buses, for the table to outlive the
+    // thread: what arrives while the process ends would be warned about otherwise.
+    qRegisterMetaType<QDBusMessage>();
     // The name of no connection: the result is one that is not connected.
     return answers() ? QDBusConnection::sessionBus() : QDBusConnection(QStringLiteral("none"));
 }

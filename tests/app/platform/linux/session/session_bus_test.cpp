@@ -3,9 +3,16 @@
 
 #include <quillon/app/platform/linux/session/session_bus.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+
 #include <chrono>
+#include <cstdlib>
+#include <optional>
+#include <string>
 #include <thread>
 
 namespace quillon {
@@ -51,6 +58,33 @@ TEST(SessionBusTest, AskingASilentBusCanBeStopped) {
         });
     }
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 30s);
+}
+
+constexpr auto addressVariable = "DBUS_SESSION_BUS_ADDRESS";
+
+/// Ends the process with many answers of the session bus still on their way.
+[[noreturn]] void endBeforeAnswers(const std::string& address) {
+    qputenv(addressVariable, QByteArray::fromStdString(address));
+    const QDBusConnection bus = SessionBus().connection();
+    for (int i = 0; i < 1000; ++i) {
+        auto* const call = new QDBusPendingCallWatcher(bus.asyncCall(QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"))));
+        QObject::connect(call, &QDBusPendingCallWatcher::finished, call, &QObject::deleteLater);
+    }
+    std::exit(0);
+}
+
+TEST(SessionBusDeathTest, AnswersThatComeWhileTheProcessEndsAreNoNews) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    constexpr auto shared = "QUILLON_ENDING_BUS";
+    // The process that ends runs this test up to that point too, and would leave a bus of its own behind.
+    std::optional<PrivateBus> bus;
+    if (!qEnvironmentVariableIsSet(shared))
+        qputenv(shared, QByteArray::fromStdString(bus.emplace().address()));
+    EXPECT_EXIT(
+        endBeforeAnswers(qgetenv(shared).toStdString()), testing::ExitedWithCode(0), testing::StrEq(""));
+    qunsetenv(shared);
 }
 
 } // namespace
