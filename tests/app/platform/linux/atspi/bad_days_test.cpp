@@ -35,10 +35,11 @@ struct TimedReading {
     Clock::duration took;
 };
 
-TimedReading read(const FakeAppProcess& process, std::stop_token stop = {}) {
+TimedReading
+read(const FakeAppProcess& process, std::stop_token stop = {}, const atspi::ReadLimits& limits = {}) {
     RunningApp app;
     app.pid = process.pid();
-    AtspiMenuReader reader;
+    AtspiMenuReader reader(limits);
     const auto start = Clock::now();
     MenuReading reading = reader.readMenus(app, stop);
     return {std::move(reading), Clock::now() - start};
@@ -122,11 +123,12 @@ TEST(BadDay, AMenuThatHoldsItselfIsReadOnce) {
 
 TEST(BadDay, AHundredThousandItemsAreCut) {
     const FakeAppProcess process({"--items", "100000", "--flat"});
-    const auto [reading, took] = read(process);
+    // Their number is to end it and not the time, which a busy machine needs more of.
+    const auto [reading, took] = read(process, {}, {.whole = 30s});
     EXPECT_EQ(reading.outcome, ReadOutcome::limited);
     EXPECT_GE(count(reading.menuBar), 4000U);
     EXPECT_LE(count(reading.menuBar), 16000U);
-    EXPECT_LT(took, 7s);
+    EXPECT_LT(took, 20s);
     expectNextReadsNormally();
 }
 
