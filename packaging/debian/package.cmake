@@ -19,11 +19,12 @@ if(QUILLON_PAGE)
 endif()
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 
-# Linked libraries come from dpkg-shlibdeps, and with them Qt's plugins for X11 and for SVG icons, which are in the
-# packages of the libraries. What else the program needs: the buses that it asks, and the theme of its own icon.
+# Linked libraries come from dpkg-shlibdeps, and with them Qt's plugin for X11, which is in a library's package. What
+# else the program needs: the buses that it asks, the theme of its own icon, and Qt's plugins for the SVG icons of
+# applications, which have a package of their own since Debian 13.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "at-spi2-core, default-dbus-session-bus | dbus-session-bus, hicolor-icon-theme")
+  "at-spi2-core, default-dbus-session-bus | dbus-session-bus, hicolor-icon-theme, qt6-svg-plugins | libqt6svg6 (<< 6.8~)")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
 

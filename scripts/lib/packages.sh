@@ -40,8 +40,17 @@ test_packages() {
 desktop_packages() {
     echo xvfb x11-utils libxrandr2 xdotool openbox i3-wm picom dbus at-spi2-core \
         python3 python3-gi imagemagick \
-        fonts-dejavu-core libqt6svg6 hicolor-icon-theme adwaita-icon-theme \
+        fonts-dejavu-core "$(svg_plugins)" hicolor-icon-theme adwaita-icon-theme \
         geany mousepad featherpad designer-qt6 libreoffice-writer libreoffice-gtk3
+}
+
+# What shows SVG icons: a package of its own since Debian 13.
+svg_plugins() {
+    if grep --quiet '^VERSION_CODENAME=bookworm$' /etc/os-release; then
+        echo libqt6svg6
+    else
+        echo qt6-svg-plugins
+    fi
 }
 
 lint_packages() {

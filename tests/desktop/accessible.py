@@ -17,7 +17,7 @@ ROLES = {
     7: "check box", 8: "check menu item", 11: "combo box", 16: "dialog", 23: "frame", 29: "label", 31: "list", 32: "list item",
     33: "menu", 34: "menu bar", 35: "menu item", 37: "page tab", 38: "page tab list", 39: "panel", 41: "popup menu", 43: "push button",
     45: "radio menu item", 46: "root pane", 50: "separator", 51: "slider", 59: "tear off menu item", 61: "text", 69: "window", 75: "application",
-    79: "entry", 83: "heading", 101: "notification",
+    79: "entry", 83: "heading", 101: "notification", 129: "push button menu",
 }
 STATES = {
     1: "active", 4: "checked", 7: "editable", 8: "enabled", 11: "focusable", 12: "focused", 23: "selected",

@@ -117,11 +117,16 @@ def visible_windows(pid):
     return windows
 
 
+def window_property(window, name):
+    """A property of a window as xprop prints it; "" when it has none."""
+    result = subprocess.run(["xprop", "-id", str(window), name], text=True, capture_output=True,
+                            stdin=subprocess.DEVNULL, check=False, timeout=10)
+    return result.stdout.partition("=")[2].strip()
+
+
 def window_types(window):
     """What a window says it is, such as _NET_WM_WINDOW_TYPE_TOOLTIP."""
-    result = subprocess.run(["xprop", "-id", str(window), "_NET_WM_WINDOW_TYPE"], text=True, capture_output=True,
-                            stdin=subprocess.DEVNULL, check=False, timeout=10)
-    return result.stdout.partition("=")[2].replace(",", " ").split()
+    return window_property(window, "_NET_WM_WINDOW_TYPE").replace(",", " ").split()
 
 
 def active_window():

@@ -7,6 +7,7 @@
 
 #include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 #include <utility>
 
@@ -41,6 +42,13 @@ void AppList::tellChoice() {
         return;
     const QModelIndexList selected = selectionModel()->selectedIndexes();
     Q_EMIT chosen(selected.isEmpty() ? std::string() : m_apps->bundleID(selected.first()));
+}
+
+void AppList::mousePressEvent(QMouseEvent* event) {
+    QListView::mousePressEvent(event);
+    // Not every version of the toolkit takes a press beside all rows for the choice of none.
+    if (event->button() == Qt::LeftButton && !indexAt(event->position().toPoint()).isValid())
+        selectionModel()->clearSelection();
 }
 
 /// A list that gets the keyboard is at its first application without having chosen it: the first step chooses

@@ -29,6 +29,7 @@ class AppList : public QListView {
     void chosen(const std::string& bundleID);
 
   protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

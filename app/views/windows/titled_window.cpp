@@ -2,6 +2,8 @@
 
 #include "window_texts.h"
 
+#include <quillon/app/views/components/symbols.h>
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QIcon>
@@ -12,8 +14,6 @@
 #include <algorithm>
 
 namespace quillon {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,8 +27,12 @@ QSize roomOnScreen() {
     return screen ? screen->availableSize() - frameRoom : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
+/// The program's mark in the sizes that title bars, task bars and switchers of windows take it in.
 QIcon programIcon() {
-    return QIcon::fromTheme(u"app.quillon.Quillon"_s, QIcon(u":/quillon/app.quillon.Quillon.svg"_s));
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addPixmap(productMark(size, 1));
+    return icon;
 }
 
 } // namespace
