@@ -29,14 +29,16 @@ function(quillon_qt_settings target)
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
 endfunction()
 
-# quillon_module([QT] [HEADERS...] [SOURCES...] [PUBLIC targets...] [PRIVATE targets...])
+# quillon_module([QT] [SMALL] [HEADERS...] [SOURCES...] [PUBLIC targets...] [PRIVATE targets...])
 # Makes the static library of the current folder: the folder app/core becomes quillon_app_core, alias
 # quillon::app::core. HEADERS are what others may include; every other header of the folder is its own affair.
 # PUBLIC names the modules that the public headers mention, PRIVATE those that only the sources use.
+# SMALL is for what runs seldom and is waited for by nobody: releases have it compiled for size. Of a program that
+# waits in the tray all day, most of the memory is code.
 #
 # quillon::app::core::internals reaches all headers of the folder: for its own tests.
 function(quillon_module)
-  cmake_parse_arguments(arg "QT" "" "HEADERS;SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  cmake_parse_arguments(arg "QT;SMALL" "" "HEADERS;SOURCES;PUBLIC;PRIVATE" ${ARGN})
   file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
   string(REPLACE "/" "_" target quillon_${folder})
   string(REPLACE "/" "::" alias quillon::${folder})
@@ -45,6 +47,9 @@ function(quillon_module)
     set(scope PUBLIC)
     quillon_compile_settings(${target})
     target_link_libraries(${target} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+    if(arg_SMALL)
+      target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-Os>)
+    endif()
     if(arg_QT)
       set_target_properties(${target} PROPERTIES AUTOMOC ON)
       quillon_qt_settings(${target})
@@ -84,6 +89,24 @@ function(quillon_program name)
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
   if(arg_QT)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    quillon_qt_settings(${name})
+  endif()
+endfunction()
+
+# quillon_library(NAME [QT] SOURCES... LIBRARIES...) makes a library that programs load when they first need it, in
+# build/<preset>/lib/quillon. Its name has the version: a program that still runs when a newer one is installed does
+# not take the newer one's. Programs find it in ${QUILLON_LIBRARIES}, as seen from their own folder.
+set(QUILLON_LIBRARIES ../lib/quillon)
+function(quillon_library name)
+  cmake_parse_arguments(arg "QT" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_library(${name} MODULE ${arg_SOURCES})
+  quillon_compile_settings(${name})
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+  target_link_options(${name} PRIVATE -Wl,--exclude-libs,ALL)
+  set_target_properties(${name} PROPERTIES
+    PREFIX "" OUTPUT_NAME ${name}-${PROJECT_VERSION} CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+    LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin/${QUILLON_LIBRARIES})
+  if(arg_QT)
     quillon_qt_settings(${name})
   endif()
 endfunction()

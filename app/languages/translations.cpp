@@ -34,7 +34,8 @@ QString chosen(const QStringList& locales) {
 
 QStringList Translations::available() {
     QStringList languages;
-    for (const QString& file : QDir(ownTexts).entryList({u"quillon_*.qm"_s}, QDir::Files, QDir::Name))
+    // Every file here is a translation. Picking them by a pattern would load regular expressions for good.
+    for (const QString& file : QDir(ownTexts).entryList(QDir::Files, QDir::Name))
         languages.append(file.section(u'_', 1).section(u'.', 0, 0));
     return languages;
 }

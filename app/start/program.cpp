@@ -2,6 +2,7 @@
 
 #include "overlay_content.h"
 #include "showcase.h"
+#include "this_platform.h"
 #include "toast_content.h"
 
 #include <quillon/app/views/settings/shown_path.h>
@@ -22,7 +23,7 @@ constexpr Seconds patienceForTrust{0.5};
 } // namespace
 
 Program::Program(Platform& platform)
-    : m_desktop(platform.openDesktop(m_background, m_clock)),
+    : m_background(returnFreedMemory), m_desktop(platform.openDesktop(m_background, m_clock)),
       m_settings(QString::fromStdString(platform.settingsFile().string())), m_themes(m_desktop->appearance()),
       m_icons(m_desktop->icons()),
       m_panels(

@@ -36,6 +36,7 @@ class ProgramUpdates {
 
   private:
     ReleaseSource m_source;
+    AskFeed m_ask;
     UpdateMemory m_memory;
     UpdateWindows m_windows;
     AppcastUpdates m_framework;

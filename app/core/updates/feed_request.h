@@ -23,12 +23,7 @@ struct FeedRequest {
 inline constexpr std::int64_t largestFeed = 1 << 20;
 
 /// Sends a request and waits for the answer, on a thread that may wait: until `stop` is requested, when there
-/// is none. Caches are passed over, nothing is kept and nothing but the answer is taken: no cookies, no
-/// passwords. Redirections are followed as far as `WebAddress::mayLead` lets them. An address that is no feed
-/// is not asked.
-FeedAnswer askFeed(const FeedRequest& request, std::stop_token stop);
-
-/// The same, as something to be replaced in tests.
+/// is none.
 using AskFeed = std::function<FeedAnswer(const FeedRequest&, std::stop_token)>;
 
 } // namespace quillon

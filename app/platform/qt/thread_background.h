@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <atomic>
+#include <functional>
 #include <memory>
 #include <stop_token>
 
@@ -14,7 +16,8 @@ namespace quillon {
 /// event loop.
 class ThreadBackground final : public Background {
   public:
-    ThreadBackground();
+    /// `whenIdle` is called on a job's thread when it was the last that ran; no job waits for it.
+    explicit ThreadBackground(std::function<void()> whenIdle = {});
     ~ThreadBackground() override;
 
     Subscription run(Job job) override;
@@ -24,8 +27,12 @@ class ThreadBackground final : public Background {
     void finish();
 
   private:
+    void perform(const Job& job, const std::shared_ptr<std::stop_source>& ended);
+
+    std::function<void()> m_whenIdle;
     std::stop_source m_stop;
     std::unique_ptr<QObject> m_mainThread;
+    std::atomic<int> m_running = 0;
     QThreadPool m_threads;
 };
 

@@ -12,6 +12,7 @@ Q_DECLARE_LOGGING_CATEGORY(logMenus)   ///< quillon.menus: readings of menus
 Q_DECLARE_LOGGING_CATEGORY(logWindows) ///< quillon.windows: which application is in front
 Q_DECLARE_LOGGING_CATEGORY(logInput)   ///< quillon.input: whether held keys are noticed, and how
 Q_DECLARE_LOGGING_CATEGORY(logPanels)  ///< quillon.panels: panels that open and close
+Q_DECLARE_LOGGING_CATEGORY(logUpdates) ///< quillon.updates: checks for updates
 
 /// Switches all of them on. Qt's own rules, where the environment has any, still come after.
 void logEverything();

@@ -2,6 +2,7 @@
 #include "noted_notices.h"
 
 #include <quillon/app/core/updates/updater.h>
+#include <quillon/app/core/updates/web/ask_feed.h>
 #include <quillon/app/platform/fake/fake_background.h>
 #include <quillon/app/platform/fake/fake_timers.h>
 #include <quillon/app/platform/fake/fake_update_framework.h>

@@ -84,6 +84,22 @@ TEST_F(QtPorts, AJobThatWaitsDoesNotHoldUpTheNext) {
     runLoop();
 }
 
+TEST_F(QtPorts, TheLastJobThatRanTellsThatNoneDoes) {
+    std::atomic<int> told = 0;
+    std::latch bothRun(2);
+    const auto meet = [&](std::stop_token) {
+        bothRun.arrive_and_wait();
+        return Background::Continuation();
+    };
+    {
+        ThreadBackground background([&] { ++told; });
+        const Subscription first = background.run(meet);
+        const Subscription second = background.run(meet);
+        bothRun.wait();
+    }
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(QtPorts, TheEndStopsJobsAndDropsTheirContinuations) {
     std::atomic<bool> stopped = false;
     bool continued = false;

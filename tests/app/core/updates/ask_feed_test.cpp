@@ -1,6 +1,6 @@
 #include "local_server.h"
 
-#include <quillon/app/core/updates/feed_request.h>
+#include <quillon/app/core/updates/web/ask_feed.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "feed_request.h"
+#include "ask_feed.h"
 
-#include "web_address.h"
+#include "feed_address.h"
 
 #include <QEventLoop>
 #include <QMetaObject>
@@ -48,7 +48,7 @@ class Exchange {
         QNetworkReply* const reply = m_reply.get();
         QObject::connect(
             reply, &QNetworkReply::redirected, reply, [reply, from = request.address](const QUrl& to) {
-                if (WebAddress::mayLead(from, to))
+                if (FeedAddress::mayLead(from, to))
                     Q_EMIT reply->redirectAllowed();
                 else
                     reply->abort();
@@ -93,7 +93,7 @@ class Exchange {
 } // namespace
 
 FeedAnswer askFeed(const FeedRequest& request, std::stop_token stop) {
-    if (!WebAddress::isFeed(request.address))
+    if (!FeedAddress::isFeed(request.address))
         return {};
     return Exchange(request).wait(stop);
 }
