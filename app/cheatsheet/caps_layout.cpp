@@ -20,7 +20,7 @@ CapMetrics metricsOf(const PageFonts& fonts) {
 
 /// Of the drawing, in points.
 QSizeF signSize(const QString& sign, PageFont font) {
-    return QSizeF(KeyPictograms::drawing(sign, PageFonts::size(font) * unit).size) / unit;
+    return QSizeF(KeyPictograms::inkSize(sign, PageFonts::size(font) * unit)) / unit;
 }
 
 /// How far below the middle of a cap the line is that its words stand on. Letters and digits have their

@@ -11,6 +11,10 @@
 #include <QPen>
 
 #include <cmath>
+#include <map>
+#include <optional>
+#include <tuple>
+#include <vector>
 
 namespace quillon {
 
@@ -37,106 +41,225 @@ QColor onPaper(const QColor& colour) {
     return Colours::over(colour, Qt::white);
 }
 
-/// Places are told in whole units: every further digit only makes documents larger.
-double neat(double places) {
-    return std::round(places * unit) / unit;
-}
+struct PageColours {
+    QColor secondary = Palette::forScheme(ColourScheme::light).secondary;
+    QColor capFill = onPaper(Colours::withOpacity(Qt::black, 0.07));
+    QColor capBorder = onPaper(Colours::withOpacity(Qt::black, 0.14));
 
-QPointF neat(QPointF point) {
-    return {neat(point.x()), neat(point.y())};
-}
-
-QRectF neat(const QRectF& box) {
-    return {neat(box.topLeft()), neat(box.bottomRight())};
-}
-
-/// The same in whole units, of which a drawing is some two hundred high.
-QPainterPath inWholeUnits(QPainterPath path) {
-    for (int i = 0; i < path.elementCount(); ++i)
-        path.setElementPositionAt(i, std::round(path.elementAt(i).x), std::round(path.elementAt(i).y));
-    return path;
-}
-
-/// Draws each kind of element.
-class ElementPainter {
-  public:
-    ElementPainter(QPainter& painter, const PageFonts& fonts) : m_painter(painter), m_fonts(fonts) {}
-
-    void operator()(const PlacedText& text) {
-        write(text.text, text.start, text.font, {text.scale, text.scale}, colourOf(text.ink));
-    }
-
-    void operator()(const PlacedSign& sign) {
-        const double size = PageFonts::size(sign.font) * unit;
-        const KeyPictograms::Drawing drawing = KeyPictograms::drawing(sign.sign, size);
-        m_painter.save();
-        m_painter.translate(neat(sign.box.topLeft()));
-        m_painter.scale(sign.scale / unit, sign.scale / unit);
-        m_painter.fillPath(inWholeUnits(drawing.path), colourOf(sign.ink));
-        m_painter.restore();
-        const double natural = m_fonts.width(sign.font, sign.sign);
-        if (natural > 0)
-            write(sign.sign, sign.start, sign.font, {sign.width / natural, sign.scale}, Qt::transparent);
-    }
-
-    void operator()(const PlacedCap& cap) {
-        m_painter.setPen(QPen(m_capBorder, borderWidth));
-        m_painter.setBrush(m_capFill);
-        const double inset = borderWidth / 2;
-        m_painter.drawRoundedRect(
-            neat(cap.box).adjusted(inset, inset, -inset, -inset), PageMeasures::capRadius,
-            PageMeasures::capRadius);
-    }
-
-    void operator()(const PlacedPin& pin) {
-        static const QPainterPath path = pinPath();
-        m_painter.save();
-        m_painter.translate(pin.box.topLeft());
-        m_painter.scale(pin.box.width() / pinUnits, pin.box.height() / pinUnits);
-        m_painter.fillPath(path, m_palette.secondary);
-        m_painter.restore();
-    }
-
-    void operator()(const PlacedRule& rule) {
-        m_painter.setPen(QPen(m_capBorder, ruleWidth));
-        m_painter.drawLine(rule.start, rule.start + QPointF(rule.width, 0));
-    }
-
-  private:
-    QColor colourOf(PageInk ink) const {
+    QColor of(PageInk ink) const {
         switch (ink) {
         case PageInk::primary: return Qt::black;
-        case PageInk::secondary: return m_palette.secondary;
+        case PageInk::secondary: return secondary;
         case PageInk::note: return noteGrey;
         }
         Q_UNREACHABLE();
     }
+};
+
+/// Places are told in whole units, with which the page is drawn: every further digit only makes documents
+/// larger.
+QPointF inUnits(QPointF point) {
+    return {std::round(point.x() * unit), std::round(point.y() * unit)};
+}
+
+QRectF inUnits(const QRectF& box) {
+    return {inUnits(box.topLeft()), inUnits(box.bottomRight())};
+}
+
+QPointF whole(const QPainterPath::Element& element) {
+    return {std::round(element.x), std::round(element.y)};
+}
+
+/// What is to be filled, in whole units, of which a drawing is some two hundred high, and without lines that
+/// go nowhere or back to where filling ends by itself.
+QPainterPath shortened(const QPainterPath& path) {
+    QPainterPath shorter;
+    shorter.setFillRule(path.fillRule());
+    QPointF start;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPointF point = whole(path.elementAt(i));
+        switch (path.elementAt(i).type) {
+        case QPainterPath::MoveToElement:
+            start = point;
+            shorter.moveTo(point);
+            break;
+        case QPainterPath::LineToElement: {
+            const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
+            if (point != shorter.currentPosition() && !(isLast && point == start))
+                shorter.lineTo(point);
+            break;
+        }
+        case QPainterPath::CurveToElement:
+            shorter.cubicTo(point, whole(path.elementAt(i + 1)), whole(path.elementAt(i + 2)));
+            i += 2;
+            break;
+        case QPainterPath::CurveToDataElement: Q_UNREACHABLE();
+        }
+    }
+    return shorter;
+}
+
+/// A drawing, from the origin of a place of its own.
+struct Drawing {
+    QPointF at; ///< in whole units
+    QPainterPath path;
+};
+
+/// The drawings of signs, each made once.
+class SignPaths {
+  public:
+    const QPainterPath& of(const PlacedSign& sign) {
+        const auto [path, isNew] = m_paths.try_emplace({sign.sign, sign.font, sign.scale});
+        if (isNew) {
+            const double size = PageFonts::size(sign.font) * unit;
+            const auto fit = QTransform::fromScale(sign.scale, sign.scale);
+            path->second = shortened(fit.map(KeyPictograms::drawing(sign.sign, size).path));
+        }
+        return path->second;
+    }
+
+  private:
+    std::map<std::tuple<QString, PageFont, double>, QPainterPath> m_paths;
+};
+
+/// What of a page is drawn and not written.
+class Drawings {
+  public:
+    void operator()(const PlacedText&) {}
+
+    void operator()(const PlacedSign& sign) {
+        m_signs[sign.ink].addPath(m_signPaths.of(sign).translated(inUnits(sign.box.topLeft())));
+    }
+
+    void operator()(const PlacedCap& cap) {
+        const QRectF box = inUnits(cap.box);
+        const double inset = borderWidth * unit / 2;
+        QPainterPath path;
+        path.addRoundedRect(
+            QRectF(QPointF(), box.size()).adjusted(inset, inset, -inset, -inset),
+            PageMeasures::capRadius * unit, PageMeasures::capRadius * unit);
+        m_caps.push_back({box.topLeft(), path});
+    }
+
+    void operator()(const PlacedPin& pin) {
+        static const QPainterPath path = pinPath();
+        const QRectF box = inUnits(pin.box);
+        const auto fit = QTransform::fromScale(box.width() / pinUnits, box.height() / pinUnits);
+        m_signs[PageInk::secondary].addPath(shortened(fit.map(path)).translated(box.topLeft()));
+    }
+
+    void operator()(const PlacedRule& rule) {
+        m_rules.emplace_back(inUnits(rule.start), inUnits(rule.start + QPointF(rule.width, 0)));
+    }
+
+    void draw(QPainter& painter, const PageColours& colours) const {
+        painter.setPen(QPen(colours.capBorder, ruleWidth * unit));
+        painter.drawLines(m_rules);
+        painter.setPen(QPen(colours.capBorder, borderWidth * unit));
+        painter.setBrush(colours.capFill);
+        drawCaps(painter);
+        for (const auto& [ink, path] : m_signs)
+            painter.fillPath(path, colours.of(ink));
+        painter.setBrush(Qt::NoBrush);
+    }
+
+  private:
+    /// Each in coordinates of its own: in documents, caps of one size are the same numbers everywhere.
+    void drawCaps(QPainter& painter) const {
+        const QTransform page = painter.transform();
+        for (const Drawing& cap : m_caps) {
+            painter.setTransform(QTransform::fromTranslate(cap.at.x(), cap.at.y()) * page);
+            painter.drawPath(cap.path);
+        }
+        painter.setTransform(page);
+    }
+
+    SignPaths m_signPaths;
+    std::vector<Drawing> m_caps;
+    std::map<PageInk, QPainterPath> m_signs;
+    QList<QLineF> m_rules;
+};
+
+/// Writes the words, and signs without ink where they are drawn: readers that search find those. Signs that
+/// follow each other are written as one.
+class Writer {
+  public:
+    Writer(QPainter& painter, const PageFonts& fonts, const PageColours& colours)
+        : m_painter(painter), m_fonts(fonts), m_colours(colours) {}
+
+    void operator()(const PlacedText& text) {
+        finish();
+        write(text.text, text.start, text.font, {text.scale, text.scale}, m_colours.of(text.ink));
+    }
+
+    void operator()(const PlacedSign& sign) {
+        if (m_signs && follows(sign, *m_signs)) {
+            m_signs->sign += sign.sign;
+            m_signs->width += sign.width;
+            return;
+        }
+        finish();
+        m_signs = sign;
+    }
+
+    void operator()(const PlacedCap&) {}
+    void operator()(const PlacedPin&) {}
+    void operator()(const PlacedRule&) {}
+
+    /// Writes the signs that wait for others to follow.
+    void finish() {
+        if (!m_signs)
+            return;
+        const double natural = m_fonts.width(m_signs->font, m_signs->sign);
+        if (natural > 0)
+            write(
+                m_signs->sign, m_signs->start, m_signs->font, {m_signs->width / natural, m_signs->scale},
+                Qt::transparent);
+        m_signs.reset();
+    }
+
+  private:
+    static bool follows(const PlacedSign& sign, const PlacedSign& before) {
+        const QPointF end = before.start + QPointF(before.width, 0);
+        return sign.font == before.font && sign.scale == before.scale
+               && (sign.start - end).manhattanLength() < 1 / unit;
+    }
 
     void write(const QString& text, QPointF start, PageFont font, QPointF scale, const QColor& colour) {
-        m_painter.save();
-        m_painter.translate(neat(start));
-        m_painter.scale(scale.x() / unit, scale.y() / unit);
         m_painter.setFont(m_fonts.font(font));
         m_painter.setPen(colour);
+        if (scale == QPointF(1, 1)) {
+            m_painter.drawText(inUnits(start), text);
+            return;
+        }
+        m_painter.save();
+        m_painter.translate(inUnits(start));
+        m_painter.scale(scale.x(), scale.y());
         m_painter.drawText(QPointF(), text);
         m_painter.restore();
     }
 
     QPainter& m_painter;
     const PageFonts& m_fonts;
-    const Palette m_palette = Palette::forScheme(ColourScheme::light);
-    const QColor m_capFill = onPaper(Colours::withOpacity(Qt::black, 0.07));
-    const QColor m_capBorder = onPaper(Colours::withOpacity(Qt::black, 0.14));
+    const PageColours& m_colours;
+    std::optional<PlacedSign> m_signs;
 };
 
 } // namespace
 
 void paintPage(QPainter& painter, const PageLayout& page, const PageFonts& fonts) {
+    const PageColours colours;
+    Drawings drawings;
+    for (const Placed& placed : page)
+        std::visit(drawings, placed);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    ElementPainter element(painter, fonts);
+    painter.scale(1 / unit, 1 / unit);
+    drawings.draw(painter, colours);
+    Writer writer(painter, fonts, colours);
     for (const Placed& placed : page)
-        std::visit(element, placed);
+        std::visit(writer, placed);
+    writer.finish();
     painter.restore();
 }
 

@@ -75,6 +75,10 @@ QTransform turned(Turn turn, double width, double height) {
     Q_UNREACHABLE();
 }
 
+PictogramGrid gridOf(const Pictogram& pictogram, double size) {
+    return {pictogram.width * size, pictogram.height * size, lineWidth(size)};
+}
+
 } // namespace
 
 namespace KeyPictograms {
@@ -88,12 +92,18 @@ double widthPerSize(const QString& cap) {
     return isSideways(pictogram.turn) ? pictogram.height : pictogram.width;
 }
 
+QSize inkSize(const QString& cap, double size) {
+    const Pictogram& pictogram = *pictogramOf(cap);
+    const PictogramGrid grid = gridOf(pictogram, size);
+    const QSize ink(grid.width(), grid.height());
+    return isSideways(pictogram.turn) ? ink.transposed() : ink;
+}
+
 Drawing drawing(const QString& cap, double size) {
     const Pictogram& pictogram = *pictogramOf(cap);
-    const PictogramGrid grid(pictogram.width * size, pictogram.height * size, lineWidth(size));
+    const PictogramGrid grid = gridOf(pictogram, size);
     const QTransform turn = turned(pictogram.turn, grid.width(), grid.height());
-    const QSize ink(grid.width(), grid.height());
-    return {isSideways(pictogram.turn) ? ink.transposed() : ink, turn.map(pictogram.draw(grid))};
+    return {inkSize(cap, size), turn.map(pictogram.draw(grid))};
 }
 
 } // namespace KeyPictograms

@@ -15,6 +15,9 @@ bool has(const QString& cap);
 /// How wide the drawing's ink is, in font sizes. Of a cap that is drawn.
 double widthPerSize(const QString& cap);
 
+/// How many pixels the drawing's ink fills for text of `size` device pixels. Of a cap that is drawn.
+QSize inkSize(const QString& cap, double size);
+
 struct Drawing {
     QSize size;        ///< the ink fills exactly this many pixels
     QPainterPath path; ///< to be filled, from the origin; straight lines lie on whole pixels
