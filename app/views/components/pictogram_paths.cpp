@@ -97,7 +97,8 @@ void arcOn(QPainterPath& path, QPointF centre, double radius, double from, doubl
 }
 
 /// A line along a part of the circle, with as few curves as that takes: documents tell each of them. The
-/// angles are in degrees, against the clock.
+/// angles are in degrees, against the clock. Drawn with the clock, as rectangles are, it joins what it
+/// touches.
 void addArc(QPainterPath& path, const QRectF& circle, double from, double sweep, double line) {
     const QPointF centre = circle.center();
     const double outer = (circle.width() + line) / 2;
@@ -276,12 +277,12 @@ QPainterPath loopedSquare(const PictogramGrid& grid) {
         path.addRect(side - line / 2, loop / 2, line, size - loop);
     }
     const auto addLoop = [&](double x, double y, double from) {
-        addArc(path, {x - radius, y - radius, 2 * radius, 2 * radius}, from, 270, line);
+        addArc(path, {x - radius, y - radius, 2 * radius, 2 * radius}, from, -270, line);
     };
-    addLoop(loop / 2, loop / 2, 0);
-    addLoop(size - loop / 2, loop / 2, 270);
-    addLoop(size - loop / 2, size - loop / 2, 180);
-    addLoop(loop / 2, size - loop / 2, 90);
+    addLoop(loop / 2, loop / 2, 270);
+    addLoop(size - loop / 2, loop / 2, 180);
+    addLoop(size - loop / 2, size - loop / 2, 90);
+    addLoop(loop / 2, size - loop / 2, 0);
     return path;
 }
 
