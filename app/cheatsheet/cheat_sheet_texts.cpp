@@ -1,31 +1,20 @@
 #include "cheat_sheet_texts.h"
 
+#include <quillon/app/languages/shown_numbers.h>
 #include <quillon/app/views/components/text.h>
 #include <quillon/kit/cheatsheet/cheat_sheet.h>
 #include <quillon/kit/shortcut/modifiers.h>
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <limits>
-
 namespace quillon::CheatSheetTexts {
-
-namespace {
-
-/// The number that chooses a plural form.
-int form(qint64 count) {
-    return static_cast<int>(std::clamp<qint64>(count, 0, std::numeric_limits<int>::max()));
-}
-
-} // namespace
 
 QString documentTitle(const QString& appName) {
     return QCoreApplication::translate("CheatSheet", "%1 Shortcuts").arg(appName).trimmed();
 }
 
 QString shortcuts(qint64 count) {
-    return QCoreApplication::translate("CheatSheet", "%1 shortcuts", nullptr, form(count)).arg(count);
+    return QCoreApplication::translate("CheatSheet", "%1 shortcuts", nullptr, pluralForm(count)).arg(count);
 }
 
 QString legend() {

@@ -2,6 +2,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <limits>
+
 namespace quillon {
 
 QString withOneDecimal(double number) {
@@ -9,6 +12,10 @@ QString withOneDecimal(double number) {
     //: A number with a decimal: %1 is what stands before the decimal mark, %2 what stands behind it.
     return QCoreApplication::translate("Numbers", "%1.%2")
         .arg(plain.section(u'.', 0, 0), plain.section(u'.', 1));
+}
+
+int pluralForm(qint64 count) {
+    return static_cast<int>(std::clamp<qint64>(count, 0, std::numeric_limits<int>::max()));
 }
 
 } // namespace quillon

@@ -37,7 +37,8 @@ QPrintDialog* makeDialog(QWidget& window, std::shared_ptr<QPrinter> printer, int
 } // namespace
 
 std::string SystemExports::fileName(const AppSheet& sheet) const {
-    const QString title = CheatSheetTexts::documentTitle(QString::fromStdString(sheet.appName));
+    const std::string& name = sheet.appName.empty() ? sheet.bundleID : sheet.appName;
+    const QString title = CheatSheetTexts::documentTitle(QString::fromStdString(name));
     return safeFileName(title, QStringLiteral(".pdf"), CheatSheetTexts::documentTitle({})).toStdString();
 }
 

@@ -16,7 +16,8 @@ QString typed();
 QString clicked();
 /// Under a week of the chart, short: "16 Nov"; in the order that the language of the program has.
 QString weekLabel(Day monday);
-/// The chart in words: "Week of 16 Nov: 3 clicked, 12 typed." for each week in which something was counted.
+/// The chart in words: "Week of 16 Nov: 3 clicked, 12 typed." for each week in which something was counted;
+/// "" when there is none.
 QString weeksInWords(const LearnedSummary& summary);
 /// "Graduated (3): Save, Open, Find" or how that is done.
 QString graduated(const LearnedSummary& summary);

@@ -18,6 +18,45 @@ constexpr int gap = 10;
 constexpr int inset = 6; ///< of the row's background
 constexpr double cornerRadius = 7;
 
+void paintBackground(QPainter& painter, const QStyleOptionViewItem& option, const Palette& palette) {
+    const bool isChosen = option.state.testFlag(QStyle::State_Selected);
+    const QRectF background = QRectF(option.rect).adjusted(inset, 1, -inset, -1);
+    if (isChosen || option.state.testFlag(QStyle::State_MouseOver)) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isChosen ? palette.primaryAt(0.12) : palette.hover);
+        painter.drawRoundedRect(background, cornerRadius, cornerRadius);
+    }
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        painter.setPen(QPen(palette.focusRing, 1.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(background.adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
+    }
+}
+
+/// A plain place where there is no icon.
+void paintIcon(QPainter& painter, const QRect& place, const QPixmap& icon, const Palette& palette) {
+    if (!icon.isNull()) {
+        painter.drawPixmap(place, icon);
+        return;
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.primaryAt(0.06));
+    painter.drawRoundedRect(place, cornerRadius, cornerRadius);
+}
+
+struct Line {
+    QString words;
+    QFont font;
+    QColor colour;
+};
+
+void paintLine(QPainter& painter, const QRect& place, Qt::Alignment where, const Line& line) {
+    painter.setFont(line.font);
+    painter.setPen(line.colour);
+    const QString shown = QFontMetrics(line.font).elidedText(line.words, Qt::ElideRight, place.width());
+    painter.drawText(place, static_cast<int>(where | Qt::AlignLeft) | Qt::TextSingleLine, shown);
+}
+
 } // namespace
 
 AppListDelegate::AppListDelegate(ThemeSource& themes, AppIconCache& icons, QObject* parent)
@@ -31,22 +70,11 @@ QSize AppListDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&)
 
 void AppListDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const Theme& theme = m_themes.theme();
-    const Palette& palette = theme.palette;
-    const bool isChosen = option.state.testFlag(QStyle::State_Selected);
+    const Palette& palette = m_themes.theme().palette;
+    const TextStyles& styles = m_themes.theme().styles;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    const QRectF background = QRectF(option.rect).adjusted(inset, 1, -inset, -1);
-    if (isChosen || option.state.testFlag(QStyle::State_MouseOver)) {
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(isChosen ? palette.primaryAt(0.12) : palette.hover);
-        painter->drawRoundedRect(background, cornerRadius, cornerRadius);
-    }
-    if (option.state.testFlag(QStyle::State_HasFocus)) {
-        painter->setPen(QPen(palette.focusRing, 1.5));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(background.adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
-    }
+    paintBackground(*painter, option, palette);
 
     painter->setLayoutDirection(option.direction);
     const QRect row =
@@ -54,29 +82,17 @@ void AppListDelegate::paint(
     const auto mirrored = [&](const QRect& place) {
         return QStyle::visualRect(option.direction, option.rect, place);
     };
-    const QRect icon = mirrored(QRect(row.left(), row.center().y() - iconSize / 2, iconSize, iconSize));
     const std::string bundleID = index.data(AppListModel::bundleRole).toString().toStdString();
-    if (const QPixmap pixmap = m_icons.pixmap(bundleID, iconSize, painter->device()->devicePixelRatioF());
-        !pixmap.isNull()) {
-        painter->drawPixmap(icon, pixmap);
-    } else {
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(palette.primaryAt(0.06));
-        painter->drawRoundedRect(icon, cornerRadius, cornerRadius);
-    }
+    const QRect icon(row.left(), row.center().y() - iconSize / 2, iconSize, iconSize);
+    paintIcon(
+        *painter, mirrored(icon), m_icons.pixmap(bundleID, iconSize, painter->device()->devicePixelRatioF()),
+        palette);
 
     const QRect text = mirrored(row.adjusted(iconSize + gap, 0, 0, 0));
-    const auto line = [&](const QFont& font, const QColor& colour, const QString& words,
-                          Qt::Alignment where) {
-        painter->setFont(font);
-        painter->setPen(colour);
-        const QString shown = QFontMetrics(font).elidedText(words, Qt::ElideRight, text.width());
-        painter->drawText(text, static_cast<int>(where | Qt::AlignLeft) | Qt::TextSingleLine, shown);
-    };
-    line(theme.styles.body, palette.primary, index.data().toString(), Qt::AlignTop);
-    line(
-        theme.styles.caption, palette.secondary, index.data(AppListModel::captionRole).toString(),
-        Qt::AlignBottom);
+    paintLine(*painter, text, Qt::AlignTop, {index.data().toString(), styles.body, palette.primary});
+    paintLine(
+        *painter, text, Qt::AlignBottom,
+        {index.data(AppListModel::captionRole).toString(), styles.caption, palette.secondary});
     painter->restore();
 }
 

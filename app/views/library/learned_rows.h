@@ -8,7 +8,8 @@
 
 namespace quillon {
 
-/// The foot of an application's page: what its user learned.
+/// The foot of an application's page: what its user learned. Without a chart where none of its weeks has a
+/// count.
 std::vector<LibraryRow> learnedRows(const LearnedSummary& summary);
 
 } // namespace quillon

@@ -1,19 +1,15 @@
 #include "library_texts.h"
 
+#include <quillon/app/languages/shown_numbers.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace quillon::LibraryTexts {
 
 namespace {
-
-/// The number that chooses a plural form.
-int form(qint64 count) {
-    return static_cast<int>(std::clamp<qint64>(count, 0, std::numeric_limits<int>::max()));
-}
 
 /// How a length of time is told in one unit: up to the next one.
 struct AgeUnit {
@@ -51,7 +47,7 @@ QString shortcutsName(const QString& appName) {
 }
 
 QString shortcuts(qint64 count) {
-    return QCoreApplication::translate("Library", "%1 shortcuts", nullptr, form(count)).arg(count);
+    return QCoreApplication::translate("Library", "%1 shortcuts", nullptr, pluralForm(count)).arg(count);
 }
 
 QString ago(Seconds age) {
@@ -62,20 +58,21 @@ QString ago(Seconds age) {
     const auto count = static_cast<qint64>(age.count() / unit->seconds);
     if (count == 1)
         return QCoreApplication::translate("Library", unit->one);
-    return QCoreApplication::translate("Library", unit->many, nullptr, form(count)).arg(count);
+    return QCoreApplication::translate("Library", unit->many, nullptr, pluralForm(count)).arg(count);
 }
 
 QString statistics(qint64 count, const QString& ago) {
-    return QCoreApplication::translate("Library", "%1 shortcuts · menus read %2", nullptr, form(count))
+    return QCoreApplication::translate("Library", "%1 shortcuts · menus read %2", nullptr, pluralForm(count))
         .arg(QString::number(count), ago);
 }
 
 QString menuClicks(Count clicks) {
-    return QCoreApplication::translate("Library", "%1 menu clicks", nullptr, form(clicks)).arg(clicks);
+    return QCoreApplication::translate("Library", "%1 menu clicks", nullptr, pluralForm(clicks)).arg(clicks);
 }
 
 QString shortcutsTyped(Count typed) {
-    return QCoreApplication::translate("Library", "%1 shortcuts typed", nullptr, form(typed)).arg(typed);
+    return QCoreApplication::translate("Library", "%1 shortcuts typed", nullptr, pluralForm(typed))
+        .arg(typed);
 }
 
 QString learnNext() {

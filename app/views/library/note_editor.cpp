@@ -14,7 +14,6 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 #include <cmath>
 
@@ -47,10 +46,22 @@ NoteEditor::NoteEditor(ThemeSource& themes, const QString& title, const QString&
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setAccessibleName(LibraryTexts::noteFor(title));
-    auto* const heading = new ThemedLabel(
-        themes, [](const TextStyles& styles) { return styles.headline; }, &Palette::primary, this);
-    heading->setText(LibraryTexts::noteFor(title));
+    setUpField(title, note);
 
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
+    column->setSpacing(spacing);
+    addTexts(*column, title);
+    addButtons(*column);
+    saveOnCtrlReturn();
+
+    m_themeChange = themes.changed.subscribe([this] { wearTheme(); });
+    wearTheme();
+    resize(firstSize());
+    m_field->setFocus();
+}
+
+void NoteEditor::setUpField(const QString& title, const QString& note) {
     m_field->setPlaceholderText(LibraryTexts::notePlaceholder());
     m_field->setAccessibleName(LibraryTexts::noteFor(title));
     m_field->setAccessibleDescription(LibraryTexts::notePlaceholder());
@@ -60,41 +71,47 @@ NoteEditor::NoteEditor(ThemeSource& themes, const QString& title, const QString&
     m_field->setMinimumSize(smallestField);
     m_field->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_field, &QPlainTextEdit::customContextMenuRequested, this, &NoteEditor::showMenu);
+}
 
-    auto* const cancel = new PlainButton(themes, LibraryTexts::cancel(), this);
-    auto* const keep = new ProminentButton(themes, LibraryTexts::save(), this);
-    keep->setDefault(true);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(keep, &QPushButton::clicked, this, &NoteEditor::save);
-    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* const keys = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(key)), this);
-        connect(keys, &QShortcut::activated, this, &NoteEditor::save);
-    }
-
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(betweenButtons);
-    buttons->addStretch(1);
-    buttons->addWidget(cancel);
-    buttons->addWidget(keep);
+void NoteEditor::addTexts(QVBoxLayout& column, const QString& title) {
+    auto* const heading = new ThemedLabel(
+        m_themes, [](const TextStyles& styles) { return styles.headline; }, &Palette::primary, this);
+    heading->setText(LibraryTexts::noteFor(title));
     auto* const texts = new QVBoxLayout;
+    column.addLayout(texts, 1);
     texts->setContentsMargins(0, 0, focusRingRoom, 0);
     texts->setSpacing(spacing);
     texts->addWidget(heading);
     texts->addWidget(m_field, 1);
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, padding, padding - focusRingRoom, padding - focusRingRoom);
-    column->setSpacing(spacing);
-    column->addLayout(texts, 1);
-    column->addLayout(buttons);
+}
 
-    m_themeChange = themes.changed.subscribe([this] { wearTheme(); });
-    wearTheme();
-    const double em = pixelSize(themes.theme().styles.body);
-    resize(
-        static_cast<int>(std::lround(fieldEms * em)),
-        sizeHint().height() - m_field->sizeHint().height()
-            + static_cast<int>(std::lround(fieldLines * QFontMetricsF(m_field->font()).lineSpacing())));
-    m_field->setFocus();
+void NoteEditor::addButtons(QVBoxLayout& column) {
+    auto* const cancel = new PlainButton(m_themes, LibraryTexts::cancel(), this);
+    auto* const keep = new ProminentButton(m_themes, LibraryTexts::save(), this);
+    keep->setDefault(true);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(keep, &QPushButton::clicked, this, &NoteEditor::save);
+    auto* const buttons = new QHBoxLayout;
+    column.addLayout(buttons);
+    buttons->setSpacing(betweenButtons);
+    buttons->addStretch(1);
+    buttons->addWidget(cancel);
+    buttons->addWidget(keep);
+}
+
+void NoteEditor::saveOnCtrlReturn() {
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* const keys = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(key)), this);
+        connect(keys, &QShortcut::activated, this, &NoteEditor::save);
+    }
+}
+
+/// With room in the field for a few lines of a usual length.
+QSize NoteEditor::firstSize() const {
+    const double width = fieldEms * pixelSize(m_themes.theme().styles.body);
+    const double field = fieldLines * QFontMetricsF(m_field->font()).lineSpacing();
+    const int others = sizeHint().height() - m_field->sizeHint().height();
+    return {static_cast<int>(std::lround(width)), others + static_cast<int>(std::lround(field))};
 }
 
 void NoteEditor::save() {

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QPlainTextEdit>
+#include <QVBoxLayout>
 
 namespace quillon {
 
@@ -22,6 +23,12 @@ class NoteEditor : public QDialog {
     void saved(const QString& note);
 
   private:
+    void setUpField(const QString& title, const QString& note);
+    void addTexts(QVBoxLayout& column, const QString& title);
+    void addButtons(QVBoxLayout& column);
+    void saveOnCtrlReturn();
+    QSize firstSize() const;
+
     void save();
     void wearTheme();
     void showMenu(const QPoint& position);

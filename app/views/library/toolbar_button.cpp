@@ -36,10 +36,9 @@ ToolbarButton::ToolbarButton(ThemeSource& themes, Symbol symbol, const QString& 
 QSize ToolbarButton::sizeHint() const {
     const Theme& theme = m_themes.theme();
     const QFontMetrics metrics(labelFont(theme.styles));
-    const int arrow = menu() ? gap + arrowWidth : 0;
     return {
         2 * (focusRingRoom + sidePadding) + theme.symbolSize() + gap + metrics.horizontalAdvance(text())
-            + arrow,
+            + arrowRoom(),
         2 * (focusRingRoom + verticalPadding) + metrics.height()};
 }
 
@@ -50,44 +49,68 @@ ThemedButton::Colours ToolbarButton::colours(const Palette& palette) const {
 void ToolbarButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const Theme& theme = m_themes.theme();
     const QRectF body = QRectF(rect()).adjusted(focusRingRoom, focusRingRoom, -focusRingRoom, -focusRingRoom);
     if (hasFocus()) {
-        painter.setPen(QPen(theme.palette.focusRing, 1.5));
+        painter.setPen(QPen(m_themes.theme().palette.focusRing, 1.5));
         painter.drawRoundedRect(body.adjusted(-2.25, -2.25, 2.25, 2.25), cornerRadius + 2, cornerRadius + 2);
     }
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);
-    const Colours look = colours(theme.palette);
+    paintBody(painter, body.adjusted(0.5, 0.5, -0.5, -0.5));
+    paintSymbol(painter);
+    paintLabel(painter);
+    if (menu())
+        paintMenuArrow(painter);
+}
+
+void ToolbarButton::paintBody(QPainter& painter, const QRectF& edge) const {
+    const Palette& palette = m_themes.theme().palette;
+    const Colours look = colours(palette);
     painter.setPen(QPen(look.border, 1));
     painter.setBrush(look.fill);
-    const QRectF edge = body.adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(edge, cornerRadius - 0.5, cornerRadius - 0.5);
     if (isDown() || (underMouse() && isEnabled())) {
-        painter.setBrush(theme.palette.primaryAt(isDown() ? 0.14 : 0.05));
+        painter.setBrush(palette.primaryAt(isDown() ? 0.14 : 0.05));
         painter.drawRoundedRect(edge, cornerRadius - 0.5, cornerRadius - 0.5);
     }
+}
 
-    const QRect inner = rect().adjusted(focusRingRoom + sidePadding, 0, -focusRingRoom - sidePadding, 0);
-    const auto mirrored = [&](const QRect& place) {
-        return QStyle::visualRect(layoutDirection(), inner, place);
-    };
+void ToolbarButton::paintSymbol(QPainter& painter) const {
+    const Theme& theme = m_themes.theme();
+    const QRect inner = contents();
     const int size = theme.symbolSize();
-    const QRect symbol(inner.left(), inner.top() + (inner.height() - size) / 2, size, size);
+    const QRect place(inner.left(), inner.top() + (inner.height() - size) / 2, size, size);
     painter.drawPixmap(
-        mirrored(symbol).topLeft(),
+        mirrored(place).topLeft(),
         symbolPixmap(m_symbol, size, theme.palette.secondary, devicePixelRatioF(), layoutDirection()));
-    const int arrow = menu() ? gap + arrowWidth : 0;
+}
+
+void ToolbarButton::paintLabel(QPainter& painter) const {
+    const Theme& theme = m_themes.theme();
+    const QRect place = contents().adjusted(theme.symbolSize() + gap, 0, -arrowRoom(), 0);
     painter.setFont(labelFont(theme.styles));
-    painter.setPen(look.text);
-    painter.drawText(
-        mirrored(inner.adjusted(size + gap, 0, -arrow, 0)), Qt::AlignCenter | Qt::TextDontClip, text());
-    if (menu()) {
-        const QRect place(inner.right() + 1 - arrowWidth, inner.top(), arrowWidth, inner.height());
-        painter.setPen(QPen(theme.palette.secondary, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.setBrush(Qt::NoBrush);
-        paintArrow(painter, QRectF(mirrored(place)).center());
-    }
+    painter.setPen(colours(theme.palette).text);
+    painter.drawText(mirrored(place), Qt::AlignCenter | Qt::TextDontClip, text());
+}
+
+void ToolbarButton::paintMenuArrow(QPainter& painter) const {
+    const QRect inner = contents();
+    const QRect place(inner.right() + 1 - arrowWidth, inner.top(), arrowWidth, inner.height());
+    painter.setPen(QPen(m_themes.theme().palette.secondary, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    paintArrow(painter, QRectF(mirrored(place)).center());
+}
+
+QRect ToolbarButton::contents() const {
+    return rect().adjusted(focusRingRoom + sidePadding, 0, -focusRingRoom - sidePadding, 0);
+}
+
+QRect ToolbarButton::mirrored(const QRect& place) const {
+    return QStyle::visualRect(layoutDirection(), contents(), place);
+}
+
+int ToolbarButton::arrowRoom() const {
+    return menu() ? gap + arrowWidth : 0;
 }
 
 } // namespace quillon

@@ -20,6 +20,17 @@ class ToolbarButton : public ThemedButton {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void paintBody(QPainter& painter, const QRectF& edge) const;
+    void paintSymbol(QPainter& painter) const;
+    void paintLabel(QPainter& painter) const;
+    void paintMenuArrow(QPainter& painter) const;
+    /// Where symbol, label and arrow are.
+    QRect contents() const;
+    /// A place among the contents, on the other side where people read from right to left.
+    QRect mirrored(const QRect& place) const;
+    /// What the arrow takes, with its distance from the label; 0 without a menu.
+    int arrowRoom() const;
+
     ThemeSource& m_themes;
     Symbol m_symbol;
 };

@@ -1,18 +1,16 @@
 #include "overlay_texts.h"
 
-#include <QCoreApplication>
+#include <quillon/app/languages/shown_numbers.h>
 
-#include <algorithm>
-#include <limits>
+#include <QCoreApplication>
 
 namespace quillon::OverlayTexts {
 
 namespace {
 
-/// For the choice of a plural form; the number itself is written by `%1`.
-template <class Number>
-int plural(Number count) {
-    return static_cast<int>(std::min<Number>(count, std::numeric_limits<int>::max()));
+/// For the choice of a plural form.
+int formOf(std::size_t count) {
+    return pluralForm(static_cast<qint64>(count));
 }
 
 MessageWords needsAccessibility(const Vocabulary& vocabulary) {
@@ -86,12 +84,12 @@ MessageWords nothingMatches(const QString& query) {
 }
 
 QString allShortcuts(std::size_t count) {
-    return QCoreApplication::translate("Overlay", "%1 shortcuts from its menus", nullptr, plural(count))
+    return QCoreApplication::translate("Overlay", "%1 shortcuts from its menus", nullptr, formOf(count))
         .arg(count);
 }
 
 QString someShortcuts(std::size_t found, std::size_t count) {
-    return QCoreApplication::translate("Overlay", "%1 of %2 shortcuts", nullptr, plural(count))
+    return QCoreApplication::translate("Overlay", "%1 of %2 shortcuts", nullptr, formOf(count))
         .arg(found)
         .arg(count);
 }
@@ -116,12 +114,13 @@ QString pinned() {
 }
 
 QString badge(qint64 clicked) {
-    return QCoreApplication::translate("Overlay", "clicked %1 times", nullptr, plural(clicked)).arg(clicked);
+    return QCoreApplication::translate("Overlay", "clicked %1 times", nullptr, pluralForm(clicked))
+        .arg(clicked);
 }
 
 QString spokenBadge(qint64 clicked) {
     return QCoreApplication::translate(
-               "Overlay", "You clicked this in the menu %1 times", nullptr, plural(clicked))
+               "Overlay", "You clicked this in the menu %1 times", nullptr, pluralForm(clicked))
         .arg(clicked);
 }
 

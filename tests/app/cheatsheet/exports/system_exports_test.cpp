@@ -35,10 +35,21 @@ class SystemExportsTest : public testing::Test {
 TEST_F(SystemExportsTest, ADocumentIsOfferedUnderTheApplicationsName) {
     EXPECT_EQ(exports->fileName(sample.sheet), "Sketchpad Shortcuts.pdf");
     EXPECT_EQ(exports->fileName(emptySheet("a/b\n").sheet), "a-b Shortcuts.pdf");
-    EXPECT_EQ(exports->fileName(emptySheet("").sheet), "Shortcuts.pdf");
+    EXPECT_EQ(exports->fileName(AppSheet()), "Shortcuts.pdf");
     const std::string longest = exports->fileName(emptySheet(std::string(400, 'x')).sheet);
     EXPECT_LE(longest.size(), 255U);
     EXPECT_TRUE(longest.ends_with(".pdf"));
+}
+
+TEST_F(SystemExportsTest, AnApplicationWithoutANameLendsItsIdentifierToFileAndDocument) {
+    AnnotatedSheet nameless = sample;
+    nameless.sheet.bundleID = "org.example.Nameless";
+    nameless.sheet.appName.clear();
+    EXPECT_EQ(exports->fileName(nameless.sheet), "org.example.Nameless Shortcuts.pdf");
+    const auto document = exports->pdf({nameless.sheet, nameless.annotations});
+    ASSERT_TRUE(document);
+    EXPECT_EQ(
+        PdfTools(QByteArray::fromStdString(*document)).info(u"Title"_s), u"org.example.Nameless Shortcuts"_s);
 }
 
 TEST_F(SystemExportsTest, ADocumentIsMadeAndKept) {

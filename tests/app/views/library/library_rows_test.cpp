@@ -146,5 +146,17 @@ TEST(LearnedRows, AreAHeadingTheChartAndWhatToSayOfIt) {
         << "nothing was typed";
 }
 
+TEST(LearnedRows, LeaveAnEmptyChartOut) {
+    const LearnedSummary longAgo{
+        .weeks = {{Day(std::chrono::local_days{std::chrono::year{2026} / 11 / 16})}},
+        .graduated = {u"Save"_s},
+        .typed = 12};
+    const auto rows = learnedRows(longAgo);
+    ASSERT_EQ(rows.size(), 3U);
+    for (const LibraryRow& row : rows)
+        EXPECT_FALSE(row.text.isEmpty()) << "every row has something to read aloud";
+    EXPECT_EQ(rows[1].text, u"Graduated (1): Save"_s);
+}
+
 } // namespace
 } // namespace quillon

@@ -89,9 +89,8 @@ TEST_F(LibraryToolbarTest, MarkdownGoesToTheClipboard) {
         "- **⌃S** Open\n"_s);
     desk.model.setKeyLabels(KeyLabels::names);
     pick(2);
-    EXPECT_TRUE(
-        QApplication::clipboard()->text().contains(u"- **Ctrl S** Open"_s)
-        || QApplication::clipboard()->text().contains(u"- **Ctrl+S** Open"_s))
+    EXPECT_TRUE(QApplication::clipboard()->text().endsWith(
+        u"\n## File\n\n- **Ctrl S** Save\n  - often\n- **Ctrl S** Open\n"_s))
         << QApplication::clipboard()->text().toStdString();
 }
 
