@@ -48,8 +48,8 @@ void AnswerInput::stop() {
     m_reading.reset();
 }
 
-void AnswerInput::setWaiting(bool waiting) {
-    m_isWaiting = waiting;
+void AnswerInput::setQuestion(Question question) {
+    m_question = question;
     m_isResting = false;
     m_escape.reset();
     follow();
@@ -66,8 +66,9 @@ Grip AnswerInput::grip() const {
 
 /// Takes the keyboard, or gives it back, as it is due now.
 void AnswerInput::follow() {
-    const bool isDue = m_isListening && (m_isWaiting || m_answeringKey) && !m_isLetGo && !m_isResting
-                       && m_view.window()->isActiveWindow() && !QApplication::activePopupWidget();
+    const bool isDue = m_isListening && (m_question == Question::waiting || m_answeringKey) && !m_isLetGo
+                       && !m_isResting && m_view.window()->isActiveWindow()
+                       && !QApplication::activePopupWidget();
     if (!isDue) {
         m_grab.reset();
         setGrip(false, m_isLetGo);
@@ -127,16 +128,20 @@ bool AnswerInput::eventFilter(QObject* watched, QEvent* event) {
     return widget && widget->window() == m_view.window() && takes(*static_cast<QKeyEvent*>(event));
 }
 
+/// Whether the window and its shortcuts are not to see this.
 bool AnswerInput::takes(QKeyEvent& key) {
+    bool isTaken = false;
     switch (key.type()) {
-    case QEvent::KeyPress: stirred(); return key.isAutoRepeat() ? takesRepeat(key) : takesPress(key);
-    case QEvent::KeyRelease: released(key); return false;
-    default: break;
+    case QEvent::KeyPress:
+        stirred();
+        isTaken = key.isAutoRepeat() ? takesRepeat(key) : takesPress(key);
+        break;
+    case QEvent::KeyRelease: released(key); break;
+    default: isTaken = isKept(key); break;
     }
-    if (!m_isWaiting || !answer(key))
-        return false;
-    key.accept();
-    return true;
+    if (isTaken)
+        key.accept();
+    return isTaken;
 }
 
 /// The toolkit takes the keyboard for its menus, and gives it back for the whole program after them.
@@ -161,8 +166,8 @@ std::optional<KeyStroke> AnswerInput::answer(const QKeyEvent& press) const {
 }
 
 bool AnswerInput::takesPress(const QKeyEvent& press) {
-    if (!m_isWaiting)
-        return false;
+    if (m_question != Question::waiting)
+        return isKept(press);
     if (isPlainEscape(press)) {
         beginToLetGo();
         return true;
@@ -182,8 +187,13 @@ bool AnswerInput::takesRepeat(const QKeyEvent& press) const {
     case Qt::Key_Enter:
     case Qt::Key_Space:
     case Qt::Key_Escape: return true;
-    default: return m_answeringKey == press.nativeScanCode() || (m_isWaiting && answer(press));
+    default: return isKept(press);
     }
+}
+
+/// Whether the press is the question's, or was until just now.
+bool AnswerInput::isKept(const QKeyEvent& press) const {
+    return m_answeringKey == press.nativeScanCode() || (m_question != Question::none && answer(press));
 }
 
 void AnswerInput::released(const QKeyEvent& release) {

@@ -200,7 +200,10 @@ void PracticeView::record(const PracticeResult& result) {
 }
 
 void PracticeView::refresh() {
-    m_input.setWaiting(m_round.isWaiting());
+    m_input.setQuestion(
+        !m_round.question()   ? Question::none
+        : m_round.isWaiting() ? Question::waiting
+                              : Question::answered);
     if (m_round.isOver()) {
         m_results->show(m_round);
         showPage(m_results);
