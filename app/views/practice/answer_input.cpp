@@ -56,7 +56,7 @@ void AnswerInput::setQuestion(Question question) {
 }
 
 void AnswerInput::beginRound() {
-    m_isLetGo = false;
+    setGrip(m_isTaken, false);
     follow();
 }
 

@@ -285,6 +285,19 @@ TEST_F(AnswerInputTest, WhatWasLetGoIsTakenWithTheNextRound) {
     EXPECT_EQ(input.grip(), Grip::allKeys);
 }
 
+TEST_F(AnswerInputTest, WithTheNextRoundItIsNotSaidToBeLetGoOf) {
+    ask();
+    press(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(1.1));
+    std::vector<Grip> told;
+    QObject::connect(&input, &AnswerInput::gripChanged, [&] { told.push_back(input.grip()); });
+    desktop.keyboardGrab.keep();
+    input.beginRound();
+    EXPECT_THAT(told, ElementsAre(Grip::someKeys)) << "until the desktop gives it";
+    desktop.keyboardGrab.give();
+    EXPECT_THAT(told, ElementsAre(Grip::someKeys, Grip::allKeys));
+}
+
 TEST_F(AnswerInputTest, WhoIsGoneLeavesTheKeyboardToTheScreenLocker) {
     ask();
     desktop.timers.advance(Seconds(20));
