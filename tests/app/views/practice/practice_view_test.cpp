@@ -2,6 +2,7 @@
 
 #include <quillon/app/views/practice/keyboard_view.h>
 #include <quillon/kit/menu/sample_menus.h>
+#include <quillon/tests/app/views/support/read_app.h>
 
 #include <QKeyEvent>
 #include <QShortcut>
@@ -241,6 +242,34 @@ TEST_F(PracticeViewTest, AnAppWithoutPractisableShortcutsIsSaidSo) {
     QApplication::processEvents();
     QTest::mouseClick(view->findChild<QAbstractButton*>(), Qt::LeftButton);
     EXPECT_THAT(texts(), Contains(u"Writer has no shortcuts to practise."_s));
+}
+
+TEST_F(PracticeViewTest, ApplicationsAreSortedAsPeopleDo) {
+    read(3, "App 10", menusWith({command("Save", "S")}));
+    read(4, "geany", menusWith({command("Save", "S")}));
+    read(5, "GIMP", menusWith({command("Save", "S")}));
+    read(6, "App 9", menusWith({command("Save", "S")}));
+    open();
+    const auto& apps = *view->findChild<QComboBox*>();
+    QStringList names;
+    for (int index = 0; index < apps.count(); ++index)
+        names.append(apps.itemText(index));
+    EXPECT_THAT(names, ElementsAre(u"App 9"_s, u"App 10"_s, u"geany"_s, u"GIMP"_s));
+}
+
+TEST_F(PracticeViewTest, AnAppWithoutANameIsCalledByItsIdentifier) {
+    readApp(
+        desk, {.bundleID = "org.example.nameless",
+               .appName = {},
+               .entries = {{{"File", "Save"}, {Modifiers::control, Key::character("S")}, true}}});
+    view = new PracticeView(
+        desk.model, desk.themes, keyboard(),
+        [](const auto&, const auto&, const auto&) { return std::vector<MenuEntry>(); }, &window);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(view->findChild<QComboBox*>()->itemText(0), u"org.example.nameless"_s);
+    QTest::mouseClick(view->findChild<QAbstractButton*>(), Qt::LeftButton);
+    EXPECT_THAT(texts(), Contains(u"org.example.nameless has no shortcuts to practise."_s));
 }
 
 TEST_F(PracticeViewTest, ErasingEverythingLeavesNothingToPractise) {
