@@ -203,6 +203,18 @@ void PracticeView::refresh() {
     takeFocus();
 }
 
+/// Return does what comes next wherever else the keyboard is, but gives no answer away.
+void PracticeView::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (!isReturn || !isPlain || !m_round.isDrawn() || m_round.isWaiting())
+        ThemedWidget::keyPressEvent(event);
+    else if (m_round.isOver())
+        newRound();
+    else
+        pressButton();
+}
+
 /// Return does what comes next, and a question is read aloud.
 void PracticeView::takeFocus() {
     if (m_round.isOver())

@@ -244,6 +244,27 @@ TEST_F(PracticeViewTest, AnAppWithoutPractisableShortcutsIsSaidSo) {
     EXPECT_THAT(texts(), Contains(u"Writer has no shortcuts to practise."_s));
 }
 
+TEST_F(PracticeViewTest, ReturnGoesOnWhereverElseTheKeyboardIs) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    appPicker().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(view->round().isWaiting()) << "it gives no answer away";
+    press(Qt::Key_S, Qt::ControlModifier);
+    appPicker().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(view->round().index(), 1U);
+    press(Qt::Key_S, Qt::ControlModifier);
+    appPicker().setFocus();
+    press(Qt::Key_Enter);
+    EXPECT_TRUE(view->round().isOver());
+    appPicker().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(view->round().isWaiting());
+    EXPECT_EQ(view->round().index(), 0U);
+}
+
 TEST_F(PracticeViewTest, ApplicationsAreSortedAsPeopleDo) {
     read(3, "App 10", menusWith({command("Save", "S")}));
     read(4, "geany", menusWith({command("Save", "S")}));
