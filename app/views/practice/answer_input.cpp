@@ -134,10 +134,13 @@ bool AnswerInput::takes(QKeyEvent& key) {
     switch (key.type()) {
     case QEvent::KeyPress:
         stirred();
-        isTaken = key.isAutoRepeat() ? takesRepeat(key) : takesPress(key);
+        isTaken = repeats(key) ? takesRepeat(key) : takesPress(key);
         break;
     case QEvent::KeyRelease: released(key); break;
-    default: isTaken = isKept(key); break;
+    default:
+        repeats(key);
+        isTaken = isKept(key);
+        break;
     }
     if (isTaken)
         key.accept();
@@ -152,6 +155,7 @@ void AnswerInput::popupCameOrWent() {
 }
 
 void AnswerInput::windowLeft() {
+    m_release = {};
     m_escape.reset();
     m_absence.reset();
     m_isResting = false;
@@ -199,18 +203,42 @@ bool AnswerInput::isKept(const QKeyEvent& press) const {
 void AnswerInput::released(const QKeyEvent& release) {
     if (release.isAutoRepeat())
         return;
+    const std::uint32_t key = release.nativeScanCode();
+    // The same one comes to a widget and then to those that it is in.
+    if (m_release.key != key || m_release.time != release.timestamp())
+        m_release = {key, release.timestamp(), m_answeringKey == key};
     if (release.key() == Qt::Key_Escape)
-        m_escape.reset();
-    if (m_answeringKey == release.nativeScanCode()) {
+        m_isEscapeDown = false;
+    if (m_answeringKey == key) {
         m_answeringKey.reset();
         follow();
     }
 }
 
+/// Whether a press is that of a held key again. A release at its very same time was none: on a busy machine
+/// the toolkit sees that too late to mark the two as repetitions.
+bool AnswerInput::repeats(const QKeyEvent& press) {
+    if (press.isAutoRepeat())
+        return true;
+    const std::uint32_t key = press.nativeScanCode();
+    if (press.timestamp() == 0 || m_release.time != press.timestamp() || m_release.key != key)
+        return false;
+    if (press.key() == Qt::Key_Escape)
+        m_isEscapeDown = true;
+    if (m_release.wasAnswer && !m_answeringKey) {
+        m_answeringKey = key;
+        follow();
+    }
+    return true;
+}
+
 void AnswerInput::beginToLetGo() {
     if (grip() != Grip::allKeys)
         return;
+    m_isEscapeDown = true;
     m_escape = m_needs.timers.after(letGoAfter, [this] {
+        if (!m_isEscapeDown)
+            return;
         m_grab.reset();
         setGrip(false, true);
     });

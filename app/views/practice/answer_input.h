@@ -80,6 +80,7 @@ class AnswerInput : public QObject {
     bool takesRepeat(const QKeyEvent& press) const;
     bool isKept(const QKeyEvent& press) const;
     void released(const QKeyEvent& release);
+    bool repeats(const QKeyEvent& press);
     void beginToLetGo();
     std::optional<KeyStroke> answer(const QKeyEvent& press) const;
 
@@ -93,9 +94,17 @@ class AnswerInput : public QObject {
     /// The key that gave the answer, until it comes up: what its repetitions would do to this window, or to a
     /// desktop that has the keyboard back, is nobody's wish.
     std::optional<std::uint32_t> m_answeringKey;
+    /// What last came up, at which time, and whether it had given the answer.
+    struct Release {
+        std::uint32_t key = 0;
+        std::uint64_t time = 0;
+        bool wasAnswer = false;
+    };
+    Release m_release;
+    bool m_isEscapeDown = false;
     Subscription m_reading;
     Subscription m_grab;
-    Subscription m_escape;  ///< while Esc is held
+    Subscription m_escape;  ///< since Esc was pressed
     Subscription m_absence; ///< while the keyboard is taken
 };
 

@@ -95,6 +95,15 @@ class AnswerInputTest : public testing::Test {
         QTest::simulateEvent(&button, true, Qt::Key_W, Qt::ControlModifier, {}, isRepeat);
     }
     void releaseClose() { QTest::simulateEvent(&button, false, Qt::Key_W, Qt::ControlModifier, {}, false); }
+    /// As the toolkit tells it when it does not notice in time that a key repeats.
+    void repeatUnmarked(std::uint32_t place, int key, Modifiers held = {}) {
+        ++time;
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::ShortcutOverride, QEvent::KeyPress}) {
+            QKeyEvent part = event(type, place, key, held);
+            part.setTimestamp(time);
+            QApplication::sendEvent(&button, &part);
+        }
+    }
     void leaveWindow() {
         QWidget other;
         other.show();
@@ -111,6 +120,7 @@ class AnswerInputTest : public testing::Test {
     bool isAnsweredOnce = false;
     int clicks = 0;
     int closings = 0;
+    quint64 time = 1000; ///< of events that have one
 };
 
 TEST_F(AnswerInputTest, APressIsReadByItsPlaceAndWhatIsHeld) {
@@ -189,6 +199,32 @@ TEST_F(AnswerInputTest, HeldKeysAnswerOnceAndPressNoButton) {
     press(keyReturn, Qt::Key_Return, {}, true);
     press(65, Qt::Key_Space, {}, true);
     EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(AnswerInputTest, ARepetitionIsOneWithoutAMark) {
+    ask();
+    press(letterS, Qt::Key_S, Modifiers::control);
+    input.setQuestion(Question::waiting);
+    repeatUnmarked(letterS, Qt::Key_S, Modifiers::control);
+    EXPECT_THAT(answers, ElementsAre("⌃s")) << "of the next question";
+    input.setQuestion(Question::none);
+    button.keys.clear();
+    repeatUnmarked(letterS, Qt::Key_S, Modifiers::control);
+    EXPECT_THAT(button.keys, IsEmpty());
+    EXPECT_TRUE(desktop.keyboardGrab.isTaken());
+    repeatUnmarked(keyReturn, Qt::Key_Return);
+    EXPECT_THAT(button.keys, IsEmpty());
+}
+
+TEST_F(AnswerInputTest, HoldingEscapeLetsGoWithoutMarksToo) {
+    ask();
+    press(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(0.7));
+    repeatUnmarked(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(0.2));
+    repeatUnmarked(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(0.2));
+    EXPECT_EQ(input.grip(), Grip::letGo);
 }
 
 TEST_F(AnswerInputTest, TheKeyboardIsTakenWhileAQuestionWaits) {
