@@ -4,6 +4,7 @@
 #include "key_pictograms.h"
 
 #include <QFontMetricsF>
+#include <QTextBoundaryFinder>
 #include <QTextOption>
 
 #include <algorithm>
@@ -28,6 +29,9 @@ bool isSign(QChar character) {
     return !isArrow(character) && KeyPictograms::has(character);
 }
 
+constexpr QTextOption::WrapMode wrapped = QTextOption::WrapAtWordBoundaryOrAnywhere;
+constexpr QChar ellipsis = u'…';
+
 /// Without limits where lines are not to end.
 constexpr double endless = 1e6;
 
@@ -37,7 +41,7 @@ bool KeyedText::isNeededFor(const QString& text) {
     return std::ranges::any_of(text, isSign);
 }
 
-KeyedText::KeyedText(const QString& text, const QFont& font) : m_text(text), m_font(font) {
+KeyedText::KeyedText(const QString& text, const QFont& font) : m_whole(text), m_text(text), m_font(font) {
     const double letter = QFontMetricsF(font).horizontalAdvance(placeholder);
     for (int at = 0; at < text.size(); ++at) {
         if (!isSign(text[at]))
@@ -84,9 +88,35 @@ double KeyedText::width() const {
 double KeyedText::height(double width) const {
     QTextLayout layout(m_text, m_font);
     QTextOption option;
-    option.setWrapMode(QTextOption::WordWrap);
+    option.setWrapMode(wrapped);
     layOut(layout, width, option);
     return layout.boundingRect().height();
+}
+
+qsizetype KeyedText::lengthOf(double width, int lines) const {
+    QTextLayout layout(m_text, m_font);
+    QTextOption option;
+    option.setWrapMode(wrapped);
+    layOut(layout, width, option);
+    if (layout.lineCount() <= lines)
+        return m_text.size();
+    const QTextLine last = layout.lineAt(lines - 1);
+    return last.textStart() + last.textLength();
+}
+
+QString KeyedText::shortened(double width, int lines) const {
+    qsizetype length = lengthOf(width, lines);
+    if (length == m_whole.size())
+        return m_whole;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, m_whole);
+    while (length > 0) {
+        const QString some = m_whole.first(length).trimmed() + ellipsis;
+        if (KeyedText(some, m_font).lengthOf(width, lines) == some.size())
+            return some;
+        letters.setPosition(length);
+        length = letters.toPreviousBoundary();
+    }
+    return ellipsis;
 }
 
 void KeyedText::paintLine(QPainter& painter, const QRectF& box, Qt::Alignment alignment) const {
@@ -94,7 +124,7 @@ void KeyedText::paintLine(QPainter& painter, const QRectF& box, Qt::Alignment al
 }
 
 void KeyedText::paintWrapped(QPainter& painter, const QRectF& box, Qt::Alignment alignment) const {
-    paint(painter, box, alignment, QTextOption::WordWrap);
+    paint(painter, box, alignment, wrapped);
 }
 
 void KeyedText::paint(

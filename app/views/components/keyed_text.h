@@ -22,8 +22,11 @@ class KeyedText {
 
     /// On one line; in logical pixels, as all measures here.
     double width() const;
-    /// Wrapped between words to this width.
+    /// Wrapped to this width, between words where one fits a line.
     double height(double width) const;
+    /// As much of the text's beginning as fits so many lines of this width, with an ellipsis where that is
+    /// not all of it.
+    QString shortened(double width, int lines) const;
 
     /// Draws one line in the painter's pen, from its trailing end on cut off where it does not fit.
     void paintLine(QPainter& painter, const QRectF& box, Qt::Alignment alignment) const;
@@ -41,7 +44,10 @@ class KeyedText {
     paint(QPainter& painter, const QRectF& box, Qt::Alignment alignment, QTextOption::WrapMode wrap) const;
     void paintSign(QPainter& painter, const QTextLine& line, QPointF origin, const Sign& sign) const;
     double signSize() const;
+    /// How much of the text these lines hold; all of it where it needs no more of them.
+    qsizetype lengthOf(double width, int lines) const;
 
+    QString m_whole;
     QString m_text; ///< letters of the right width in the places of the signs
     QFont m_font;
     std::vector<Sign> m_signs;

@@ -13,6 +13,16 @@
 
 namespace quillon {
 
+namespace {
+
+/// In letters.
+constexpr int shortestLineLength = 8;
+constexpr int usualLineLength = 40;
+/// Only markup is wrapped in tooltips, and only in markup is what is escaped read.
+constexpr QLatin1StringView wrappedTip("<qt>%1</qt>");
+
+} // namespace
+
 ThemedLabel::ThemedLabel(ThemeSource& themes, FontChoice font, QColor Palette::*colour, QWidget* parent)
     : QLabel(parent), m_themes(themes), m_font(std::move(font)), m_colour(colour) {
     setTextFormat(Qt::PlainText);
@@ -36,6 +46,8 @@ int ThemedLabel::extraWidth() const {
 }
 
 bool ThemedLabel::isElided() const {
+    if (m_mostLines > 0)
+        return shownText() != text();
     return !wordWrap() && fontMetrics().horizontalAdvance(text()) + extraWidth() > contentsRect().width();
 }
 
@@ -44,7 +56,22 @@ void ThemedLabel::setShortenedPart(TextPart part) {
     update();
 }
 
+void ThemedLabel::setMostLines(int lines) {
+    m_mostLines = lines;
+    setWordWrap(true);
+    updateGeometry();
+    update();
+}
+
+/// On as many lines as there may be, of this width with the margins.
+QString ThemedLabel::shortenedTo(int width) const {
+    const QMargins margins = contentsMargins();
+    return KeyedText(text(), font()).shortened(width - margins.left() - margins.right(), m_mostLines);
+}
+
 QString ThemedLabel::shownText() const {
+    if (m_mostLines > 0)
+        return shortenedTo(width());
     if (!isElided())
         return text();
     const QFontMetrics metrics = fontMetrics();
@@ -60,6 +87,10 @@ QString ThemedLabel::shownText() const {
 
 QSize ThemedLabel::sizeHint() const {
     const QSize whole = QLabel::sizeHint();
+    if (m_mostLines > 0) {
+        const int width = std::min(whole.width(), fontMetrics().averageCharWidth() * usualLineLength);
+        return {width, heightForWidth(width)};
+    }
     if (!KeyedText::isNeededFor(text()))
         return whole;
     if (wordWrap())
@@ -68,22 +99,23 @@ QSize ThemedLabel::sizeHint() const {
 }
 
 int ThemedLabel::heightForWidth(int width) const {
-    if (!wordWrap() || !KeyedText::isNeededFor(text()))
+    if (!wordWrap() || (m_mostLines == 0 && !KeyedText::isNeededFor(text())))
         return QLabel::heightForWidth(width);
     const QMargins margins = contentsMargins();
-    const double height = KeyedText(text(), font()).height(width - margins.left() - margins.right());
+    const QString shown = m_mostLines > 0 ? shortenedTo(width) : text();
+    const double height = KeyedText(shown, font()).height(width - margins.left() - margins.right());
     return static_cast<int>(std::ceil(height)) + margins.top() + margins.bottom();
 }
 
 QSize ThemedLabel::minimumSizeHint() const {
-    if (wordWrap())
+    if (wordWrap() && m_mostLines == 0)
         return QLabel::minimumSizeHint();
     const QSize whole = sizeHint();
-    return {std::min(whole.width(), fontMetrics().averageCharWidth() * 8), whole.height()};
+    return {std::min(whole.width(), fontMetrics().averageCharWidth() * shortestLineLength), whole.height()};
 }
 
 void ThemedLabel::paintEvent(QPaintEvent* event) {
-    const bool isKeyed = KeyedText::isNeededFor(text());
+    const bool isKeyed = m_mostLines > 0 || KeyedText::isNeededFor(text());
     if (!isElided() && !isKeyed) {
         QLabel::paintEvent(event);
         return;
@@ -108,7 +140,8 @@ bool ThemedLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
     if (isElided())
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+        QToolTip::showText(
+            static_cast<QHelpEvent*>(event)->globalPos(), wrappedTip.arg(text().toHtmlEscaped()), this);
     else
         QToolTip::hideText();
     return true;

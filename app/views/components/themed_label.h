@@ -9,8 +9,9 @@
 
 namespace quillon {
 
-/// Plain text in one of the theme's styles. One line of it ends in an ellipsis where it does not fit, and
-/// tells the whole text in a tooltip. Signs of keys in it are drawn, see `KeyedText`.
+/// Plain text in one of the theme's styles. One line of it, or as many as there may be, ends in an ellipsis
+/// where it does not fit, and tells the whole text in a tooltip. Signs of keys in it are drawn, see
+/// `KeyedText`.
 class ThemedLabel : public QLabel {
     Q_OBJECT
 
@@ -21,6 +22,9 @@ class ThemedLabel : public QLabel {
 
     /// Where the text does not fit, this part of it is shortened instead of its end; an empty part for none.
     void setShortenedPart(TextPart part);
+
+    /// Wraps the text to so many lines and no more.
+    void setMostLines(int lines);
 
     /// The text as it is shown in the room that it has.
     QString shownText() const;
@@ -36,6 +40,7 @@ class ThemedLabel : public QLabel {
   private:
     void themeChanged();
     bool isElided() const;
+    QString shortenedTo(int width) const;
     /// How much wider the text is than its letters are by themselves.
     int extraWidth() const;
 
@@ -43,6 +48,7 @@ class ThemedLabel : public QLabel {
     FontChoice m_font;
     QColor Palette::*m_colour;
     TextPart m_shortenedPart;
+    int m_mostLines = 0; ///< 0 for what it takes, where it is wrapped
     Subscription m_subscription;
 };
 

@@ -2,10 +2,8 @@
 
 #include "library_texts.h"
 
-#include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/text.h>
-
-#include <QCollator>
+#include <quillon/app/views/sheet/named_apps.h>
 
 #include <algorithm>
 #include <utility>
@@ -14,19 +12,13 @@ namespace quillon {
 
 std::vector<LibraryApp> libraryApps(const SharedSheets& sheets) {
     std::vector<LibraryApp> apps;
-    for (const auto& [bundleID, sheet] : sheets)
+    for (NamedApp& app : appsByName(sheets)) {
+        const std::size_t count = sheets.find(app.bundleID)->second->entries.size();
         apps.push_back(
-            {.bundleID = bundleID,
-             .name = foreignLine(sheet->appName.empty() ? bundleID : sheet->appName),
-             .caption = LibraryTexts::shortcuts(static_cast<qint64>(sheet->entries.size()))});
-    QCollator order;
-    if (order.locale() == QLocale::c())
-        order.setLocale(QLocale(QLocale::English)); // the plain locale would compare codes
-    order.setNumericMode(true);
-    order.setCaseSensitivity(Qt::CaseInsensitive);
-    std::ranges::stable_sort(apps, [&](const LibraryApp& one, const LibraryApp& other) {
-        return order.compare(one.name, other.name) < 0;
-    });
+            {.bundleID = std::move(app.bundleID),
+             .name = std::move(app.name),
+             .caption = LibraryTexts::shortcuts(static_cast<qint64>(count))});
+    }
     return apps;
 }
 

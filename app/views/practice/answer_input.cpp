@@ -48,15 +48,15 @@ void AnswerInput::stop() {
     m_reading.reset();
 }
 
-void AnswerInput::setWaiting(bool waiting) {
-    m_isWaiting = waiting;
+void AnswerInput::setQuestion(Question question) {
+    m_question = question;
     m_isResting = false;
     m_escape.reset();
     follow();
 }
 
 void AnswerInput::beginRound() {
-    m_isLetGo = false;
+    setGrip(m_isTaken, false);
     follow();
 }
 
@@ -66,8 +66,9 @@ Grip AnswerInput::grip() const {
 
 /// Takes the keyboard, or gives it back, as it is due now.
 void AnswerInput::follow() {
-    const bool isDue = m_isListening && (m_isWaiting || m_answeringKey) && !m_isLetGo && !m_isResting
-                       && m_view.window()->isActiveWindow() && !QApplication::activePopupWidget();
+    const bool isDue = m_isListening && (m_question == Question::waiting || m_answeringKey) && !m_isLetGo
+                       && !m_isResting && m_view.window()->isActiveWindow()
+                       && !QApplication::activePopupWidget();
     if (!isDue) {
         m_grab.reset();
         setGrip(false, m_isLetGo);
@@ -127,16 +128,23 @@ bool AnswerInput::eventFilter(QObject* watched, QEvent* event) {
     return widget && widget->window() == m_view.window() && takes(*static_cast<QKeyEvent*>(event));
 }
 
+/// Whether the window and its shortcuts are not to see this.
 bool AnswerInput::takes(QKeyEvent& key) {
+    bool isTaken = false;
     switch (key.type()) {
-    case QEvent::KeyPress: stirred(); return key.isAutoRepeat() ? takesRepeat(key) : takesPress(key);
-    case QEvent::KeyRelease: released(key); return false;
-    default: break;
+    case QEvent::KeyPress:
+        stirred();
+        isTaken = repeats(key) ? takesRepeat(key) : takesPress(key);
+        break;
+    case QEvent::KeyRelease: released(key); break;
+    default:
+        repeats(key);
+        isTaken = isKept(key);
+        break;
     }
-    if (!m_isWaiting || !answer(key))
-        return false;
-    key.accept();
-    return true;
+    if (isTaken)
+        key.accept();
+    return isTaken;
 }
 
 /// The toolkit takes the keyboard for its menus, and gives it back for the whole program after them.
@@ -147,6 +155,7 @@ void AnswerInput::popupCameOrWent() {
 }
 
 void AnswerInput::windowLeft() {
+    m_release = {};
     m_escape.reset();
     m_absence.reset();
     m_isResting = false;
@@ -161,8 +170,8 @@ std::optional<KeyStroke> AnswerInput::answer(const QKeyEvent& press) const {
 }
 
 bool AnswerInput::takesPress(const QKeyEvent& press) {
-    if (!m_isWaiting)
-        return false;
+    if (m_question != Question::waiting)
+        return isKept(press);
     if (isPlainEscape(press)) {
         beginToLetGo();
         return true;
@@ -182,25 +191,54 @@ bool AnswerInput::takesRepeat(const QKeyEvent& press) const {
     case Qt::Key_Enter:
     case Qt::Key_Space:
     case Qt::Key_Escape: return true;
-    default: return m_answeringKey == press.nativeScanCode() || (m_isWaiting && answer(press));
+    default: return isKept(press);
     }
+}
+
+/// Whether the press is the question's, or was until just now.
+bool AnswerInput::isKept(const QKeyEvent& press) const {
+    return m_answeringKey == press.nativeScanCode() || (m_question != Question::none && answer(press));
 }
 
 void AnswerInput::released(const QKeyEvent& release) {
     if (release.isAutoRepeat())
         return;
+    const std::uint32_t key = release.nativeScanCode();
+    // The same one comes to a widget and then to those that it is in.
+    if (m_release.key != key || m_release.time != release.timestamp())
+        m_release = {key, release.timestamp(), m_answeringKey == key};
     if (release.key() == Qt::Key_Escape)
-        m_escape.reset();
-    if (m_answeringKey == release.nativeScanCode()) {
+        m_isEscapeDown = false;
+    if (m_answeringKey == key) {
         m_answeringKey.reset();
         follow();
     }
 }
 
+/// Whether a press is that of a held key again. A release at its very same time was none: on a busy machine
+/// the toolkit sees that too late to mark the two as repetitions.
+bool AnswerInput::repeats(const QKeyEvent& press) {
+    if (press.isAutoRepeat())
+        return true;
+    const std::uint32_t key = press.nativeScanCode();
+    if (press.timestamp() == 0 || m_release.time != press.timestamp() || m_release.key != key)
+        return false;
+    if (press.key() == Qt::Key_Escape)
+        m_isEscapeDown = true;
+    if (m_release.wasAnswer && !m_answeringKey) {
+        m_answeringKey = key;
+        follow();
+    }
+    return true;
+}
+
 void AnswerInput::beginToLetGo() {
     if (grip() != Grip::allKeys)
         return;
+    m_isEscapeDown = true;
     m_escape = m_needs.timers.after(letGoAfter, [this] {
+        if (!m_isEscapeDown)
+            return;
         m_grab.reset();
         setGrip(false, true);
     });

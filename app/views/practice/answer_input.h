@@ -22,11 +22,19 @@ enum class Grip {
     letGo,    ///< those that the desktop leaves, because the user wanted it so
 };
 
+/// How far the question of a round is.
+enum class Question {
+    none, ///< nothing is asked
+    waiting,
+    answered, ///< its answer is shown
+};
+
 /// Takes the key presses that answer a question, wherever in the window the keyboard is, and has all of them
 /// come there: while a question waits, the window has the focus and no menu is open. Who holds Esc for a
 /// second gets the keyboard back, until the window is come back to or the next round begins. Who does nothing
 /// for half a minute may be gone: until a key or the pointer stirs the keyboard is free for whatever locks
-/// the screen.
+/// the screen. While the answer is shown, presses that could have been one do nothing: they come from fingers
+/// that are a moment late.
 class AnswerInput : public QObject {
     Q_OBJECT
 
@@ -44,8 +52,7 @@ class AnswerInput : public QObject {
     /// Begins to listen when the view comes to the screen, and ends when it goes.
     void start();
     void stop();
-    /// Whether a question waits for its answer.
-    void setWaiting(bool waiting);
+    void setQuestion(Question question);
     /// A round begins.
     void beginRound();
 
@@ -71,23 +78,33 @@ class AnswerInput : public QObject {
     bool takes(QKeyEvent& key);
     bool takesPress(const QKeyEvent& press);
     bool takesRepeat(const QKeyEvent& press) const;
+    bool isKept(const QKeyEvent& press) const;
     void released(const QKeyEvent& release);
+    bool repeats(const QKeyEvent& press);
     void beginToLetGo();
     std::optional<KeyStroke> answer(const QKeyEvent& press) const;
 
     QWidget& m_view;
     Needs m_needs;
     bool m_isListening = false;
-    bool m_isWaiting = false;
+    Question m_question = Question::none;
     bool m_isTaken = false;
     bool m_isLetGo = false;
     bool m_isResting = false; ///< nobody is there
-    /// The key that gave the answer, until it comes up: what its repetitions would do to a desktop that has
-    /// the keyboard back is nobody's wish.
+    /// The key that gave the answer, until it comes up: what its repetitions would do to this window, or to a
+    /// desktop that has the keyboard back, is nobody's wish.
     std::optional<std::uint32_t> m_answeringKey;
+    /// What last came up, at which time, and whether it had given the answer.
+    struct Release {
+        std::uint32_t key = 0;
+        std::uint64_t time = 0;
+        bool wasAnswer = false;
+    };
+    Release m_release;
+    bool m_isEscapeDown = false;
     Subscription m_reading;
     Subscription m_grab;
-    Subscription m_escape;  ///< while Esc is held
+    Subscription m_escape;  ///< since Esc was pressed
     Subscription m_absence; ///< while the keyboard is taken
 };
 

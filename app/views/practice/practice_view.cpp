@@ -7,14 +7,12 @@
 
 #include <quillon/app/languages/translated_keys.h>
 #include <quillon/app/views/components/focus_ring.h>
-#include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/text.h>
 #include <quillon/kit/shortcut/key_names.h>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <random>
 #include <utility>
 
@@ -35,18 +33,6 @@ ThemedLabel* sentence(ThemeSource& themes, QWidget* parent) {
 }
 
 } // namespace
-
-/// Every application with a sheet, by name.
-std::vector<PracticeView::AppChoice> PracticeView::choicesOf(const SharedSheets& sheets) {
-    std::vector<AppChoice> choices;
-    for (const auto& [appID, sheet] : sheets)
-        choices.push_back({foreignLine(sheet->appName), appID});
-    std::ranges::sort(choices, [](const AppChoice& a, const AppChoice& b) {
-        const int order = QString::localeAwareCompare(a.name, b.name);
-        return order != 0 ? order < 0 : a.appID < b.appID;
-    });
-    return choices;
-}
 
 PracticeView::Draw PracticeView::drawByChance() {
     return [](const AppSheet& sheet, const UsageRecords& usage, const PracticeDeck::Ids& pinned) {
@@ -143,17 +129,17 @@ void PracticeView::tellHowToBegin() {
 
 /// A sheet came or went. The round that runs is of what was known when it was drawn.
 void PracticeView::followSheets() {
-    std::vector<AppChoice> choices = choicesOf(m_model.sheets());
+    std::vector<NamedApp> choices = appsByName(m_model.sheets());
     if (choices == m_choices)
         return;
     m_choices = std::move(choices);
     m_apps->clear();
-    for (const AppChoice& choice : m_choices)
-        m_apps->addItem(choice.name, text(choice.appID));
+    for (const NamedApp& choice : m_choices)
+        m_apps->addItem(choice.name, text(choice.bundleID));
     m_practice->setVisible(!m_choices.empty());
     m_empty->setVisible(m_choices.empty());
     if (m_apps->findData(text(m_appID)) < 0)
-        choose(m_choices.empty() ? std::string() : m_choices.front().appID);
+        choose(m_choices.empty() ? std::string() : m_choices.front().bundleID);
     m_apps->setCurrentIndex(m_apps->findData(text(m_appID)));
 }
 
@@ -183,7 +169,7 @@ void PracticeView::newRound() {
     m_input.beginRound();
     m_startText->setText(
         m_round.isDrawn() ? PracticeTexts::pressNewRound()
-                          : PracticeTexts::nothingToAsk(foreignLine(sheet->second->appName)));
+                          : PracticeTexts::nothingToAsk(shownName(*sheet->second)));
     refresh();
 }
 
@@ -200,7 +186,10 @@ void PracticeView::record(const PracticeResult& result) {
 }
 
 void PracticeView::refresh() {
-    m_input.setWaiting(m_round.isWaiting());
+    m_input.setQuestion(
+        !m_round.question()   ? Question::none
+        : m_round.isWaiting() ? Question::waiting
+                              : Question::answered);
     if (m_round.isOver()) {
         m_results->show(m_round);
         showPage(m_results);
@@ -212,6 +201,18 @@ void PracticeView::refresh() {
         showPage(m_start);
     }
     takeFocus();
+}
+
+/// Return does what comes next wherever else the keyboard is, but gives no answer away.
+void PracticeView::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (!isReturn || !isPlain || !m_round.isDrawn() || m_round.isWaiting())
+        ThemedWidget::keyPressEvent(event);
+    else if (m_round.isOver())
+        newRound();
+    else
+        pressButton();
 }
 
 /// Return does what comes next, and a question is read aloud.

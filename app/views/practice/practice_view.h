@@ -9,6 +9,7 @@
 #include <quillon/app/views/components/prominent_button.h>
 #include <quillon/app/views/components/themed_label.h>
 #include <quillon/app/views/components/themed_widget.h>
+#include <quillon/app/views/sheet/named_apps.h>
 #include <quillon/kit/coach/practice_deck.h>
 
 #include <QStackedLayout>
@@ -50,15 +51,9 @@ class PracticeView : public ThemedWidget {
   protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    struct AppChoice {
-        QString name;
-        std::string appID;
-        bool operator==(const AppChoice&) const = default;
-    };
-
-    static std::vector<AppChoice> choicesOf(const SharedSheets& sheets);
     QWidget* makeStart();
     void layOut();
     void tellHowToBegin();
@@ -84,7 +79,7 @@ class PracticeView : public ThemedWidget {
     QWidget* m_practice;
     MessageView* m_empty;
     DropDown* m_apps;
-    std::vector<AppChoice> m_choices;
+    std::vector<NamedApp> m_choices;
     ThemedLabel* m_startText;
     ProminentButton* m_startButton;
     QWidget* m_start;

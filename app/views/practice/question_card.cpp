@@ -22,6 +22,7 @@ constexpr int padding = 18;
 constexpr int spacing = 6;
 constexpr int verdictGap = 6;
 constexpr int signSize = 18;
+constexpr int mostLines = 2; ///< of a text from another application
 constexpr double keySize = 22;
 constexpr double cornerRadius = 12;
 
@@ -63,7 +64,7 @@ QuestionCard::QuestionCard(ThemeSource& themeSource, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     for (ThemedLabel* label : {m_menu, m_command}) {
         label->setAlignment(Qt::AlignCenter);
-        label->setWordWrap(true);
+        label->setMostLines(mostLines);
     }
     keepRoom(*m_keys); // so that nothing jumps when the answer comes
     auto* verdict = new QHBoxLayout;

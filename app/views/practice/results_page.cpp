@@ -4,10 +4,8 @@
 
 #include <quillon/app/views/components/foreign_text.h>
 #include <quillon/app/views/components/keys_view.h>
-#include <quillon/app/views/components/thin_scroll_bar.h>
 
 #include <QHBoxLayout>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <vector>
@@ -28,16 +26,16 @@ ResultsPage::ResultsPage(ThemeSource& themeSource, QWidget* parent)
           themeSource, [](const TextStyles& styles) { return bold(styles.title); }, &Palette::primary, this)),
       m_sentence(new ThemedLabel(
           themeSource, [](const TextStyles& styles) { return styles.body; }, &Palette::secondary, this)),
-      m_missed(new QScrollArea(this)),
+      m_missed(new ScrollPane(themeSource, this)),
       m_button(new ProminentButton(themeSource, PracticeTexts::anotherRound(), this)) {
     m_score->setAlignment(Qt::AlignCenter);
     m_sentence->setAlignment(Qt::AlignCenter);
     m_sentence->setWordWrap(true);
-    m_missed->setFrameShape(QFrame::NoFrame);
-    m_missed->setWidgetResizable(true);
-    m_missed->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_missed->viewport()->setAutoFillBackground(false);
     m_missed->setAccessibleName(PracticeTexts::comeUpMore());
+    QSizePolicy room = m_missed->sizePolicy();
+    room.setRetainSizeWhenHidden(true);
+    m_missed->setSizePolicy(room);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);
@@ -46,7 +44,6 @@ ResultsPage::ResultsPage(ThemeSource& themeSource, QWidget* parent)
     column->addWidget(m_missed, 1);
     column->addWidget(m_button, 0, Qt::AlignHCenter);
     connect(m_button, &QPushButton::clicked, this, &ResultsPage::anotherRoundWanted);
-    ResultsPage::themeChanged();
 }
 
 void ResultsPage::show(const PracticeRound& round) {
@@ -54,6 +51,7 @@ void ResultsPage::show(const PracticeRound& round) {
     m_score->setText(PracticeTexts::score(round.rightCount(), round.length()));
     m_sentence->setText(missed.empty() ? PracticeTexts::cleanRound() : PracticeTexts::comeUpMore());
     m_missed->setWidget(missedRows(missed));
+    m_missed->setVisible(!missed.empty());
 }
 
 QWidget* ResultsPage::missedRows(std::span<const MenuEntry> missed) {
@@ -75,11 +73,6 @@ QWidget* ResultsPage::missedRows(std::span<const MenuEntry> missed) {
     }
     column->addStretch(1);
     return rows;
-}
-
-void ResultsPage::themeChanged() {
-    makeThin(*m_missed->verticalScrollBar(), theme());
-    ThemedWidget::themeChanged();
 }
 
 } // namespace quillon

@@ -2,10 +2,9 @@
 
 #include <quillon/app/core/practice_round.h>
 #include <quillon/app/views/components/prominent_button.h>
+#include <quillon/app/views/components/scroll_pane.h>
 #include <quillon/app/views/components/themed_label.h>
 #include <quillon/app/views/components/themed_widget.h>
-
-#include <QScrollArea>
 
 #include <span>
 
@@ -25,15 +24,12 @@ class ResultsPage : public ThemedWidget {
   Q_SIGNALS:
     void anotherRoundWanted();
 
-  protected:
-    void themeChanged() override;
-
   private:
     QWidget* missedRows(std::span<const MenuEntry> missed);
 
     ThemedLabel* m_score;
     ThemedLabel* m_sentence;
-    QScrollArea* m_missed;
+    ScrollPane* m_missed;
     ProminentButton* m_button;
 };
 

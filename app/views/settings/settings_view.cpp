@@ -3,11 +3,9 @@
 #include "settings_texts.h"
 
 #include <quillon/app/views/components/content_height.h>
-#include <quillon/app/views/components/thin_scroll_bar.h>
+#include <quillon/app/views/components/scroll_pane.h>
 
 #include <QPainter>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -50,22 +48,13 @@ SettingsView::SettingsView(AppModel& model, ThemeSource& themeSource, const Need
         if (field == ModelField::settingsTab)
             showTab();
     });
-    themeChanged();
 }
 
 void SettingsView::addTab(SettingsTab tab, Symbol symbol, QWidget* page) {
     m_tabs->addSymbolTab(symbol, SettingsTexts::tab(tab));
-    auto* scroll = new QScrollArea(m_stack);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* scroll = new ScrollPane(themes(), m_stack);
     scroll->setAccessibleName(SettingsTexts::tab(tab));
     scroll->setWidget(page);
-    // To be scrolled by the keyboard there has to be something to scroll.
-    scroll->setFocusPolicy(Qt::NoFocus);
-    connect(scroll->verticalScrollBar(), &QScrollBar::rangeChanged, scroll, [scroll](int, int highest) {
-        scroll->setFocusPolicy(highest > 0 ? Qt::StrongFocus : Qt::NoFocus);
-    });
     m_stack->addWidget(scroll);
     m_pages.push_back(page);
 }
@@ -88,12 +77,6 @@ QSize SettingsView::sizeHint() const {
 
 QSize SettingsView::minimumSizeHint() const {
     return smallest;
-}
-
-void SettingsView::themeChanged() {
-    for (auto* const scroll : findChildren<QScrollArea*>())
-        makeThin(*scroll->verticalScrollBar(), theme());
-    ThemedWidget::themeChanged();
 }
 
 /// A line parts the tabs from what lies behind them.

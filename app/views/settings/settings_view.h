@@ -37,7 +37,6 @@ class SettingsView : public ThemedWidget {
     QSize minimumSizeHint() const override;
 
   protected:
-    void themeChanged() override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

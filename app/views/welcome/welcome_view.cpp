@@ -10,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -36,7 +35,8 @@ int readableWidth(const Theme& theme) {
 WelcomeView::WelcomeView(
     AppModel& model, ThemeSource& themeSource, const WelcomeNeeds& needs, QWidget* parent)
     : ThemedWidget(themeSource, parent), m_model(model), m_steps(new WelcomeSteps(model, themeSource, needs)),
-      m_scroll(makeScroll()), m_footer(makeFooter()) {
+      m_scroll(new ScrollPane(themeSource, this)), m_footer(makeFooter()) {
+    m_scroll->setWidget(m_steps);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -48,20 +48,6 @@ WelcomeView::WelcomeView(
         QTimer::singleShot(0, this, &WelcomeView::makeRoom);
     });
     themeChanged();
-}
-
-QScrollArea* WelcomeView::makeScroll() {
-    auto* scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(m_steps);
-    // To be scrolled by the keyboard there has to be something to scroll.
-    scroll->setFocusPolicy(Qt::NoFocus);
-    connect(scroll->verticalScrollBar(), &QScrollBar::rangeChanged, scroll, [scroll](int, int highest) {
-        scroll->setFocusPolicy(highest > 0 ? Qt::StrongFocus : Qt::NoFocus);
-    });
-    return scroll;
 }
 
 QWidget* WelcomeView::makeFooter() {
@@ -124,7 +110,6 @@ QSize WelcomeView::minimumSizeHint() const {
 }
 
 void WelcomeView::themeChanged() {
-    makeThin(*m_scroll->verticalScrollBar(), theme());
     updateGeometry();
     ThemedWidget::themeChanged();
 }

@@ -5,9 +5,8 @@
 #include <quillon/app/core/app_model.h>
 #include <quillon/app/views/components/plain_button.h>
 #include <quillon/app/views/components/prominent_button.h>
+#include <quillon/app/views/components/scroll_pane.h>
 #include <quillon/app/views/components/themed_widget.h>
-
-#include <QScrollArea>
 
 namespace quillon {
 
@@ -32,7 +31,6 @@ class WelcomeView : public ThemedWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
-    QScrollArea* makeScroll();
     QWidget* makeFooter();
     void finish();
     void makeRoom();
@@ -40,7 +38,7 @@ class WelcomeView : public ThemedWidget {
 
     AppModel& m_model;
     WelcomeSteps* m_steps;
-    QScrollArea* m_scroll;
+    ScrollPane* m_scroll;
     QWidget* m_footer;
     PlainButton* m_later;
     ProminentButton* m_done;

@@ -24,12 +24,20 @@ std::shared_ptr<FollowedKeymap> X11KeyReading::followed() {
 }
 
 Subscription X11KeyReading::follow(std::function<void()> changed) {
-    auto keymap = followed();
-    auto inner = std::make_shared<Subscription>(keymap->changed.subscribe(std::move(changed)));
-    return Subscription([inner = std::move(inner), keymap = std::move(keymap)]() mutable {
-        inner->reset();
-        keymap.reset();
-    });
+    struct Following {
+        std::shared_ptr<FollowedKeymap> keymap;
+        Subscription maps;
+        Subscription groups;
+    };
+    auto following = std::make_shared<Following>();
+    following->keymap = followed();
+    following->maps = following->keymap->changed.subscribe(changed);
+    following->groups =
+        m_keyboard.onGroupChanged([changed = std::move(changed), &keymap = *following->keymap] {
+            if (keymap.keymap())
+                changed();
+        });
+    return Subscription([following = std::move(following)]() mutable { following.reset(); });
 }
 
 const Keymap* X11KeyReading::keymap() const {

@@ -84,6 +84,7 @@ X11Keyboard::X11Keyboard(std::shared_ptr<X11Connection> x11, std::shared_ptr<Raw
     askState();
     askMap();
     m_told = modifiers();
+    m_toldGroup = m_group;
 }
 
 X11Keyboard::~X11Keyboard() = default;
@@ -179,6 +180,8 @@ void X11Keyboard::tell() {
     const Modifiers down = modifiers();
     if (std::exchange(m_told, down) != down)
         m_changed.emit(down);
+    if (std::exchange(m_toldGroup, m_group) != m_group)
+        m_groupChanged.emit();
 }
 
 Subscription X11Keyboard::onModifiersChanged(std::function<void(Modifiers)> callback) {

@@ -36,6 +36,10 @@ class X11Keyboard final : public Keyboard {
     Subscription onMapChanged(std::function<void()> callback) {
         return m_mapChanged.subscribe(std::move(callback));
     }
+    /// Called when another of the map's layouts is in effect, which changes nothing of the map.
+    Subscription onGroupChanged(std::function<void()> callback) {
+        return m_groupChanged.subscribe(std::move(callback));
+    }
 
   private:
     class LastInputs;
@@ -53,6 +57,7 @@ class X11Keyboard final : public Keyboard {
     std::shared_ptr<RawInput> m_input;
     Event<Modifiers> m_changed;
     Event<> m_mapChanged;
+    Event<> m_groupChanged;
     KeyboardMap m_map;
     bool m_mapIsStale = true;
     bool m_mapChangeIsUntold = false;
@@ -61,6 +66,7 @@ class X11Keyboard final : public Keyboard {
     std::uint32_t m_locked = 0; ///< what is locked
     std::uint32_t m_group = 0;  ///< the layout in effect
     Modifiers m_told;
+    std::uint32_t m_toldGroup = 0;
     std::weak_ptr<LastInputs> m_lastInputs;
     Subscription m_events;
     Subscription m_drained;

@@ -54,9 +54,20 @@ MenuReading menusOfWriter() {
     return {{menu("File", {command("Save", "S")}), std::move(edit)}, ReadOutcome::complete};
 }
 
-void read(ViewDesk& desk, std::int64_t pid, const std::string& name) {
+/// A command with more words than a card has room for, deep in menus with long names.
+MenuReading menusWithLongTexts() {
+    std::string title = "Replace";
+    while (title.size() < 300)
+        title += " every occurrence of the selected words";
+    RawMenuItem path = menu("Paragraphs and Everything That Belongs to Them", {command(title.c_str(), "J")});
+    for (const char* name : {"Changes to the Whole Document at Once", "Find and Replace in All Documents"})
+        path = menu(name, {std::move(path)});
+    return {{std::move(path)}, ReadOutcome::complete};
+}
+
+void read(ViewDesk& desk, std::int64_t pid, const std::string& name, MenuReading menus) {
     const RunningApp app{pid, "org.example." + name, name, {}};
-    desk.desktop.menus.answer(pid, menusOfWriter());
+    desk.desktop.menus.answer(pid, std::move(menus));
     desk.desktop.front.setCurrent(app);
     desk.desktop.access.setTrusted(true);
     desk.model.refreshTrust();
@@ -80,11 +91,12 @@ void printKeys(FakeKeyReading& reading, KeyboardShape shape, const QString& prin
 }
 
 /// With these applications, and what their user pressed so far.
-PracticeView&
-practised(ViewDesk& desk, const std::vector<std::string>& apps, const std::vector<Press>& presses) {
+PracticeView& practised(
+    ViewDesk& desk, const std::vector<std::string>& apps, const std::vector<Press>& presses,
+    const MenuReading& menus = menusOfWriter()) {
     std::int64_t pid = 2;
     for (const std::string& app : apps)
-        read(desk, pid++, app);
+        read(desk, pid++, app, menus);
     defineKeys(desk.desktop.keyReading);
     if (!desk.desktop.keyReading.printed())
         printKeys(
@@ -121,6 +133,13 @@ Scene germanKeyboard(QString name, std::vector<std::string> apps) {
             u"^°1!2\"3§4$5%6&7/8(9)0=ß?´`qQwWeErRtTzZuUiIoOpPüÜ+*#'aAsSdDfFgGhHjJkKlLöÖäÄyYxXcCvVbBnNmM,;.:-_<>"_s);
         return &practised(
             desk, apps, {onButton, wrongKeys, onButton, wrongKeys, onButton, wrongKeys, onButton, wrongKeys});
+    };
+    return {std::move(name), std::move(show)};
+}
+
+Scene longCommand(QString name, std::vector<Press> presses) {
+    auto show = [presses = std::move(presses)](ViewDesk& desk) {
+        return &practised(desk, {"Writer"}, presses, menusWithLongTexts());
     };
     return {std::move(name), std::move(show)};
 }
@@ -169,6 +188,9 @@ std::vector<Scene> practiceScenes() {
             u"practice-clean"_s, apps,
             {onButton, save, onButton, find, onButton, paste, onButton, undo, onButton}),
         practice(u"practice-long-name"_s, {"The Application With a Rather Long Name for Its Menu"}),
+        longCommand(u"practice-long-command"_s, {onButton}),
+        longCommand(u"practice-long-command-wrong"_s, {onButton, wrongKeys}),
+        longCommand(u"practice-long-command-missed"_s, {onButton, wrongKeys, onButton}),
         choices(u"practice-choices"_s, apps),
     };
 }

@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
+#include <QTest>
 
 #include <string>
 #include <vector>
@@ -20,7 +22,25 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-enum Place : std::uint32_t { letterS = 39, keyTab = 23, keyReturn = 36, keyEscape = 9, keyF4 = 70 };
+enum Place : std::uint32_t {
+    keyOfClose = 0,
+    letterS = 39,
+    keyTab = 23,
+    keyReturn = 36,
+    keyEscape = 9,
+    keyF4 = 70
+};
+
+/// A button that remembers which keys were pressed on it.
+struct KeyLog : QPushButton {
+    using QPushButton::QPushButton;
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::KeyPress)
+            keys.push_back(static_cast<QKeyEvent*>(event)->key());
+        return QPushButton::event(event);
+    }
+    std::vector<int> keys;
+};
 
 class AnswerInputTest : public testing::Test {
   protected:
@@ -33,12 +53,14 @@ class AnswerInputTest : public testing::Test {
         desktop.keyReading.define(keyReturn, special(SpecialKey::returnKey));
         desktop.keyReading.define(keyEscape, special(SpecialKey::escape));
         desktop.keyReading.define(keyF4, special(SpecialKey::f4));
+        desktop.keyReading.define(keyOfClose, {.characters = "w", .keyCode = 13});
         QObject::connect(&input, &AnswerInput::answered, [this](const KeyStroke& stroke) {
             answers.push_back(stroke.modifiers.glyphs() + stroke.characters);
             if (isAnsweredOnce)
-                input.setWaiting(false);
+                input.setQuestion(Question::answered);
         });
         QObject::connect(&button, &QPushButton::clicked, [this] { ++clicks; });
+        QObject::connect(&closing, &QShortcut::activated, [this] { ++closings; });
         window.show();
     }
 
@@ -47,7 +69,7 @@ class AnswerInputTest : public testing::Test {
         ASSERT_TRUE(makeActive(window));
         button.setFocus();
         input.start();
-        input.setWaiting(true);
+        input.setQuestion(Question::waiting);
     }
     static QKeyEvent
     event(QEvent::Type type, std::uint32_t place, int key, Modifiers held = {}, bool isRepeat = false) {
@@ -68,6 +90,20 @@ class AnswerInputTest : public testing::Test {
         press(place, key, held);
         release(place, key, held);
     }
+    /// As the window system tells of ⌃W: to shortcuts first. Such presses have no place.
+    void pressClose(bool isRepeat = false) {
+        QTest::simulateEvent(&button, true, Qt::Key_W, Qt::ControlModifier, {}, isRepeat);
+    }
+    void releaseClose() { QTest::simulateEvent(&button, false, Qt::Key_W, Qt::ControlModifier, {}, false); }
+    /// As the toolkit tells it when it does not notice in time that a key repeats.
+    void repeatUnmarked(std::uint32_t place, int key, Modifiers held = {}) {
+        ++time;
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::ShortcutOverride, QEvent::KeyPress}) {
+            QKeyEvent part = event(type, place, key, held);
+            part.setTimestamp(time);
+            QApplication::sendEvent(&button, &part);
+        }
+    }
     void leaveWindow() {
         QWidget other;
         other.show();
@@ -77,11 +113,14 @@ class AnswerInputTest : public testing::Test {
 
     FakeDesktop desktop;
     QWidget window;
-    QPushButton button{&window};
+    KeyLog button{&window};
+    QShortcut closing{QKeySequence(Qt::CTRL | Qt::Key_W), &window};
     AnswerInput input{window, {desktop.keyReading, desktop.keyboardGrab, desktop.timers}};
     std::vector<std::string> answers;
     bool isAnsweredOnce = false;
     int clicks = 0;
+    int closings = 0;
+    quint64 time = 1000; ///< of events that have one
 };
 
 TEST_F(AnswerInputTest, APressIsReadByItsPlaceAndWhatIsHeld) {
@@ -92,9 +131,11 @@ TEST_F(AnswerInputTest, APressIsReadByItsPlaceAndWhatIsHeld) {
 
 TEST_F(AnswerInputTest, PressesAnswerOnlyWhileAQuestionWaits) {
     ask();
-    input.setWaiting(false);
-    tap(letterS, Qt::Key_S, Modifiers::control);
-    EXPECT_THAT(answers, IsEmpty());
+    for (const Question question : {Question::answered, Question::none}) {
+        input.setQuestion(question);
+        tap(letterS, Qt::Key_S, Modifiers::control);
+        EXPECT_THAT(answers, IsEmpty());
+    }
 }
 
 TEST_F(AnswerInputTest, AnAnswerIsTakenFromShortcuts) {
@@ -103,10 +144,42 @@ TEST_F(AnswerInputTest, AnAnswerIsTakenFromShortcuts) {
     early.ignore();
     QApplication::sendEvent(&button, &early);
     EXPECT_TRUE(early.isAccepted());
-    input.setWaiting(false);
+    input.setQuestion(Question::none);
     early.ignore();
     QApplication::sendEvent(&button, &early);
     EXPECT_FALSE(early.isAccepted());
+}
+
+TEST_F(AnswerInputTest, TheAnsweringKeyIsNoShortcutUntilItIsUp) {
+    ask();
+    pressClose();
+    input.setQuestion(Question::none);
+    pressClose(true);
+    EXPECT_EQ(closings, 0) << "held past the next question, or the last";
+    releaseClose();
+    pressClose();
+    EXPECT_EQ(closings, 1);
+    EXPECT_EQ(answers.size(), 1U);
+}
+
+TEST_F(AnswerInputTest, PressesWhileTheAnswerIsShownAreIgnored) {
+    ask();
+    input.setQuestion(Question::answered);
+    pressClose();
+    pressClose(true);
+    releaseClose();
+    EXPECT_EQ(closings, 0);
+    EXPECT_THAT(answers, IsEmpty());
+    press(letterS, Qt::Key_S);
+    EXPECT_THAT(button.keys, IsEmpty());
+    press(keyTab, Qt::Key_Tab);
+    press(keyReturn, Qt::Key_Return);
+    press(keyEscape, Qt::Key_Escape);
+    EXPECT_THAT(button.keys, ElementsAre(Qt::Key_Tab, Qt::Key_Return, Qt::Key_Escape));
+    button.keys.clear();
+    input.setQuestion(Question::none);
+    press(letterS, Qt::Key_S);
+    EXPECT_THAT(button.keys, ElementsAre(Qt::Key_S));
 }
 
 TEST_F(AnswerInputTest, KeysOfTheWindowAndUnknownOnesPass) {
@@ -122,20 +195,46 @@ TEST_F(AnswerInputTest, HeldKeysAnswerOnceAndPressNoButton) {
     press(letterS, Qt::Key_S, Modifiers::control);
     press(letterS, Qt::Key_S, Modifiers::control, true);
     EXPECT_THAT(answers, ElementsAre("⌃s"));
-    input.setWaiting(false);
+    input.setQuestion(Question::answered);
     press(keyReturn, Qt::Key_Return, {}, true);
     press(65, Qt::Key_Space, {}, true);
     EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(AnswerInputTest, ARepetitionIsOneWithoutAMark) {
+    ask();
+    press(letterS, Qt::Key_S, Modifiers::control);
+    input.setQuestion(Question::waiting);
+    repeatUnmarked(letterS, Qt::Key_S, Modifiers::control);
+    EXPECT_THAT(answers, ElementsAre("⌃s")) << "of the next question";
+    input.setQuestion(Question::none);
+    button.keys.clear();
+    repeatUnmarked(letterS, Qt::Key_S, Modifiers::control);
+    EXPECT_THAT(button.keys, IsEmpty());
+    EXPECT_TRUE(desktop.keyboardGrab.isTaken());
+    repeatUnmarked(keyReturn, Qt::Key_Return);
+    EXPECT_THAT(button.keys, IsEmpty());
+}
+
+TEST_F(AnswerInputTest, HoldingEscapeLetsGoWithoutMarksToo) {
+    ask();
+    press(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(0.7));
+    repeatUnmarked(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(0.2));
+    repeatUnmarked(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(0.2));
+    EXPECT_EQ(input.grip(), Grip::letGo);
 }
 
 TEST_F(AnswerInputTest, TheKeyboardIsTakenWhileAQuestionWaits) {
     ASSERT_TRUE(makeActive(window));
     input.start();
     EXPECT_FALSE(desktop.keyboardGrab.isWanted());
-    input.setWaiting(true);
+    input.setQuestion(Question::waiting);
     EXPECT_TRUE(desktop.keyboardGrab.isTaken());
     EXPECT_EQ(input.grip(), Grip::allKeys);
-    input.setWaiting(false);
+    input.setQuestion(Question::none);
     EXPECT_FALSE(desktop.keyboardGrab.isWanted());
     EXPECT_EQ(input.grip(), Grip::someKeys);
 }
@@ -188,8 +287,8 @@ TEST_F(AnswerInputTest, HoldingEscapeLetsGo) {
     EXPECT_FALSE(desktop.keyboardGrab.isWanted());
     EXPECT_EQ(input.grip(), Grip::letGo);
     release(keyEscape, Qt::Key_Escape);
-    input.setWaiting(false);
-    input.setWaiting(true);
+    input.setQuestion(Question::answered);
+    input.setQuestion(Question::waiting);
     EXPECT_FALSE(desktop.keyboardGrab.isWanted()) << "at the next question";
     tap(letterS, Qt::Key_S, Modifiers::control);
     EXPECT_THAT(answers, ElementsAre("⌃s")) << "what still comes is an answer";
@@ -220,6 +319,19 @@ TEST_F(AnswerInputTest, WhatWasLetGoIsTakenWithTheNextRound) {
     desktop.timers.advance(Seconds(1.1));
     input.beginRound();
     EXPECT_EQ(input.grip(), Grip::allKeys);
+}
+
+TEST_F(AnswerInputTest, WithTheNextRoundItIsNotSaidToBeLetGoOf) {
+    ask();
+    press(keyEscape, Qt::Key_Escape);
+    desktop.timers.advance(Seconds(1.1));
+    std::vector<Grip> told;
+    QObject::connect(&input, &AnswerInput::gripChanged, [&] { told.push_back(input.grip()); });
+    desktop.keyboardGrab.keep();
+    input.beginRound();
+    EXPECT_THAT(told, ElementsAre(Grip::someKeys)) << "until the desktop gives it";
+    desktop.keyboardGrab.give();
+    EXPECT_THAT(told, ElementsAre(Grip::someKeys, Grip::allKeys));
 }
 
 TEST_F(AnswerInputTest, WhoIsGoneLeavesTheKeyboardToTheScreenLocker) {

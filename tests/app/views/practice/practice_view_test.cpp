@@ -1,19 +1,11 @@
+#include "practice_fixture.h"
+
 #include <quillon/app/views/practice/keyboard_view.h>
-#include <quillon/app/views/practice/practice_view.h>
 #include <quillon/kit/menu/sample_menus.h>
-#include <quillon/tests/app/views/support/printing.h>
-#include <quillon/tests/app/views/support/typed_answers.h>
-#include <quillon/tests/app/views/support/view_desk.h>
+#include <quillon/tests/app/views/support/read_app.h>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QTest>
+#include <QShortcut>
 
 namespace quillon {
 namespace {
@@ -21,89 +13,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
-
-RawMenuItem command(const char* title, const char* key) {
-    RawMenuItem item;
-    item.title = title;
-    item.cmdChar = key;
-    item.cmdModifiers = 12; // ⌃ without ⌘
-    return item;
-}
-
-MenuReading menusWith(std::initializer_list<RawMenuItem> items) {
-    RawMenuItem file;
-    file.title = "File";
-    file.children = items;
-    return {{file}, ReadOutcome::complete};
-}
-
-class PracticeViewTest : public testing::Test {
-  protected:
-    void open() {
-        defineKeys(desk.desktop.keyReading);
-        view = new PracticeView(
-            desk.model, desk.themes, keyboard(),
-            [](const AppSheet& sheet, const UsageRecords&, const PracticeDeck::Ids&) {
-                return sheet.entries;
-            },
-            &window);
-        view->resize(480, 400);
-        window.show();
-        window.activateWindow();
-        QApplication::processEvents();
-    }
-    /// Has the application's menus read.
-    void read(std::int64_t pid, const std::string& name, const MenuReading& menus) {
-        const RunningApp app{pid, "org.example." + name, name, {}};
-        desk.desktop.menus.answer(pid, menus);
-        desk.desktop.front.setCurrent(app);
-        desk.desktop.access.setTrusted(true);
-        desk.model.refreshTrust();
-        desk.model.frontAppChanged(app);
-        desk.desktop.background.runAll();
-        QApplication::processEvents();
-    }
-    void readWriter() { read(2, "Writer", menusWith({command("Save", "S"), command("Quit", "Q")})); }
-
-    QStringList texts() const {
-        QStringList texts;
-        for (const auto* label : view->findChildren<QLabel*>())
-            if (label->isVisible() && !label->text().isEmpty())
-                texts.append(label->text());
-        return texts;
-    }
-    /// As the mouse does.
-    void showAnswer() {
-        for (auto* button : view->findChildren<QAbstractButton*>())
-            if (button->isVisible() && button->text() == u"Show Answer"_s)
-                QTest::mouseClick(button, Qt::LeftButton);
-    }
-    QStringList buttons() const {
-        QStringList labels;
-        for (const auto* button : view->findChildren<QAbstractButton*>())
-            if (button->isVisible())
-                labels.append(button->text());
-        return labels;
-    }
-    static void press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) { typeKey(key, held); }
-    AnswerInput::Needs keyboard() {
-        return {desk.desktop.keyReading, desk.desktop.keyboardGrab, desk.desktop.timers};
-    }
-    const QLabel* label(const QString& text) const {
-        for (const auto* label : view->findChildren<QLabel*>())
-            if (label->isVisible() && label->text() == text)
-                return label;
-        return nullptr;
-    }
-    UsageRecord record(const char* id) const {
-        return desk.model.usage().record("org.example.Writer", id).value_or(UsageRecord());
-    }
-
-    ViewDesk desk;
-    QWidget window;
-    PracticeView* view = nullptr;
-};
 
 TEST_F(PracticeViewTest, SaysHowToBeginWithoutAnyApp) {
     open();
@@ -162,6 +71,31 @@ TEST_F(PracticeViewTest, ARightAnswerIsSaidAndCounted) {
     EXPECT_EQ(record("File › Save").practiceRight, 1);
     press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(record("File › Save").practiceRight, 1) << "while the answer is shown";
+}
+
+TEST_F(PracticeViewTest, AnAnswerThatIsShownLeavesNoKeyToShortcuts) {
+    readWriter();
+    open();
+    desk.desktop.keyReading.define(0, {.characters = "w", .keyCode = 13});
+    int closings = 0;
+    const QShortcut closing(QKeySequence(Qt::CTRL | Qt::Key_W), &window, [&] { ++closings; });
+    press(Qt::Key_Return);
+    const auto pressClose = [] {
+        QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_W, Qt::ControlModifier, {}, false);
+        QTest::simulateEvent(QApplication::focusWidget(), false, Qt::Key_W, Qt::ControlModifier, {}, false);
+    };
+    pressClose();
+    pressClose();
+    EXPECT_EQ(record("File › Save").practiceWrong, 1);
+    EXPECT_EQ(closings, 0);
+    press(Qt::Key_Return);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    pressClose();
+    EXPECT_EQ(closings, 0);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(view->round().isOver());
+    pressClose();
+    EXPECT_EQ(closings, 1) << "with the results";
 }
 
 TEST_F(PracticeViewTest, AWrongAnswerTellsWhatWasPressedAndComesAgain) {
@@ -308,6 +242,55 @@ TEST_F(PracticeViewTest, AnAppWithoutPractisableShortcutsIsSaidSo) {
     QApplication::processEvents();
     QTest::mouseClick(view->findChild<QAbstractButton*>(), Qt::LeftButton);
     EXPECT_THAT(texts(), Contains(u"Writer has no shortcuts to practise."_s));
+}
+
+TEST_F(PracticeViewTest, ReturnGoesOnWhereverElseTheKeyboardIs) {
+    readWriter();
+    open();
+    press(Qt::Key_Return);
+    appPicker().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(view->round().isWaiting()) << "it gives no answer away";
+    press(Qt::Key_S, Qt::ControlModifier);
+    appPicker().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(view->round().index(), 1U);
+    press(Qt::Key_S, Qt::ControlModifier);
+    appPicker().setFocus();
+    press(Qt::Key_Enter);
+    EXPECT_TRUE(view->round().isOver());
+    appPicker().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(view->round().isWaiting());
+    EXPECT_EQ(view->round().index(), 0U);
+}
+
+TEST_F(PracticeViewTest, ApplicationsAreSortedAsPeopleDo) {
+    read(3, "App 10", menusWith({command("Save", "S")}));
+    read(4, "geany", menusWith({command("Save", "S")}));
+    read(5, "GIMP", menusWith({command("Save", "S")}));
+    read(6, "App 9", menusWith({command("Save", "S")}));
+    open();
+    const auto& apps = *view->findChild<QComboBox*>();
+    QStringList names;
+    for (int index = 0; index < apps.count(); ++index)
+        names.append(apps.itemText(index));
+    EXPECT_THAT(names, ElementsAre(u"App 9"_s, u"App 10"_s, u"geany"_s, u"GIMP"_s));
+}
+
+TEST_F(PracticeViewTest, AnAppWithoutANameIsCalledByItsIdentifier) {
+    readApp(
+        desk, {.bundleID = "org.example.nameless",
+               .appName = {},
+               .entries = {{{"File", "Save"}, {Modifiers::control, Key::character("S")}, true}}});
+    view = new PracticeView(
+        desk.model, desk.themes, keyboard(),
+        [](const auto&, const auto&, const auto&) { return std::vector<MenuEntry>(); }, &window);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(view->findChild<QComboBox*>()->itemText(0), u"org.example.nameless"_s);
+    QTest::mouseClick(view->findChild<QAbstractButton*>(), Qt::LeftButton);
+    EXPECT_THAT(texts(), Contains(u"org.example.nameless has no shortcuts to practise."_s));
 }
 
 TEST_F(PracticeViewTest, ErasingEverythingLeavesNothingToPractise) {

@@ -29,18 +29,26 @@ struct X11KeyReadingTest : X11Fixture {
         keys = std::make_unique<X11KeyReading>(*keyboard, background, x11Display());
     }
     void follow() {
-        following = keys->follow([this] { ++changes; });
+        following = keys->follow([this] {
+            ++changes;
+            printedY = printedOn("Y");
+        });
         ASSERT_TRUE(waitFor([this] { return changes > 0; }));
     }
     std::string read(std::uint32_t key, std::uint32_t state) {
         const auto stroke = keys->stroke({key, state});
         return stroke ? stroke->modifiers.glyphs() + stroke->characters : "none";
     }
+    std::string printedOn(const char* key) {
+        const auto printed = keys->printed();
+        return printed ? printed->keys.at(KeyCodes::ofCharacter(key).value_or(-1)).plain : "";
+    }
 
     ThreadBackground background;
     std::unique_ptr<X11Keyboard> keyboard;
     std::unique_ptr<X11KeyReading> keys;
     int changes = 0;
+    std::string printedY; ///< when a change was last told
     Subscription following;
 };
 
@@ -89,9 +97,19 @@ TEST_F(X11KeyReadingTest, AnotherMapIsTold) {
     const int before = changes;
     client->changeSymbol(keyCode(KEY_A), XKB_KEY_q);
     ASSERT_TRUE(waitFor([&] { return changes > before && read(keyCode(KEY_A), withControl) == "⌃q"; }));
-    const auto printed = keys->printed();
-    ASSERT_TRUE(printed);
-    EXPECT_EQ(printed->keys.at(KeyCodes::ofCharacter("A").value_or(-1)).plain, "q");
+    EXPECT_EQ(printedOn("A"), "q");
+}
+
+TEST_F(X11KeyReadingTest, AnotherLayoutIsTold) {
+    client->changeSymbols(keyCode(KEY_Y), {XKB_KEY_y, XKB_KEY_Y, XKB_KEY_z, XKB_KEY_Z});
+    settle();
+    follow();
+    ASSERT_TRUE(waitFor([this] { return read(keyCode(KEY_Y), inSecondLayout) == "z"; }));
+    EXPECT_EQ(printedY, "y");
+    client->lockGroup(1);
+    EXPECT_TRUE(waitFor([this] { return printedY == "z"; }));
+    client->lockGroup(0);
+    EXPECT_TRUE(waitFor([this] { return printedY == "y"; }));
 }
 
 } // namespace
