@@ -51,7 +51,7 @@ class PracticeTest(OwnWindowsTestCase):
         wait_until("the practice window in front", lambda: self.has_front_window(self.quillon))
 
     def begin_round(self):
-        self.control("push button", "New Round")
+        self.wait_state("push button", "New Round", "focused")
         desktop.press("Return")
         self.wait_says(EVERY_KEY)
 
