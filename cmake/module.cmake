@@ -94,9 +94,9 @@ function(quillon_program name)
 endfunction()
 
 # quillon_library(NAME [QT] SOURCES... LIBRARIES...) makes a library that programs load when they first need it, in
-# build/<preset>/lib/quillon. Its name has the version: a program that still runs when a newer one is installed does
-# not take the newer one's. Programs find it in ${QUILLON_LIBRARIES}, as seen from their own folder.
-set(QUILLON_LIBRARIES ../lib/quillon)
+# build/<preset>/lib/quillon/modules. Its name has the version: a program that still runs when a newer one is installed
+# does not take the newer one's. Programs find it in ${QUILLON_LIBRARIES}, as seen from their own folder.
+set(QUILLON_LIBRARIES ../lib/quillon/modules)
 function(quillon_library name)
   cmake_parse_arguments(arg "QT" "" "SOURCES;LIBRARIES" ${ARGN})
   add_library(${name} MODULE ${arg_SOURCES})

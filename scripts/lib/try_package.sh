@@ -38,7 +38,7 @@ check_libraries() {
     local plugin missing
     plugin=$(find /usr/lib -name libqxcb.so)
     [[ -n $plugin ]] || fail "Qt's plugin for X11 is missing"
-    missing=$(ldd /usr/bin/quillon /usr/lib/quillon/*.so "$plugin" | grep 'not found' || true)
+    missing=$(ldd /usr/bin/quillon /usr/lib/quillon/modules/*.so "$plugin" | grep 'not found' || true)
     [[ -z $missing ]] || fail "libraries are missing: $missing"
     [[ -n $(find /usr/lib -name libqsvg.so) ]] || fail "Qt's plugin for SVG is missing"
 }

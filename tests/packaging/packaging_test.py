@@ -28,7 +28,7 @@ def run(*command, **options):
 
 INSTALLED = {
     "bin/quillon",
-    f"lib/quillon/quillon_web-{VERSION}.so",
+    f"lib/quillon/modules/quillon_web-{VERSION}.so",
     f"share/applications/{NAME}.desktop",
     f"share/metainfo/{NAME}.metainfo.xml",
     f"share/dbus-1/services/{NAME}.service",
