@@ -130,9 +130,22 @@ ExitCode print(
     return ExitCode::success;
 }
 
+/// The menus of `app`. One that does not answer at all may only be busy, and a command can wait a little
+/// longer than a program with windows to draw: it is asked a few times.
+MenuReading readPatiently(const RunningApp& app, MenuReader& menuReader) {
+    constexpr int mostReadings = 3;
+    MenuReading reading;
+    for (int i = 0; i < mostReadings; ++i) {
+        reading = menuReader.readMenus(app, {});
+        if (reading.outcome != ReadOutcome::partial || !reading.menuBar.empty())
+            break;
+    }
+    return reading;
+}
+
 /// The whole sheet of `app`. Says what it lacks; without entries there is none to print.
 AppSheet readSheet(const RunningApp& app, MenuReader& menuReader, const Clock& clock, Output& output) {
-    const MenuReading reading = menuReader.readMenus(app, {});
+    const MenuReading reading = readPatiently(app, menuReader);
     AppSheet sheet{
         app.bundleID, app.name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
         clock.now()};

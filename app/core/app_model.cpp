@@ -74,7 +74,10 @@ void AppModel::start() {
     m_trustChange = m_services.accessibility.onChanged([this] { refreshTrust(); });
     applyWatchers();
     refreshTrust();
-    m_trustTimer = m_services.timers.every(trustInterval, [this] { refreshTrust(); });
+    m_trustTimer = m_services.timers.every(trustInterval, [this] {
+        refreshTrust();
+        retryReading();
+    });
 }
 
 void AppModel::applyWatchers() {
@@ -121,6 +124,8 @@ void AppModel::refreshTrust() {
 }
 
 bool AppModel::reading() const {
+    if (m_isRetrying)
+        return false;
     return current() ? m_readings.isReading(current()->bundleID) : !m_readings.isIdle();
 }
 
@@ -129,18 +134,37 @@ void AppModel::frontAppChanged(const RunningApp& app) {
         return;
     m_sheets.frontIs(app);
     if (m_trusted)
-        m_readings.read(app);
+        startReading(app);
     tellDifferences();
 }
 
 void AppModel::read(const RunningApp& app) {
     if (!m_trusted || app.pid == m_services.ownPid)
         return;
-    m_readings.read(app);
+    startReading(app);
     tellDifferences();
 }
 
+void AppModel::startReading(const RunningApp& app) {
+    m_isRetrying = false;
+    m_retryPace.restart();
+    m_readings.read(app);
+}
+
+/// Reads the application in front once more when it did not answer: it may only have been busy.
+void AppModel::retryReading() {
+    const auto front = m_services.frontApplication.current();
+    const bool isUnanswered =
+        m_trusted && !answered() && front && current() && front->bundleID == current()->bundleID;
+    if (!isUnanswered || m_readings.isReading(front->bundleID) || !m_retryPace.tick())
+        return;
+    m_isRetrying = true;
+    m_readings.read(*front);
+}
+
 void AppModel::sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
+    if (current() && current()->bundleID == app.bundleID)
+        m_isRetrying = false;
     const auto front = m_services.frontApplication.current();
     const bool isKept = m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app));
     if (isKept)

@@ -10,6 +10,7 @@
 #include "nudge_toast_controller.h"
 #include "overlay_controller.h"
 #include "reading_queue.h"
+#include "retry_pace.h"
 #include "settings.h"
 #include "shared_sheets.h"
 #include "typed_watcher.h"
@@ -125,7 +126,8 @@ class AppModel {
     const std::optional<AppSheet>& current() const { return m_sheets.current(); }
     /// The sheets read so far, by bundle identifier; none is empty.
     const SharedSheets& sheets() const { return m_sheets.sheets(); }
-    /// Whether the menus of the current application are being read (of any, while none is current).
+    /// Whether the menus of the current application are being read (of any, while none is current). Not while
+    /// one that did not answer is asked again.
     bool reading() const;
     /// Whether the current application answered to the end when it was read last. True until then.
     bool answered() const { return m_sheets.answered(); }
@@ -203,6 +205,8 @@ class AppModel {
     void save();
     void applyWatchers();
     void settingChanged(Setting setting);
+    void startReading(const RunningApp& app);
+    void retryReading();
     void sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome);
     void tellDifferences();
     void setSticky(bool sticky);
@@ -213,6 +217,8 @@ class AppModel {
     CurrentSheet m_sheets;
     LearnedRecords m_records;
     ReadingQueue m_readings;
+    RetryPace m_retryPace;
+    bool m_isRetrying = false;            ///< the current application is being read because it did not answer
     std::shared_ptr<DataFolder> m_folder; ///< shared with a write that outlives the model
     BackgroundWrites m_writes;
     DelayedSave m_save;

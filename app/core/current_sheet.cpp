@@ -62,6 +62,7 @@ void CurrentSheet::clear() {
     m_sheets.clear();
     m_usedInOrder.clear();
     m_entries = 0;
+    m_answered = true;
     if (std::exchange(m_current, std::nullopt))
         ++m_revision;
 }

@@ -214,6 +214,34 @@ TEST_F(CommandsTest, AnApplicationWithoutShortcutsHasNoSheet) {
     EXPECT_EQ(sheet(), ExitCode::noShortcuts);
     EXPECT_EQ(results.text(), "");
     EXPECT_EQ(messages.text(), "quillon: Sketch does not answer; try again when it does\n");
+    EXPECT_EQ(reader.asked().size(), 3U);
+}
+
+TEST_F(CommandsTest, AnApplicationWithoutMenusIsAskedOnce) {
+    reader.answer(10, {{}, ReadOutcome::noMenuBar});
+    EXPECT_EQ(sheet(), ExitCode::noShortcuts);
+    EXPECT_EQ(reader.asked().size(), 1U);
+}
+
+TEST_F(CommandsTest, WhatWasReadOfAnApplicationThatStoppedAnsweringIsPrinted) {
+    MenuReading reading = menus({item("New", "N")});
+    reading.outcome = ReadOutcome::partial;
+    reader.answer(10, reading);
+    EXPECT_EQ(sheet(), ExitCode::success);
+    EXPECT_NE(results.text().find("New"), std::string::npos);
+    EXPECT_EQ(messages.text(), "quillon: Sketch stopped answering; the sheet is not complete\n");
+    EXPECT_EQ(reader.asked().size(), 1U);
+}
+
+TEST_F(CommandsTest, AnApplicationThatWasBusyForAMomentHasItsSheet) {
+    struct BusyAtFirst final : MenuReader {
+        int readings = 0;
+        MenuReading readMenus(const RunningApp&, std::stop_token) override {
+            return ++readings < 3 ? MenuReading{{}, ReadOutcome::partial} : menus({item("New", "N")});
+        }
+    } busy;
+    EXPECT_EQ(runSheet({}, {applications, busy, exports, clock}, folder.path(), output), ExitCode::success);
+    EXPECT_EQ(messages.text(), "");
 }
 
 TEST_F(CommandsTest, JsonIsForProgramsAndNotForTerminals) {

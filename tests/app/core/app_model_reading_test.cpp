@@ -174,6 +174,70 @@ TEST_F(AppModelTest, KeepsAGoodSheetWhenTheApplicationStopsAnswering) {
     EXPECT_EQ(entriesShown(), 3U);
 }
 
+TEST_F(AppModelTest, AsksAnApplicationAgainThatDidNotAnswer) {
+    answer(sketch, 0, ReadOutcome::partial);
+    startWith(sketch);
+    EXPECT_FALSE(model.answered());
+    answer(sketch, 3);
+    desktop.timers.advance(Seconds(2));
+    EXPECT_FALSE(model.reading()) << "what is shown says that it does not answer, and stays until it does";
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 3U);
+    EXPECT_TRUE(model.answered());
+    desktop.timers.advance(Seconds(100));
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+}
+
+TEST_F(AppModelTest, AsksAnApplicationThatStaysStoppedEverMoreRarely) {
+    answer(sketch, 0, ReadOutcome::partial);
+    startWith(sketch);
+    const auto readingsWithin = [this](int seconds) {
+        std::size_t readings = 0;
+        for (int at = 0; at < seconds; at += 2) {
+            desktop.timers.advance(Seconds(2));
+            readings += desktop.background.waiting();
+            desktop.background.runAll();
+        }
+        return readings;
+    };
+    EXPECT_EQ(readingsWithin(14), 3U);
+    EXPECT_EQ(readingsWithin(640), 11U);
+    model.showOverlay(Stickiness::held);
+    EXPECT_TRUE(model.reading()) << "the user asked";
+    desktop.background.runAll();
+    EXPECT_EQ(readingsWithin(14), 3U);
+}
+
+TEST_F(AppModelTest, AsksNoneAgainThatIsInFrontNoMore) {
+    answer(sketch, 0, ReadOutcome::partial);
+    startWith(sketch);
+    answer(writer, 5);
+    desktop.front.activate(writer);
+    desktop.background.runAll();
+    desktop.timers.advance(Seconds(100));
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+}
+
+TEST_F(AppModelTest, ASecondQuestionIsNoReadingThatTheNextApplicationInherits) {
+    answer(sketch, 0, ReadOutcome::partial);
+    startWith(sketch);
+    desktop.timers.advance(Seconds(2));
+    answer(writer, 5);
+    desktop.front.activate(writer);
+    EXPECT_TRUE(model.reading());
+    desktop.background.runAll();
+    EXPECT_FALSE(model.reading());
+    EXPECT_EQ(entriesShown(), 5U);
+}
+
+TEST_F(AppModelTest, ForgettingEverythingForgetsWhoDidNotAnswer) {
+    answer(sketch, 0, ReadOutcome::partial);
+    startWith(sketch);
+    model.eraseEverything();
+    desktop.timers.advance(Seconds(2));
+    EXPECT_TRUE(model.reading());
+}
+
 TEST_F(AppModelTest, TakesAShorterSheetOfAnApplicationThatSharesMoreThanIsRead) {
     answer(sketch, 3, ReadOutcome::limited);
     startWith(sketch);

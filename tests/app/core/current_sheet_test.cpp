@@ -68,6 +68,9 @@ TEST(CurrentSheetTest, RemembersWhetherTheCurrentApplicationAnswered) {
     sheets.arrived(appOf("a"), sheetOf("a", 0), ReadOutcome::partial, true);
     sheets.arrived(appOf("a"), sheetOf("a", 0), ReadOutcome::noMenuBar, true);
     EXPECT_TRUE(sheets.answered());
+    sheets.arrived(appOf("a"), sheetOf("a", 0), ReadOutcome::partial, true);
+    sheets.clear();
+    EXPECT_TRUE(sheets.answered()) << "of none";
 }
 
 TEST(CurrentSheetTest, TheRevisionTellsAnotherSheetFromTheSame) {

@@ -1,0 +1,31 @@
+#include <quillon/app/core/retry_pace.h>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quillon {
+namespace {
+
+std::vector<int> triesWithin(RetryPace& pace, int ticks) {
+    std::vector<int> tries;
+    for (int tick = 1; tick <= ticks; ++tick)
+        if (pace.tick())
+            tries.push_back(tick);
+    return tries;
+}
+
+TEST(RetryPaceTest, TriesEverMoreRarelyAndGoesOn) {
+    RetryPace pace;
+    EXPECT_EQ(triesWithin(pace, 130), (std::vector{1, 3, 7, 15, 31, 63, 95, 127}));
+}
+
+TEST(RetryPaceTest, BeginsAgain) {
+    RetryPace pace;
+    triesWithin(pace, 20);
+    pace.restart();
+    EXPECT_EQ(triesWithin(pace, 4), (std::vector{1, 3}));
+}
+
+} // namespace
+} // namespace quillon
