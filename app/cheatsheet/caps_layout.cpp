@@ -14,10 +14,6 @@ namespace {
 constexpr double unit = PageFonts::unitsPerPoint;
 const double capHeight = CapMetrics::heightPerSize * PageFonts::size(PageFont::cap);
 
-CapMetrics metricsOf(const PageFonts& fonts) {
-    return {fonts.font(PageFont::cap), PageFonts::size(PageFont::cap) * unit};
-}
-
 /// Of the drawing, in points.
 QSizeF signSize(const QString& sign, PageFont font) {
     return QSizeF(KeyPictograms::inkSize(sign, PageFonts::size(font) * unit)) / unit;
@@ -25,11 +21,10 @@ QSizeF signSize(const QString& sign, PageFont font) {
 
 /// How far below the middle of a cap the line is that its words stand on. Letters and digits have their
 /// capitals in the middle, other marks themselves.
-double belowMiddle(const QString& text, const QFontMetricsF& metrics) {
+double belowMiddle(const QString& text, const PageFonts& fonts) {
     if (standsOnLine(text))
-        return metrics.capHeight() / 2 / unit;
-    const QRectF ink = metrics.tightBoundingRect(text);
-    return -ink.center().y() / unit;
+        return fonts.capHeight(PageFont::cap) / 2;
+    return -fonts.capInk(text).center().y() / unit;
 }
 
 QRectF middled(QPointF middle, QSizeF size) {
@@ -37,9 +32,7 @@ QRectF middled(QPointF middle, QSizeF size) {
 }
 
 /// What a cap shows whose left end and middle are at `at`.
-Placed shownOn(
-    const QString& cap, QPointF at, double width, double scale, const PageFonts& fonts,
-    const QFontMetricsF& metrics) {
+Placed shownOn(const QString& cap, QPointF at, double width, double scale, const PageFonts& fonts) {
     const QPointF middle(at.x() + width / 2, at.y());
     if (KeyPictograms::has(cap))
         return PlacedSign{
@@ -50,7 +43,7 @@ Placed shownOn(
             .scale = scale};
     const double textWidth = fonts.width(PageFont::cap, cap) * scale;
     return PlacedText{
-        .start = {middle.x() - textWidth / 2, at.y() + belowMiddle(cap, metrics) * scale},
+        .start = {middle.x() - textWidth / 2, at.y() + belowMiddle(cap, fonts) * scale},
         .width = textWidth,
         .font = PageFont::cap,
         .text = cap,
@@ -84,23 +77,21 @@ double partWidth(const QString& part, PageFont font, const PageFonts& fonts) {
 } // namespace
 
 CapRow CapRow::of(const QStringList& caps, double room, const PageFonts& fonts) {
-    const CapMetrics metrics = metricsOf(fonts);
     double width = CapMetrics::gap * static_cast<double>(std::max<qsizetype>(0, caps.size() - 1));
     for (const QString& cap : caps)
-        width += metrics.width(cap) / unit;
+        width += fonts.capWidth(cap);
     const double scale = std::min(1.0, room / std::max(width, 1.0));
     return {caps, scale, width * scale};
 }
 
 void CapRow::place(QPointF at, const PageFonts& fonts, PageLayout& page) const {
-    const CapMetrics metrics = metricsOf(fonts);
     double left = at.x();
     PlacedSign* before = nullptr;
     page.reserve(page.size() + 2 * static_cast<std::size_t>(caps.size()));
     for (const QString& cap : caps) {
-        const double capWidth = metrics.width(cap) / unit * scale;
+        const double capWidth = fonts.capWidth(cap) * scale;
         page.emplace_back(PlacedCap{middled({left + capWidth / 2, at.y()}, {capWidth, capHeight * scale})});
-        page.push_back(shownOn(cap, {left, at.y()}, capWidth, scale, fonts, metrics.font()));
+        page.push_back(shownOn(cap, {left, at.y()}, capWidth, scale, fonts));
         // Up to the next one, so that no gap parts the signs of one shortcut for readers that search.
         if (before)
             before->width = startOf(page.back()) - before->start.x();

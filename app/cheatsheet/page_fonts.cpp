@@ -63,14 +63,25 @@ PageFonts::PageFonts()
           return std::array{made(PageFont::name),  made(PageFont::legend), made(PageFont::heading),
                             made(PageFont::title), made(PageFont::cap),    made(PageFont::note),
                             made(PageFont::footer)};
-      }()) {}
+      }()),
+      m_caps(font(PageFont::cap), size(PageFont::cap) * unitsPerPoint) {}
 
 double PageFonts::size(PageFont which) {
     return styleOf(which).size;
 }
 
 double PageFonts::width(PageFont which, const QString& text) const {
-    return one(which).metrics.horizontalAdvance(text) / unitsPerPoint;
+    const auto [known, isNew] = one(which).widths.try_emplace(text);
+    if (isNew)
+        known->second = one(which).metrics.horizontalAdvance(text) / unitsPerPoint;
+    return known->second;
+}
+
+double PageFonts::capWidth(const QString& cap) const {
+    const auto [known, isNew] = m_capWidths.try_emplace(cap);
+    if (isNew)
+        known->second = m_caps.width(cap) / unitsPerPoint;
+    return known->second;
 }
 
 double PageFonts::capHeight(PageFont which) const {
@@ -92,8 +103,10 @@ double PageFonts::lineHeight(PageFont which) const {
 QString PageFonts::elided(PageFont which, const QString& text, double room) const {
     if (room <= 0)
         return {};
-    const QString shortened =
-        one(which).metrics.elidedText(beginning(text, longestLine), Qt::ElideRight, room * unitsPerPoint);
+    const QString looked = beginning(text, longestLine);
+    if (looked.size() == text.size() && width(which, text) <= room)
+        return text;
+    const QString shortened = one(which).metrics.elidedText(looked, Qt::ElideRight, room * unitsPerPoint);
     return width(which, shortened) <= room ? shortened : QString();
 }
 

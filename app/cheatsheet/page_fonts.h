@@ -1,11 +1,14 @@
 #pragma once
 
+#include <quillon/app/views/components/cap_metrics.h>
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QString>
 #include <QStringList>
 
 #include <array>
+#include <unordered_map>
 
 namespace quillon {
 
@@ -21,7 +24,8 @@ enum class PageFont {
 };
 
 /// The fonts of printed pages. All measures are in points. Words are measured and drawn large and scaled
-/// down, so that they come out the same on every device.
+/// down, so that they come out the same on every device. Widths are measured once: measuring is most of the
+/// work on a page, and what is measured comes again. Not for two threads at once.
 class PageFonts {
   public:
     /// How many units of `font` are a point.
@@ -34,6 +38,10 @@ class PageFonts {
     static double size(PageFont which);
 
     double width(PageFont which, const QString& text) const;
+    /// Of a key cap that shows this.
+    double capWidth(const QString& cap) const;
+    /// Where the ink of what a cap shows is, in units.
+    QRectF capInk(const QString& cap) const { return m_caps.font().tightBoundingRect(cap); }
     double capHeight(PageFont which) const;
     double ascent(PageFont which) const;
     double descent(PageFont which) const;
@@ -47,14 +55,19 @@ class PageFonts {
     QStringList wrapped(PageFont which, const QString& text, double room, int most) const;
 
   private:
+    using Widths = std::unordered_map<QString, double>;
+
     struct One {
         QFont font;
         QFontMetricsF metrics;
+        mutable Widths widths = {};
     };
 
     const One& one(PageFont which) const { return m_fonts[static_cast<std::size_t>(which)]; }
 
     std::array<One, 7> m_fonts;
+    CapMetrics m_caps;
+    mutable Widths m_capWidths;
 };
 
 } // namespace quillon

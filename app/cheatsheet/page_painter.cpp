@@ -99,6 +99,17 @@ QPainterPath shortened(const QPainterPath& path) {
     return shorter;
 }
 
+/// A pen that never comes down: its first dash begins farther along than any drawing goes. Documents tell
+/// what is filled in coordinates of its own, in which the same drawing is the same numbers everywhere, only
+/// where a pen is at hand.
+QPen raisedPen(const QColor& colour) {
+    constexpr double farther = 1e5;
+    QPen pen(colour, 1, Qt::SolidLine, Qt::FlatCap);
+    pen.setDashPattern({1, farther});
+    pen.setDashOffset(2);
+    return pen;
+}
+
 /// A drawing, from the origin of a place of its own.
 struct Drawing {
     QPointF at; ///< in whole units
@@ -128,7 +139,7 @@ class Drawings {
     void operator()(const PlacedText&) {}
 
     void operator()(const PlacedSign& sign) {
-        m_signs[sign.ink].addPath(m_signPaths.of(sign).translated(inUnits(sign.box.topLeft())));
+        m_signs[sign.ink].push_back({inUnits(sign.box.topLeft()), m_signPaths.of(sign)});
     }
 
     void operator()(const PlacedCap& cap) {
@@ -145,7 +156,7 @@ class Drawings {
         static const QPainterPath path = pinPath();
         const QRectF box = inUnits(pin.box);
         const auto fit = QTransform::fromScale(box.width() / pinUnits, box.height() / pinUnits);
-        m_signs[PageInk::secondary].addPath(shortened(fit.map(path)).translated(box.topLeft()));
+        m_signs[PageInk::secondary].push_back({box.topLeft(), shortened(fit.map(path))});
     }
 
     void operator()(const PlacedRule& rule) {
@@ -157,26 +168,29 @@ class Drawings {
         painter.drawLines(m_rules);
         painter.setPen(QPen(colours.capBorder, borderWidth * unit));
         painter.setBrush(colours.capFill);
-        drawCaps(painter);
-        for (const auto& [ink, path] : m_signs)
-            painter.fillPath(path, colours.of(ink));
+        drawEach(painter, m_caps);
+        for (const auto& [ink, drawings] : m_signs) {
+            painter.setPen(raisedPen(colours.of(ink)));
+            painter.setBrush(colours.of(ink));
+            drawEach(painter, drawings);
+        }
         painter.setBrush(Qt::NoBrush);
     }
 
   private:
-    /// Each in coordinates of its own: in documents, caps of one size are the same numbers everywhere.
-    void drawCaps(QPainter& painter) const {
+    /// Each in coordinates of its own.
+    static void drawEach(QPainter& painter, const std::vector<Drawing>& drawings) {
         const QTransform page = painter.transform();
-        for (const Drawing& cap : m_caps) {
-            painter.setTransform(QTransform::fromTranslate(cap.at.x(), cap.at.y()) * page);
-            painter.drawPath(cap.path);
+        for (const Drawing& drawing : drawings) {
+            painter.setTransform(QTransform::fromTranslate(drawing.at.x(), drawing.at.y()) * page);
+            painter.drawPath(drawing.path);
         }
         painter.setTransform(page);
     }
 
     SignPaths m_signPaths;
     std::vector<Drawing> m_caps;
-    std::map<PageInk, QPainterPath> m_signs;
+    std::map<PageInk, std::vector<Drawing>> m_signs;
     QList<QLineF> m_rules;
 };
 

@@ -1,9 +1,13 @@
+#include <quillon/app/cheatsheet/page_layout.h>
 #include <quillon/app/cheatsheet/pdf_document.h>
+#include <quillon/app/views/components/key_pictograms.h>
 #include <quillon/tests/app/cheatsheet/support/pdf_tools.h>
 #include <quillon/tests/app/cheatsheet/support/printed_samples.h>
 
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QPainter>
 #include <QRegularExpression>
 
 #include <set>
@@ -121,6 +125,74 @@ TEST(PdfDocument, SizesAreExactInTheFile) {
             sizes.insert(match.captured(1));
     }
     EXPECT_EQ(sizes, (std::set<QString>{u"20"_s, u"9"_s, u"10.5"_s, u"8"_s, u"9.5"_s, u"8.5"_s}));
+}
+
+constexpr int dotsPerInch = 300;
+
+/// What the signs of a page look like, drawn as the screen's are: black on white.
+QImage drawnSigns(const PageLayout& page) {
+    QImage image(2550, 3300, QImage::Format_Grayscale8);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(dotsPerInch / 72.0, dotsPerInch / 72.0);
+    for (const Placed& placed : page)
+        if (const auto* sign = std::get_if<PlacedSign>(&placed)) {
+            const auto [size, path] = KeyPictograms::drawing(sign->sign, 190);
+            const double fit = sign->box.width() / size.width();
+            painter.save();
+            painter.translate(sign->box.topLeft());
+            painter.scale(fit, fit);
+            painter.fillPath(path.simplified(), Qt::black);
+            painter.restore();
+        }
+    return image;
+}
+
+/// Whether the pixel and all around it are of this grey.
+bool isAmid(const QImage& image, int x, int y, int grey) {
+    for (int dy = -1; dy <= 1; ++dy)
+        for (int dx = -1; dx <= 1; ++dx)
+            if (qGray(image.pixel(x + dx, y + dy)) != grey)
+                return false;
+    return true;
+}
+
+struct Ink {
+    int missing = 0;
+    int tooMuch = 0;
+};
+
+/// How many pixels of a sign's box are not the ink or the blank that they should be.
+Ink differences(const QImage& page, const QImage& wanted, const QRectF& box) {
+    const QRect pixels = QRectF(box.topLeft() * dotsPerInch / 72, box.size() * dotsPerInch / 72).toRect();
+    Ink ink;
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y)
+        for (int x = pixels.left(); x <= pixels.right(); ++x) {
+            const bool isInk = qGray(page.pixel(x, y)) < 160; // some are grey, and all caps are lighter
+            ink.missing += isAmid(wanted, x, y, 0) && !isInk ? 1 : 0;
+            ink.tooMuch += isAmid(wanted, x, y, 255) && isInk ? 1 : 0;
+        }
+    return ink;
+}
+
+TEST(PdfDocument, SignsAreDrawnAsOnTheScreen) {
+    const PrintedSheet sheet = printed(hostileSheet());
+    const PageLayout page = layOutPage(sheet, 1, PageFonts());
+    const QImage wanted = drawnSigns(page);
+    const PdfTools tools(documentOf(sheet));
+    std::set<QString> signs;
+    for (const QImage& image : {tools.drawnByPoppler(1, dotsPerInch), tools.drawnByMuPdf(1, dotsPerInch)}) {
+        ASSERT_EQ(image.size(), wanted.size());
+        for (const Placed& placed : page)
+            if (const auto* sign = std::get_if<PlacedSign>(&placed)) {
+                const Ink ink = differences(image, wanted, sign->box);
+                EXPECT_EQ(ink.missing, 0) << sign->sign.toStdString() << " at " << sign->box.x();
+                EXPECT_EQ(ink.tooMuch, 0) << sign->sign.toStdString() << " at " << sign->box.x();
+                signs.insert(sign->sign);
+            }
+    }
+    EXPECT_GE(signs.size(), 10U);
 }
 
 } // namespace

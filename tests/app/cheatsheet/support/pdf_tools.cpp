@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 namespace quillon {
@@ -40,6 +41,24 @@ QString PdfTools::info(const QString& name) const {
         if (line.startsWith(name + u':'))
             return line.mid(name.size() + 1).trimmed();
     return {};
+}
+
+QImage PdfTools::drawnByPoppler(int page, int dotsPerInch) const {
+    const QTemporaryDir folder;
+    const QString number = QString::number(page);
+    said(
+        u"pdftoppm"_s, {u"-gray"_s, u"-singlefile"_s, u"-r"_s, QString::number(dotsPerInch), u"-f"_s, number,
+                        u"FILE"_s, folder.filePath(u"page"_s)});
+    return QImage(folder.filePath(u"page.pgm"_s));
+}
+
+QImage PdfTools::drawnByMuPdf(int page, int dotsPerInch) const {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"page.pgm"_s);
+    said(
+        u"mutool"_s, {u"draw"_s, u"-q"_s, u"-c"_s, u"gray"_s, u"-r"_s, QString::number(dotsPerInch), u"-o"_s,
+                      file, u"FILE"_s, QString::number(page)});
+    return QImage(file);
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +22,10 @@ class PdfTools {
         const char* complaint = "") const;
     /// What `pdfinfo` says under this name; empty for nothing.
     QString info(const QString& name) const;
+
+    /// The page, counted from 1, as Poppler and as MuPDF draw it, in greys.
+    QImage drawnByPoppler(int page, int dotsPerInch) const;
+    QImage drawnByMuPdf(int page, int dotsPerInch) const;
 
   private:
     QString m_file;
