@@ -20,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int groundInset = 8; ///< of a row's background
 constexpr double cornerRadius = 6;
 constexpr double ringWidth = 1.5;
 /// Of a button that stands for nothing that was said, while neither pointer nor keyboard are near.
@@ -111,7 +110,7 @@ void LibraryRowDelegate::paint(
 
 void LibraryRowDelegate::paintGround(
     QPainter& painter, const QStyleOptionViewItem& option, const LibraryRow& row) const {
-    const QRectF ground = QRectF(option.rect).adjusted(groundInset, 1, -groundInset, -1);
+    const QRectF ground = QRectF(LibraryRowLayout::groundOf(row, option.rect)).adjusted(0, 1, 0, -1);
     if (row.kind == LibraryRow::Kind::command && option.state.testFlag(QStyle::State_MouseOver)) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(m_theme.palette.hover);

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int sidePadding = 18;
 constexpr int rowPadding = 4;
+constexpr int groundInset = 8;    ///< of a row's background
 constexpr int statisticsRoom = 8; ///< above the first row
 constexpr int headingRoom = 16;   ///< above a heading
 constexpr int buttonPadding = 6;  ///< around a button's symbol
@@ -19,6 +20,14 @@ constexpr int countsWidth = 90;
 constexpr double countsSize = 11;
 /// How much of a row its keys may take; wider ones are drawn smaller.
 constexpr double mostOfRow = 0.38;
+
+int roomAbove(LibraryRow::Kind kind) {
+    switch (kind) {
+    case LibraryRow::Kind::statistics: return statisticsRoom;
+    case LibraryRow::Kind::heading: return headingRoom;
+    default: return 0;
+    }
+}
 
 int heightOf(const QFont& font) {
     return QFontMetrics(font).height();
@@ -69,6 +78,10 @@ int LibraryRowLayout::height(const LibraryRow& row, int width) const {
     case LibraryRow::Kind::command: break;
     }
     return m_lineHeight + (row.note.isEmpty() ? 0 : m_noteHeight) + 2 * rowPadding;
+}
+
+QRect LibraryRowLayout::groundOf(const LibraryRow& row, const QRect& place) {
+    return place.adjusted(groundInset, roomAbove(row.kind), -groundInset, 0);
 }
 
 QRect LibraryRowLayout::boxOf(const QRect& row) const {

@@ -39,6 +39,8 @@ class LibraryRowLayout {
 
     /// In a list of this width.
     int height(const LibraryRow& row, int width) const;
+    /// What a row's background covers; without the room that keeps it apart from the row before.
+    static QRect groundOf(const LibraryRow& row, const QRect& place);
     /// A row without the room around it; `row` as it lies in the list.
     QRect boxOf(const QRect& row) const;
     CommandPlaces placesOf(const LibraryRow& row, const QRect& box) const;

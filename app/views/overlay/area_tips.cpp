@@ -10,6 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A tip is taken for rich text only when it says so, or its markup would be shown.
+AreaTip tipOf(const QStringList& lines, const QRectF& box) {
+    return {u"<qt>"_s + lines.join(u"<br>"_s) + u"</qt>"_s, box};
+}
+
 std::optional<AreaTip> rowTip(const RowBox& row, const PreparedEntry& entry, const TextMeasure& measure) {
     const RowArranger arranger(measure, row.inner().width());
     if (!arranger.arrange(entry, row.submenu).isElided())
@@ -19,7 +24,7 @@ std::optional<AreaTip> rowTip(const RowBox& row, const PreparedEntry& entry, con
         lines.append(entry.submenu.toHtmlEscaped());
     if (!entry.note.isEmpty())
         lines.append(u"<i>"_s + entry.note.toHtmlEscaped() + u"</i>"_s);
-    return AreaTip{lines.join(u"<br>"_s), row.rect};
+    return tipOf(lines, row.rect);
 }
 
 } // namespace
@@ -38,7 +43,7 @@ std::optional<AreaTip> tipAt(
     const QString& text = heading->text(content);
     if (heading->font(measure).width(text) <= heading->rect.right() - heading->textLeft)
         return std::nullopt;
-    return AreaTip{text.toHtmlEscaped(), heading->rect};
+    return tipOf({text.toHtmlEscaped()}, heading->rect);
 }
 
 } // namespace quillon

@@ -145,7 +145,10 @@ void editNote(LibraryView& view) {
 void addNote(LibraryView& view) {
     chooseLast(view);
     auto& detail = *view.findChild<LibraryDetail*>();
-    detail.press(detail.rows().rowCount() - 1, RowButton::note);
+    int last = detail.rows().rowCount() - 1;
+    while (!detail.rows().hasButtons(detail.rows().index(last)))
+        --last;
+    detail.press(last, RowButton::note);
     makeActive(*view.findChild<NoteEditor*>());
 }
 

@@ -1,6 +1,8 @@
 #include "scenes.h"
 
+#include <quillon/app/views/components/scroll_pane.h>
 #include <quillon/app/views/welcome/welcome_view.h>
+#include <quillon/tests/support/widgets/active_window.h>
 
 #include <QApplication>
 
@@ -14,8 +16,8 @@ namespace {
 
 using Prepare = std::function<void(ViewDesk&)>;
 
-Scene welcome(QString name, Prepare prepare = {}, QSize size = {}) {
-    auto show = [prepare = std::move(prepare), size](ViewDesk& desk) {
+Scene welcome(QString name, Prepare prepare = {}, QSize size = {}, bool isScrolling = false) {
+    auto show = [prepare = std::move(prepare), size, isScrolling](ViewDesk& desk) {
         WelcomeView& view = keep(
             desk, std::make_unique<WelcomeView>(
                       desk.model, desk.themes,
@@ -28,6 +30,10 @@ Scene welcome(QString name, Prepare prepare = {}, QSize size = {}) {
         view.show();
         if (prepare)
             prepare(desk);
+        if (isScrolling) {
+            makeActive(view);
+            view.findChild<ScrollPane*>()->setFocus();
+        }
         return &view;
     };
     return {std::move(name), std::move(show)};
@@ -68,6 +74,7 @@ std::vector<Scene> welcomeScenes() {
         welcome(u"welcome-no-tray"_s, missTray),
         welcome(u"welcome-everything"_s, everything),
         welcome(u"welcome-small"_s, {}, QSize(420, 360)),
+        welcome(u"welcome-small-focus"_s, {}, QSize(420, 360), true),
     };
 }
 
