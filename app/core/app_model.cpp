@@ -124,9 +124,11 @@ void AppModel::refreshTrust() {
 }
 
 bool AppModel::reading() const {
-    if (m_isRetrying)
-        return false;
     return current() ? m_readings.isReading(current()->bundleID) : !m_readings.isIdle();
+}
+
+bool AppModel::retrying() const {
+    return m_retried && current() && m_retried->bundleID == current()->bundleID;
 }
 
 void AppModel::frontAppChanged(const RunningApp& app) {
@@ -146,25 +148,28 @@ void AppModel::read(const RunningApp& app) {
 }
 
 void AppModel::startReading(const RunningApp& app) {
-    m_isRetrying = false;
+    m_retried.reset();
     m_retryPace.restart();
     m_readings.read(app);
 }
 
 /// Reads the application in front once more when it did not answer: it may only have been busy.
 void AppModel::retryReading() {
-    const auto front = m_services.frontApplication.current();
     const bool isUnanswered =
-        m_trusted && !answered() && front && current() && front->bundleID == current()->bundleID;
-    if (!isUnanswered || m_readings.isReading(front->bundleID) || !m_retryPace.tick())
+        m_trusted && current() && !answered() && !m_readings.isReading(current()->bundleID);
+    if (!isUnanswered || !m_retryPace.tick())
         return;
-    m_isRetrying = true;
+    const auto front = m_services.frontApplication.current();
+    if (!front || front->bundleID != current()->bundleID)
+        return;
+    m_retried = *front;
     m_readings.read(*front);
+    tellDifferences();
 }
 
 void AppModel::sheetArrived(const RunningApp& app, AppSheet sheet, ReadOutcome outcome) {
-    if (current() && current()->bundleID == app.bundleID)
-        m_isRetrying = false;
+    if (m_retried && isSameApp(*m_retried, app))
+        m_retried.reset();
     const auto front = m_services.frontApplication.current();
     const bool isKept = m_sheets.arrived(app, std::move(sheet), outcome, front && isSameApp(*front, app));
     if (isKept)
@@ -313,6 +318,7 @@ void AppModel::savePending() {
 void AppModel::eraseEverything() {
     m_records.replace({}, {}, {});
     m_sheets.clear();
+    m_retried.reset();
     m_save.cancel();
     m_writes.finishWith([folder = m_folder] { folder->erase(); });
     tellDifferences();

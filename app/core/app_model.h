@@ -126,11 +126,12 @@ class AppModel {
     const std::optional<AppSheet>& current() const { return m_sheets.current(); }
     /// The sheets read so far, by bundle identifier; none is empty.
     const SharedSheets& sheets() const { return m_sheets.sheets(); }
-    /// Whether the menus of the current application are being read (of any, while none is current). Not while
-    /// one that did not answer is asked again.
+    /// Whether the menus of the current application are being read (of any, while none is current).
     bool reading() const;
     /// Whether the current application answered to the end when it was read last. True until then.
     bool answered() const { return m_sheets.answered(); }
+    /// Whether the current application is being read for no other reason than that it did not answer.
+    bool retrying() const;
     const UsageBook& usage() const { return m_records.usage(); }
     const AnnotationBook& annotations() const { return m_records.annotations(); }
     /// The clicks and typed uses by weeks of the user's calendar.
@@ -218,7 +219,7 @@ class AppModel {
     LearnedRecords m_records;
     ReadingQueue m_readings;
     RetryPace m_retryPace;
-    bool m_isRetrying = false;            ///< the current application is being read because it did not answer
+    std::optional<RunningApp> m_retried;  ///< is being read because it did not answer
     std::shared_ptr<DataFolder> m_folder; ///< shared with a write that outlives the model
     BackgroundWrites m_writes;
     DelayedSave m_save;

@@ -46,7 +46,8 @@ bool CurrentSheet::arrived(const RunningApp& app, AppSheet sheet, ReadOutcome ou
     case SheetArrival::Current::takeNew: setCurrent(sheet); break;
     case SheetArrival::Current::takeCached: setCurrent(*cached->second); break;
     }
-    if (m_current && m_current->bundleID == app.bundleID)
+    const bool wasAsked = outcome != ReadOutcome::unavailable;
+    if (wasAsked && m_current && m_current->bundleID == app.bundleID)
         m_answered = outcome != ReadOutcome::partial;
     if (arrival.store)
         store(std::move(sheet));

@@ -1,29 +1,28 @@
 #pragma once
 
-#include <algorithm>
-
 namespace quillon {
 
-/// When to try again what failed: with the first tick, two ticks after that, then four, and so on. What a
-/// stopped application is asked waits for it in the bus, so it is asked ever more rarely.
+/// When to try again what failed: with the first tick, two ticks after that, then four, and so on, a few
+/// times. What a stopped application is asked waits for it in the bus, so it is asked ever more rarely and
+/// not for ever.
 class RetryPace {
   public:
-    /// Ticks; a longer pause would be taken for none trying any more.
-    static constexpr int longestPause = 32;
+    static constexpr int mostTries = 6;
 
     /// Whether it is time to try.
     bool tick() {
-        if (--m_left > 0)
+        if (m_tries == mostTries || --m_left > 0)
             return false;
-        m_left = m_pause = std::min(2 * m_pause, longestPause);
+        ++m_tries;
+        m_left = 1 << m_tries;
         return true;
     }
     /// Begins with the first try again.
     void restart() { *this = {}; }
 
   private:
-    int m_pause = 1; ///< that was kept before the next try
-    int m_left = 1;
+    int m_tries = 0;
+    int m_left = 1; ///< ticks until the next try
 };
 
 } // namespace quillon

@@ -11,7 +11,8 @@ import gi
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
-ANSWER_WITHIN = 1500  # milliseconds for one question
+ANSWER_WITHIN = 1500  # milliseconds for one question to an application, which may be stopped
+PATIENTLY = 10_000  # and to what always answers
 
 ROLES = {
     7: "check box", 8: "check menu item", 11: "combo box", 16: "dialog", 23: "frame", 29: "label", 31: "list", 32: "list item",
@@ -43,10 +44,10 @@ def accessibility_bus():
         address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION)
 
 
-def ask(connection, name, path, interface, method, arguments=None):
+def ask(connection, name, path, interface, method, arguments=None, within=PATIENTLY):
     """The unpacked answer; GLib.Error when there is none in time."""
     return connection.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NO_AUTO_START,
-                                ANSWER_WITHIN).unpack()
+                                within).unpack()
 
 
 class Accessible:
@@ -60,7 +61,7 @@ class Accessible:
 
     def _ask(self, interface, method, arguments=None, otherwise=None):
         try:
-            return ask(accessibility_bus(), self.bus_name, self.path, interface, method, arguments)
+            return ask(accessibility_bus(), self.bus_name, self.path, interface, method, arguments, ANSWER_WITHIN)
         except GLib.Error:
             return otherwise
 

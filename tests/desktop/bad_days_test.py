@@ -1,5 +1,6 @@
 """Applications that hang, die or answer late cost their own sheet, and nothing else."""
 
+import statistics
 import time
 
 import desktop
@@ -9,7 +10,7 @@ from independent_sheet import entries, read_menu_bar
 from quillon import QuillonTestCase, Ran, longest_stall, measure_stalls, row, sheet
 
 LONGEST_READ = 12.0  # seconds that reading an application that does not answer may take in all
-WAIT_FOR_ANOTHER = 100.0  # milliseconds; nobody waits for an answer with less patience, and the other does not answer
+SHORTEST_PATIENCE = 800.0  # milliseconds that the program waits for an application's answer, at least
 
 
 class BadDaysTest(QuillonTestCase):
@@ -71,28 +72,23 @@ class BadDaysTest(QuillonTestCase):
         self.wait_closed()
         self.assertTrue(self.quillon.is_running())
 
-    def longest_wait(self, is_stopped):
-        """Switches to mousepad and measures for how long the program was busy then, in milliseconds."""
+    def longest_wait(self):
+        """Switches to mousepad, which is stopped, and measures for how long the program was busy then, in ms."""
         self.mousepad.go_on()
         desktop.activate("Geany")
-        if is_stopped:
-            self.mousepad.stop()
+        self.mousepad.stop()
         measure_stalls()
         desktop.activate("Mousepad")
         time.sleep(1.5)  # past the time that one question to it may take
         return longest_stall()
 
     def test_the_program_answers_its_user_while_an_application_does_not(self):
-        """Asking the stopped application on the main thread would cost its patience each time; what else makes
-        the program wait on a busy machine does not come each time.
-        """
+        """What a busy machine adds is some tenths of a second now and then; waiting would take longer each time."""
         self.start_quillon()
-        answering, stopped = [], []
-        for _ in range(5):
-            answering.append(self.longest_wait(is_stopped=False))
-            stopped.append(self.longest_wait(is_stopped=True))
-        print(f"longest waits in ms: {answering} answering, {stopped} stopped", flush=True)
-        self.assertLess(min(stopped), WAIT_FOR_ANOTHER)
+        waits = [self.longest_wait() for _ in range(5)]
+        print(f"longest waits in ms: {waits}", flush=True)
+        self.assertLess(min(waits), SHORTEST_PATIENCE / 2)
+        self.assertLess(statistics.median(waits), SHORTEST_PATIENCE)
 
     def test_the_command_line_tells_of_other_applications_while_one_is_stopped(self):
         self.mousepad.stop()

@@ -17,7 +17,7 @@ APPLICATIONS = {
 }
 DESIGNER_TITLES = ("Qt Designer", "Qt Widgets Designer")  # by version
 READABLE = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
-SAVED_WITHIN = 4.0  # seconds, of which the program waits one after the last change
+SAVED_WITHIN = 15.0  # seconds, of which the program waits one after the last change
 
 
 def counts():
@@ -165,7 +165,7 @@ class GeanyClickTest(Counts, ClickTestCase):
     def test_a_muted_command_counts_in_silence(self):
         LEARNED.mkdir(parents=True, exist_ok=True)
         self.quillon.process.terminate()
-        self.quillon.process.wait(timeout=5)
+        self.quillon.process.wait(timeout=30)
         (LEARNED / "notes.json").write_text(json.dumps(
             {"apps": {self.bundle: {" › ".join(self.command): {"muted": True, "note": "", "pinned": False}}}}))
         self.start_watching()
@@ -191,7 +191,7 @@ class GeanyClickTest(Counts, ClickTestCase):
         desktop.xdotool("mousemove_relative", "--", 5, 40)
         time.sleep(0.4)
         press_and_let_go()
-        self.assertLess(longest_stall(), 100)
+        self.assertLess(longest_stall(), 400, "half of what waiting for the application would take")
         self.editor.go_on()
         self.menus.close()
         self.menus.choose(*self.command)

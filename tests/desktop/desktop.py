@@ -34,6 +34,14 @@ def wait_until(what, condition, within=15.0):
         time.sleep(0.02)
 
 
+def happens(condition, within):
+    """Whether the condition comes true in that time."""
+    try:
+        return bool(wait_until("it", condition, within=within))
+    except AssertionError:
+        return False
+
+
 def stays(what, condition, seconds):
     """Asserts that `condition` is true for all of that time."""
     deadline = time.monotonic() + seconds
@@ -66,7 +74,7 @@ def held(key):
 
 def finger_moves():
     """The time that no person is faster than between two keys; input at the very same moment spoils no hold."""
-    time.sleep(0.1)
+    time.sleep(0.2)
 
 
 def press(*keys):
@@ -273,5 +281,5 @@ class DesktopTestCase(unittest.TestCase):
 
 def main():
     """Runs the tests of the calling file; where they hang, says where, before the time is up."""
-    faulthandler.dump_traceback_later(280, exit=True)
+    faulthandler.dump_traceback_later(870, exit=True)
     unittest.main(verbosity=2)

@@ -23,7 +23,7 @@ class InstanceTest(QuillonTestCase):
         self.assertEqual(Ran().status, 0)
         wait_until("the menu of the first", lambda: desktop.visible_windows(self.quillon.pid))
         desktop.press("Up", "Return")  # Quit Quillon
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
 
     def test_the_keys_that_the_menu_shows_choose_its_lines(self):
         self.start_quillon()
@@ -34,7 +34,7 @@ class InstanceTest(QuillonTestCase):
         self.assertEqual(Ran().status, 0)
         wait_until("the menu again", lambda: len(desktop.visible_windows(self.quillon.pid)) == 2)
         desktop.press("ctrl+q")
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
 
     def test_show_opens_the_overlay_of_the_running_program_and_keeps_it_open(self):
         geany = self.start_application("geany", "--new-instance", "--no-session")
@@ -60,7 +60,7 @@ class InstanceTest(QuillonTestCase):
     def test_quit_ends_it(self):
         self.start_quillon()
         self.assertEqual(Ran("quit").status, 0)
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
         self.assertFalse(owns_name(SERVICE))
 
     def test_quit_without_a_running_program_fails_and_says_so(self):

@@ -33,7 +33,7 @@ class LearnedTest(QuillonTestCase):
         self.start_over_geany()
         self.pin("Save, ⌃S")
         self.quillon.process.terminate()
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
         self.assertIn("Save", (LEARNED / "notes.json").read_text(encoding="utf-8"))
         self.start_over_geany()
         self.wait_for_rows("the pin of the run before", is_pinned)
@@ -44,7 +44,7 @@ class LearnedTest(QuillonTestCase):
         self.start_application("geany", "--new-instance", "--no-session")
         self.start_over_geany()
         self.assertEqual(Ran("quit").status, 0)
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
         self.assertEqual((LEARNED / "usage.json.broken").read_text(), "[]")
         self.assertEqual((LEARNED / "usage.json").read_text(), '{"apps":{}}')
 

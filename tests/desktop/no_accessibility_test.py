@@ -25,7 +25,7 @@ class NoAccessibilityTest(QuillonTestCase):
         desktop.press("Escape")
         self.wait_closed()
         self.assertEqual(Ran("quit").status, 0)
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
 
     def test_the_sample_can_be_seen(self):
         before = desktop.screenshot("nothing")

@@ -166,20 +166,23 @@ class OverlayTest(QuillonTestCase):
         self.wait_closed()
 
     def test_an_application_that_is_still_being_read_fills_in_place(self):
-        mousepad = self.start_application("mousepad")
         self.quillon.end()
+        mousepad = self.start_application("mousepad")
         mousepad.stop()
         self.start_quillon()
         with self.overlay_held_open() as overlay:  # the reading that began with the program ends here
             wait_until("the end of a reading", lambda: overlay.says("No menu shortcuts in Mousepad"))
         self.wait_closed()
-        with self.overlay_held_open() as overlay:  # and another begins here
-            wait_until("the message", lambda: overlay.says("Reading Mousepad’s menus…"))
-            mousepad.go_on()
-            window = overlay.windows()
-            self.wait_for_rows("mousepad's commands", lambda rows: "Save, ⌃S" in rows)
-            self.assertEqual(overlay.windows(), window)
-        self.wait_closed()
+        for _ in range(6):  # and another begins with each hold; a busy machine may show it after its second is over
+            with self.overlay_held_open() as overlay:
+                if not desktop.happens(lambda: overlay.says("Reading Mousepad’s menus…"), within=1.5):
+                    continue
+                mousepad.go_on()
+                window = overlay.windows()
+                self.wait_for_rows("mousepad's commands", lambda rows: "Save, ⌃S" in rows)
+                self.assertEqual(overlay.windows(), window)
+            return self.wait_closed()
+        return self.fail("no reading was ever shown")
 
 
 if __name__ == "__main__":

@@ -76,7 +76,7 @@ class PracticeTest(OwnWindowsTestCase):
 
     def quit(self):
         self.assertEqual(Ran("quit").status, 0)
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
 
     def test_a_round_is_answered_right_wrong_and_revealed(self):
         self.open_practice()

@@ -40,7 +40,10 @@ class Ran:
 
 def sheet(*arguments):
     """The sheet that the program prints for such as `--app NAME`; AssertionError when it prints none."""
-    ran = Ran("sheet", *arguments, "--format", "json")
+    for _ in range(5):  # on a busy machine an application may fall silent for a second
+        ran = Ran("sheet", *arguments, "--format", "json")
+        if "the sheet is not complete" not in ran.errors:
+            break
     if ran.status != 0:
         raise AssertionError(f"quillon sheet {arguments}: {ran}")
     return json.loads(ran.output)

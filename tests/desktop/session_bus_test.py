@@ -112,7 +112,7 @@ class LostBusTest(QuillonTestCase):
         self.assertIn("held keys are noticed", self.first.messages.read_text()[earlier:], "it tells as much as before")
         ran = Ran("quit", environment=self.bus.environment)
         self.assertEqual(ran.status, 0, ran)
-        self.assertEqual(self.first.process.wait(timeout=5), 0)
+        self.assertEqual(self.first.process.wait(timeout=30), 0)
 
     def test_a_new_start_takes_over(self):
         self.bus.kill()

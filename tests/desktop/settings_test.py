@@ -109,7 +109,7 @@ class SettingsTest(OwnWindowsTestCase):
         self.wait_state("page tab", "General", "focused")
         self.open_tab("Coach")
         self.assertEqual(Ran("quit").status, 0)
-        self.quillon.process.wait(timeout=5)
+        self.quillon.process.wait(timeout=30)
         self.start_quillon()
         self.open_window("settings")
         self.wait_state("page tab", "Coach", "focused")

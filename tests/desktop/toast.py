@@ -8,7 +8,7 @@ from quillon import LEARNED, QuillonTestCase
 
 SIZE = 360, 92
 MARGIN = 12  # from the edges of the screen
-REST = 0.3  # seconds that a hand rests on what it is about to click
+REST = 0.6  # seconds that a hand rests on what it is about to click
 SHADOW = 36  # what it reaches beyond the toast, where windows are blended
 SHOWN_FOR = 2.8 + 0.4  # seconds, fading out included
 

@@ -44,7 +44,7 @@ class TypedTestCase(QuillonTestCase):
         if expected:
             wait_until("a count", usage)
         self.assertEqual(Ran("quit").status, 0)
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
         counts = {name.split(" › ")[-1]: count for (_, name), count in usage().items()}
         self.assertEqual(counts, {name: (0, typed) for name, typed in expected.items()})
 

@@ -81,7 +81,7 @@ class WindowsTest(WelcomeTest):
         with self.assertRaises(GLib.Error):
             act("nonsense")
         act("quit")
-        self.assertEqual(self.quillon.process.wait(timeout=5), 0)
+        self.assertEqual(self.quillon.process.wait(timeout=30), 0)
         self.assertFalse(owns_name(SERVICE))
 
     def test_activation_brings_up_the_menu(self):

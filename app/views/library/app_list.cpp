@@ -13,21 +13,12 @@
 
 namespace quillon {
 
-namespace {
-
-constexpr int edgeRoom = 6; ///< between the first row and the edge, as much as beside it
-
-} // namespace
-
 AppList::AppList(ThemeSource& themes, AppIconCache& icons, QWidget* parent)
     : QListView(parent), m_themes(themes), m_apps(new AppListModel(this)) {
     setModel(m_apps);
     setItemDelegate(new AppListDelegate(themes, icons, this));
     setAccessibleName(LibraryTexts::appsName());
     setFrameShape(QFrame::NoFrame);
-    setUniformItemSizes(true);
-    setViewportMargins(0, edgeRoom, 0, 0);
-    setAutoFillBackground(true);
     setMouseTracking(true);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -74,7 +65,6 @@ void AppList::keyPressEvent(QKeyEvent* event) {
 void AppList::wearTheme() {
     QPalette colours = m_themes.theme().palette.forToolkit();
     colours.setColor(QPalette::Base, m_themes.theme().palette.card);
-    colours.setColor(QPalette::Window, m_themes.theme().palette.card);
     setPalette(colours);
     makeThin(*verticalScrollBar(), m_themes.theme());
     scheduleDelayedItemsLayout();

@@ -18,9 +18,21 @@ constexpr int gap = 10;
 constexpr int inset = 6; ///< of the row's background
 constexpr double cornerRadius = 7;
 
-void paintBackground(QPainter& painter, const QStyleOptionViewItem& option, const Palette& palette) {
+struct EdgeRoom {
+    int above = 0;
+    int below = 0;
+};
+
+/// As much as beside them, above the first row and below the last.
+EdgeRoom edgeRoom(const QModelIndex& index) {
+    const int last = index.model()->rowCount(index.parent()) - 1;
+    return {index.row() == 0 ? inset : 0, index.row() == last ? inset : 0};
+}
+
+void paintBackground(
+    QPainter& painter, const QStyleOptionViewItem& option, const QRect& row, const Palette& palette) {
     const bool isChosen = option.state.testFlag(QStyle::State_Selected);
-    const QRectF background = QRectF(option.rect).adjusted(inset, 1, -inset, -1);
+    const QRectF background = QRectF(row).adjusted(inset, 1, -inset, -1);
     if (isChosen || option.state.testFlag(QStyle::State_MouseOver)) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isChosen ? palette.primaryAt(0.12) : palette.hover);
@@ -62,10 +74,11 @@ void paintLine(QPainter& painter, const QRect& place, Qt::Alignment where, const
 AppListDelegate::AppListDelegate(ThemeSource& themes, AppIconCache& icons, QObject* parent)
     : QStyledItemDelegate(parent), m_themes(themes), m_icons(icons) {}
 
-QSize AppListDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+QSize AppListDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
     const TextStyles& styles = m_themes.theme().styles;
     const int lines = QFontMetrics(styles.body).height() + QFontMetrics(styles.caption).height();
-    return {0, std::max(iconSize, lines) + 2 * verticalPadding};
+    const EdgeRoom edge = edgeRoom(index);
+    return {0, edge.above + std::max(iconSize, lines) + 2 * verticalPadding + edge.below};
 }
 
 void AppListDelegate::paint(
@@ -74,11 +87,12 @@ void AppListDelegate::paint(
     const TextStyles& styles = m_themes.theme().styles;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    paintBackground(*painter, option, palette);
+    const EdgeRoom edge = edgeRoom(index);
+    const QRect whole = option.rect.adjusted(0, edge.above, 0, -edge.below);
+    paintBackground(*painter, option, whole, palette);
 
     painter->setLayoutDirection(option.direction);
-    const QRect row =
-        option.rect.adjusted(inset + padding, verticalPadding, -inset - padding, -verticalPadding);
+    const QRect row = whole.adjusted(inset + padding, verticalPadding, -inset - padding, -verticalPadding);
     const auto mirrored = [&](const QRect& place) {
         return QStyle::visualRect(option.direction, option.rect, place);
     };

@@ -9,7 +9,7 @@ OverlayState overlayState(const OverlayFacts& facts) {
         return OverlayState::noSheet;
     if (facts.hasEntries)
         return OverlayState::shortcuts;
-    if (facts.reading)
+    if (facts.reading && !facts.retrying)
         return OverlayState::reading;
     return facts.answered ? OverlayState::noShortcuts : OverlayState::noAnswer;
 }

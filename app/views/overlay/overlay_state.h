@@ -25,7 +25,8 @@ struct OverlayFacts {
     bool hasSheet = false;
     bool hasEntries = false;
     bool reading = false;
-    bool answered = true; ///< when the application was read last
+    bool answered = true;  ///< when the application was read last
+    bool retrying = false; ///< it is read once more because it did not answer
 };
 
 OverlayState overlayState(const OverlayFacts& facts);

@@ -154,6 +154,7 @@ void OverlayView::refreshState() {
         .hasEntries = !sheet().entries.empty(),
         .reading = m_model.reading(),
         .answered = m_model.answered(),
+        .retrying = m_model.retrying(),
     });
     m_matches = m_sheet.matches(m_model.query());
 }

@@ -195,5 +195,20 @@ TEST(PdfDocument, SignsAreDrawnAsOnTheScreen) {
     EXPECT_GE(signs.size(), 10U);
 }
 
+/// Signs are filled with a pen at hand. What it would draw is too thin to be seen in a picture of the page.
+TEST(PdfDocument, ThePenOfSignsNeverComesDown) {
+    const PdfTools tools(documentOf(printed(gimpSheet())));
+    const QString drawn =
+        tools.said(u"qpdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s, u"FILE"_s, u"-"_s});
+    static const QRegularExpression dashes(u"\\[([\\d.]+) ([\\d.]+) ?\\] ?([\\d.]+) +d\\n"_s);
+    int pens = 0;
+    for (const QRegularExpressionMatch& match : dashes.globalMatch(drawn)) {
+        ++pens;
+        EXPECT_GT(match.captured(3).toDouble(), match.captured(1).toDouble()) << "begins in a dash";
+        EXPECT_GE(match.captured(2).toDouble(), 1e5) << "the next dash is near";
+    }
+    EXPECT_GT(pens, 100);
+}
+
 } // namespace
 } // namespace quillon

@@ -217,6 +217,14 @@ TEST_F(CommandsTest, AnApplicationWithoutShortcutsHasNoSheet) {
     EXPECT_EQ(reader.asked().size(), 3U);
 }
 
+TEST_F(CommandsTest, OneThatToldOnlyWhatItsMenusAreCalledHasToldNothing) {
+    MenuReading reading = menus({});
+    reading.outcome = ReadOutcome::partial;
+    reader.answer(10, reading);
+    EXPECT_EQ(sheet(), ExitCode::noShortcuts);
+    EXPECT_EQ(reader.asked().size(), 3U);
+}
+
 TEST_F(CommandsTest, AnApplicationWithoutMenusIsAskedOnce) {
     reader.answer(10, {{}, ReadOutcome::noMenuBar});
     EXPECT_EQ(sheet(), ExitCode::noShortcuts);

@@ -180,15 +180,24 @@ TEST_F(AppModelTest, AsksAnApplicationAgainThatDidNotAnswer) {
     EXPECT_FALSE(model.answered());
     answer(sketch, 3);
     desktop.timers.advance(Seconds(2));
-    EXPECT_FALSE(model.reading()) << "what is shown says that it does not answer, and stays until it does";
+    EXPECT_TRUE(model.reading());
+    EXPECT_TRUE(model.retrying());
     desktop.background.runAll();
+    EXPECT_FALSE(model.retrying());
     EXPECT_EQ(entriesShown(), 3U);
     EXPECT_TRUE(model.answered());
+}
+
+TEST_F(AppModelTest, OneThatAnsweredCostsNothingAnyMore) {
+    answer(sketch, 3);
+    startWith(sketch);
+    const std::size_t questions = desktop.front.questions();
     desktop.timers.advance(Seconds(100));
+    EXPECT_EQ(desktop.front.questions(), questions);
     EXPECT_EQ(desktop.background.waiting(), 0U);
 }
 
-TEST_F(AppModelTest, AsksAnApplicationThatStaysStoppedEverMoreRarely) {
+TEST_F(AppModelTest, AsksAnApplicationThatStaysStoppedEverMoreRarelyUntilTheUserAsks) {
     answer(sketch, 0, ReadOutcome::partial);
     startWith(sketch);
     const auto readingsWithin = [this](int seconds) {
@@ -201,41 +210,62 @@ TEST_F(AppModelTest, AsksAnApplicationThatStaysStoppedEverMoreRarely) {
         return readings;
     };
     EXPECT_EQ(readingsWithin(14), 3U);
-    EXPECT_EQ(readingsWithin(640), 11U);
+    EXPECT_EQ(readingsWithin(1000), 3U);
     model.showOverlay(Stickiness::held);
-    EXPECT_TRUE(model.reading()) << "the user asked";
+    EXPECT_TRUE(model.reading());
+    EXPECT_FALSE(model.retrying());
     desktop.background.runAll();
     EXPECT_EQ(readingsWithin(14), 3U);
+}
+
+TEST_F(AppModelTest, ABusThatIsGoneForAMomentEndsNoAttempts) {
+    answer(sketch, 0, ReadOutcome::partial);
+    startWith(sketch);
+    answer(sketch, 0, ReadOutcome::unavailable);
+    desktop.timers.advance(Seconds(2));
+    desktop.background.runAll();
+    answer(sketch, 3);
+    desktop.timers.advance(Seconds(4));
+    desktop.background.runAll();
+    EXPECT_EQ(entriesShown(), 3U);
 }
 
 TEST_F(AppModelTest, AsksNoneAgainThatIsInFrontNoMore) {
     answer(sketch, 0, ReadOutcome::partial);
     startWith(sketch);
-    answer(writer, 5);
-    desktop.front.activate(writer);
-    desktop.background.runAll();
+    desktop.front.setCurrent(std::nullopt);
     desktop.timers.advance(Seconds(100));
     EXPECT_EQ(desktop.background.waiting(), 0U);
 }
 
-TEST_F(AppModelTest, ASecondQuestionIsNoReadingThatTheNextApplicationInherits) {
+TEST_F(AppModelTest, AsksNoneAgainWithoutPermission) {
+    answer(sketch, 0, ReadOutcome::partial);
+    startWith(sketch);
+    desktop.access.setTrusted(false);
+    desktop.timers.advance(Seconds(100));
+    EXPECT_EQ(desktop.background.waiting(), 0U);
+}
+
+TEST_F(AppModelTest, TheNextApplicationIsNotTakenForOneThatIsAskedAgain) {
     answer(sketch, 0, ReadOutcome::partial);
     startWith(sketch);
     desktop.timers.advance(Seconds(2));
     answer(writer, 5);
     desktop.front.activate(writer);
     EXPECT_TRUE(model.reading());
+    EXPECT_FALSE(model.retrying());
     desktop.background.runAll();
-    EXPECT_FALSE(model.reading());
     EXPECT_EQ(entriesShown(), 5U);
 }
 
-TEST_F(AppModelTest, ForgettingEverythingForgetsWhoDidNotAnswer) {
+TEST_F(AppModelTest, ForgettingEverythingForgetsWhoIsAskedAgain) {
     answer(sketch, 0, ReadOutcome::partial);
     startWith(sketch);
-    model.eraseEverything();
     desktop.timers.advance(Seconds(2));
-    EXPECT_TRUE(model.reading());
+    EXPECT_TRUE(model.retrying());
+    model.eraseEverything();
+    desktop.background.runAll();
+    EXPECT_FALSE(model.retrying());
 }
 
 TEST_F(AppModelTest, TakesAShorterSheetOfAnApplicationThatSharesMoreThanIsRead) {

@@ -62,6 +62,8 @@ TEST(CurrentSheetTest, RemembersWhetherTheCurrentApplicationAnswered) {
     EXPECT_FALSE(sheets.answered()) << "until it is read again";
     sheets.arrived(appOf("b"), sheetOf("b", 1), ReadOutcome::complete, false);
     EXPECT_FALSE(sheets.answered()) << "another one did";
+    sheets.arrived(appOf("a"), sheetOf("a", 0), ReadOutcome::unavailable, true);
+    EXPECT_FALSE(sheets.answered()) << "it was not even asked";
     sheets.frontIs(appOf("b"));
     EXPECT_TRUE(sheets.answered());
     sheets.frontIs(appOf("a"));

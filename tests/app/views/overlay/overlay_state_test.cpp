@@ -38,7 +38,9 @@ TEST(OverlayState, AnApplicationWithoutShortcutsThatDidNotAnswerIsAStateOfItsOwn
     EXPECT_EQ(overlayState(facts), OverlayState::noAnswer);
     facts.reading = true;
     EXPECT_EQ(overlayState(facts), OverlayState::reading);
-    facts.reading = false;
+    facts.retrying = true;
+    EXPECT_EQ(overlayState(facts), OverlayState::noAnswer) << "no change to and fro with each attempt";
+    facts.reading = facts.retrying = false;
     facts.hasEntries = true;
     EXPECT_EQ(overlayState(facts), OverlayState::shortcuts);
 }
