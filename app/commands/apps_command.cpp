@@ -1,4 +1,5 @@
 #include "commands.h"
+#include "patient_reading.h"
 
 #include <quillon/app/cli/sheet_text.h>
 
@@ -18,7 +19,7 @@ std::vector<ListedApp> withMenus(std::vector<ListedApp> apps, MenuReader& reader
     answers.reserve(apps.size());
     for (const ListedApp& listed : apps)
         answers.push_back(std::async(std::launch::async, [&reader, &app = listed.app] {
-            return !reader.readMenus(app, {}).menuBar.empty();
+            return !readPatiently(app, reader).menuBar.empty();
         }));
     std::vector<ListedApp> sharing;
     for (std::size_t i = 0; i < apps.size(); ++i)

@@ -1,4 +1,5 @@
 #include "commands.h"
+#include "patient_reading.h"
 
 #include <quillon/app/cli/app_choice.h>
 #include <quillon/app/cli/sheet_text.h>
@@ -130,34 +131,13 @@ ExitCode print(
     return ExitCode::success;
 }
 
-struct ReadSheet {
-    AppSheet sheet;
-    ReadOutcome outcome;
-};
-
-ReadSheet readOnce(const RunningApp& app, MenuReader& menuReader, const Clock& clock) {
-    const MenuReading reading = menuReader.readMenus(app, {});
-    return {
-        {app.bundleID, app.name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
-         clock.now()},
-        reading.outcome};
-}
-
-/// One that told nothing before it fell silent may only be busy, and a command can wait a little longer than
-/// a program with windows to draw: it is asked a few times.
-ReadSheet readPatiently(const RunningApp& app, MenuReader& menuReader, const Clock& clock) {
-    constexpr int mostReadings = 3;
-    ReadSheet read = readOnce(app, menuReader, clock);
-    for (int i = 1; i < mostReadings && read.outcome == ReadOutcome::partial && read.sheet.entries.empty();
-         ++i)
-        read = readOnce(app, menuReader, clock);
-    return read;
-}
-
 /// The whole sheet of `app`. Says what it lacks; without entries there is none to print.
 AppSheet readSheet(const RunningApp& app, MenuReader& menuReader, const Clock& clock, Output& output) {
-    auto [sheet, outcome] = readPatiently(app, menuReader, clock);
-    if (const QString missing = whatIsMissing(sheet, outcome); !missing.isEmpty())
+    const MenuReading reading = readPatiently(app, menuReader);
+    AppSheet sheet{
+        app.bundleID, app.name, MenuParser::entries(reading.menuBar, MenuParser::defaultMaxDepth),
+        clock.now()};
+    if (const QString missing = whatIsMissing(sheet, reading.outcome); !missing.isEmpty())
         output.say(TerminalText::sentence(missing.arg(nameOf(app))));
     return sheet;
 }

@@ -241,13 +241,22 @@ TEST_F(CommandsTest, WhatWasReadOfAnApplicationThatStoppedAnsweringIsPrinted) {
     EXPECT_EQ(reader.asked().size(), 1U);
 }
 
+struct BusyAtFirst final : MenuReader {
+    int readings = 0;
+    MenuReading readMenus(const RunningApp&, std::stop_token) override {
+        return ++readings < 3 ? MenuReading{{}, ReadOutcome::partial} : menus({item("New", "N")});
+    }
+};
+
+TEST_F(CommandsTest, AnApplicationThatWasBusyForAMomentIsListed) {
+    BusyAtFirst busy;
+    applications.running.pop_back();
+    EXPECT_EQ(runApps(applications, busy, output), ExitCode::success);
+    EXPECT_NE(results.text().find("Sketch"), std::string::npos);
+}
+
 TEST_F(CommandsTest, AnApplicationThatWasBusyForAMomentHasItsSheet) {
-    struct BusyAtFirst final : MenuReader {
-        int readings = 0;
-        MenuReading readMenus(const RunningApp&, std::stop_token) override {
-            return ++readings < 3 ? MenuReading{{}, ReadOutcome::partial} : menus({item("New", "N")});
-        }
-    } busy;
+    BusyAtFirst busy;
     EXPECT_EQ(runSheet({}, {applications, busy, exports, clock}, folder.path(), output), ExitCode::success);
     EXPECT_EQ(messages.text(), "");
 }
